@@ -1,0 +1,10 @@
+# Link a target to this to build it with the project's warnings, all of them errors.
+add_library(zarvil_warnings INTERFACE)
+target_compile_options(
+    zarvil_warnings
+    INTERFACE -Wall
+              -Wextra
+              -Wpedantic
+              -Wconversion
+              -Wshadow
+              -Werror)

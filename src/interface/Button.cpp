@@ -1,0 +1,24 @@
+#include "interface/Button.h"
+
+namespace zarvil {
+
+Button::Button(ButtonKind kind, std::unique_ptr<ButtonCell> cell)
+    : kind_(kind), cell_(std::move(cell)) {}
+
+void Button::performClick() {
+    if (isEnabled())
+        completePress();
+}
+
+void Button::completePress() {
+    if (kind_ == ButtonKind::Toggle)
+        cell_->setNextState();
+    sendAction();
+}
+
+void Button::setEnabled(bool enabled) {
+    cell_->setEnabled(enabled);
+    Control::setEnabled(enabled);
+}
+
+} // namespace zarvil

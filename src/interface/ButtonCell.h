@@ -1,0 +1,71 @@
+#pragma once
+
+#include "interface/Geometry.h"
+#include "interface/Property.h"
+
+namespace zarvil {
+
+class ButtonCell;
+class View;
+
+/// States of a two-state button. Mixed is neither; a click turns it on.
+namespace buttonState {
+
+inline constexpr int mixed = -1;
+inline constexpr int off = 0;
+inline constexpr int on = 1;
+
+} // namespace buttonState
+
+/// Capability of a control view that can redraw one cell at once.
+class CellDrawing {
+public:
+    CellDrawing() = default;
+    CellDrawing(const CellDrawing&) = delete;
+    CellDrawing& operator=(const CellDrawing&) = delete;
+    virtual ~CellDrawing() = default;
+
+    virtual void drawCell(ButtonCell& cell) = 0;
+};
+
+/// The part of a button that holds its state and follows the mouse. This base is the standard
+/// button; drawn controls derive from it. Points are in the control view's coordinates.
+class ButtonCell {
+public:
+    ButtonCell() = default;
+    ButtonCell(const ButtonCell&) = delete;
+    ButtonCell& operator=(const ButtonCell&) = delete;
+    virtual ~ButtonCell() = default;
+
+    void setState(int state) { state_.set(state); }
+    [[nodiscard]] int state() const { return state_.get(); }
+    [[nodiscard]] const Property<int>& stateProperty() const { return state_; }
+    /// Advances as a click does: on becomes off, anything else becomes on.
+    void setNextState() {
+        setState(state() == buttonState::on ? buttonState::off : buttonState::on);
+    }
+
+    void setEnabled(bool enabled) { enabled_ = enabled; }
+    [[nodiscard]] bool isEnabled() const { return enabled_; }
+    /// Pressed, with the pointer over it.
+    void setHighlighted(bool highlighted) { highlighted_.set(highlighted); }
+    [[nodiscard]] bool isHighlighted() const { return highlighted_.get(); }
+    [[nodiscard]] const Property<bool>& highlightedProperty() const { return highlighted_; }
+
+    /// Whether a press goes on wherever the pointer moves, until the button is released.
+    [[nodiscard]] virtual bool prefersTrackingUntilMouseUp() const { return false; }
+    /// Mouse-down; false ends the tracking at once. `controlView` may be null throughout.
+    virtual bool startTrackingAt(Point /*start*/, View* /*controlView*/) { return true; }
+    virtual bool continueTracking(Point /*last*/, Point /*current*/, View* /*controlView*/) {
+        return true;
+    }
+    virtual void stopTracking(Point /*last*/, Point /*stop*/, View* /*controlView*/,
+                              bool /*mouseIsUp*/) {}
+
+private:
+    Property<int> state_{buttonState::off};
+    Property<bool> highlighted_{false};
+    bool enabled_ = true;
+};
+
+} // namespace zarvil

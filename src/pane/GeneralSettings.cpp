@@ -1,0 +1,157 @@
+#include "pane/Zarvil_Preferences.h"
+#include "protocol/Messages.h"
+#include "protocol/Numbers.h"
+#include "protocol/Settings.h"
+
+namespace zarvil {
+
+namespace {
+
+constexpr std::string_view showMinutesDefault = "kZVShowMinutes";
+constexpr float secondsPerMinute = 60.0F;
+
+int stateFor(bool on) { return on ? buttonState::on : buttonState::off; }
+
+bool isOn(const Button& button) { return button.state() != buttonState::off; }
+
+/// The sender as the kind of control that the action works on, or null.
+template <typename Kind>
+Kind* senderAs(Control* sender) {
+    return dynamic_cast<Kind*>(sender);
+}
+
+std::int64_t secondsFromMinutes(float minutes) {
+    return numbers::truncated(numbers::narrowed(double{minutes * secondsPerMinute}));
+}
+
+} // namespace
+
+void Zarvil_Preferences::restoreDelayUnit() {
+    if (!platform_.defaults.boolForKey(showMinutesDefault))
+        return;
+    toggleMinSec.setState(buttonState::on);
+    toggleMinSec.setTitle(platform_.strings.localizedString("minutes"));
+}
+
+void Zarvil_Preferences::setupPrefs(const Message* message) {
+    const Dictionary& settings = message->info();
+    const auto show = [&settings](Button& button, std::string_view key) {
+        button.setState(stateFor(settings.boolForKey(key)));
+    };
+    show(launchAtLogin, setting::launchAtLogin);
+    show(showIcon, setting::showStatusIcon);
+    show(forceQuit, setting::useForce);
+    show(monoIcon, setting::statusIconMono);
+    show(showShutdownMessage, setting::shutdownMessage);
+    showSavedDelay(settings);
+    // From the shutdown message alone; `toggleShowShutdownMessage` follows another rule on purpose.
+    hideShutdownMessage.setEnabled(isOn(showShutdownMessage));
+    showSavedPushover(settings);
+    showSavedEmail(settings);
+    show(hideShutdownMessageButton, setting::hideShutdownMessage);
+    show(showFailureNotifi, setting::showFailNotifi);
+    show(checkForUpdates, setting::enableAutomaticChecks);
+    testing = settings.boolForKey(setting::testing);
+    testSettingsButton.setEnabled(!testing);
+    showSavedScripts(settings);
+    lostConnection = false;
+}
+
+void Zarvil_Preferences::showSavedDelay(const Dictionary& settings) {
+    if (toggleMinSec.state() == buttonState::on)
+        shutdownDelayText.setFloatValue(settings.floatForKey(setting::shutdownDelay) /
+                                        secondsPerMinute);
+    else
+        shutdownDelayText.setIntegerValue(settings.integerForKey(setting::shutdownDelay));
+}
+
+void Zarvil_Preferences::showSavedScripts(const Dictionary& settings) {
+    const bool on = settings.boolForKey(setting::useScripts);
+    useScriptsButton.setState(stateFor(on));
+    scriptsCollection.setAlphaValue(on ? alpha::active : alpha::dimmed);
+    scriptsTitle.setEnabled(on);
+    createNewScript.setEnabled(false);
+    scriptsTitle.setStringValue("");
+}
+
+void Zarvil_Preferences::toggleShowIcon(Control* sender) {
+    postState(setting::showStatusIcon, sender);
+}
+
+void Zarvil_Preferences::toggleMonoIcon(Control* sender) {
+    postState(setting::statusIconMono, sender);
+}
+
+void Zarvil_Preferences::toggleForceQuit(Control* sender) { postState(setting::useForce, sender); }
+
+void Zarvil_Preferences::setShouldLaunchAtLogin(Control* sender) {
+    postState(setting::launchAtLogin, sender);
+}
+
+void Zarvil_Preferences::showFailNotifi(Control* sender) {
+    postState(setting::showFailNotifi, sender);
+}
+
+void Zarvil_Preferences::autoUpdates(Control* sender) {
+    postState(setting::enableAutomaticChecks, sender);
+}
+
+void Zarvil_Preferences::toggleShowConnectedMessage(Control* sender) {
+    const auto* box = senderAs<Button>(sender);
+    if (!box)
+        return;
+    hideConnectMessage.setEnabled(isOn(*box));
+    postState(setting::newDeviceMessage, sender);
+}
+
+void Zarvil_Preferences::toggleShowShutdownMessage(Control* sender) {
+    const auto* box = senderAs<Button>(sender);
+    if (!box)
+        return;
+    const bool on = isOn(*box);
+    const bool hide = isOn(hideShutdownMessageButton);
+    hideShutdownMessage.setEnabled(on && hide);
+    shutdownDelayText.setEnabled(!on || !hide);
+    hideShutdownMessageButton.setEnabled(on);
+    postState(setting::shutdownMessage, sender);
+}
+
+void Zarvil_Preferences::setShutdownDelay(Control* sender) {
+    const auto* field = senderAs<TextField>(sender);
+    if (!field)
+        return;
+    const std::int64_t seconds = toggleMinSec.state() == buttonState::on
+                                     ? secondsFromMinutes(field->floatValue())
+                                     : field->integerValue();
+    postSetting(setting::shutdownDelay, seconds);
+}
+
+void Zarvil_Preferences::toggleMinutesSeconds(Control* sender) {
+    auto* unit = senderAs<Button>(sender);
+    if (!unit)
+        return;
+    platform_.defaults.setBool(isOn(*unit), showMinutesDefault);
+    if (unit->state() != buttonState::on) {
+        shutdownDelayText.setIntegerValue(secondsFromMinutes(shutdownDelayText.floatValue()));
+        unit->setTitle(platform_.strings.localizedString("seconds"));
+        return;
+    }
+    unit->setTitle(platform_.strings.localizedString("minutes"));
+    // Whole minutes: the remainder is lost on purpose, the agent keeps its seconds.
+    const auto seconds = static_cast<float>(shutdownDelayText.integerValue());
+    shutdownDelayText.setIntegerValue(numbers::truncated(double{seconds / secondsPerMinute}));
+}
+
+void Zarvil_Preferences::testShutdown(Control* sender) {
+    testing = true;
+    if (sender)
+        sender->setEnabled(false);
+    post(message::testShutdown);
+}
+
+void Zarvil_Preferences::testFinished(const Message* /*message*/) {
+    testSettingsButton.setEnabled(state && !lostConnection);
+    testing = false;
+}
+
+} // namespace zarvil

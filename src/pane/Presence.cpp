@@ -1,0 +1,126 @@
+#include "pane/Product.h"
+#include "pane/Zarvil_Preferences.h"
+#include "protocol/Messages.h"
+
+#include <algorithm>
+
+namespace zarvil {
+
+namespace {
+
+constexpr double answerTimeout = 2.0; // seconds
+
+} // namespace
+
+std::string Zarvil_Preferences::agentApplicationPath() const {
+    return platform_.root + std::string(product::agentApplication);
+}
+
+void Zarvil_Preferences::appStatus() {
+    appOfflineTimer.reset();
+    appOfflineTimer =
+        platform_.timers.schedule(answerTimeout, Repetition::Once, [this] { appDidNotAnswer(); });
+    post(message::ping);
+}
+
+void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
+    if (lostConnection) {
+        lostConnection = false;
+        emptyDeviceLists();
+        post(message::prefsLoaded);
+    }
+    launchButton.setEnabled(true);
+    appOfflineTimer.reset();
+    // The disabled switch is the look of an absent agent; no flag repeats it.
+    if (togglePowerButton.isEnabled())
+        return;
+    setInterfaceEnabled(true);
+    togglePowerButton.setEnabled(true);
+    notLaunchedDesc.setHidden(true);
+    launchedDesc.setHidden(false);
+    showLaunchButton("Quit Zarvil", "quitApp:");
+    connectedDevices.setAlphaValue(alpha::active);
+    selectedDevices.setAlphaValue(alpha::active);
+}
+
+void Zarvil_Preferences::appDidNotAnswer() {
+    lostConnection = true;
+    launchButton.setEnabled(true);
+    appOfflineTimer.reset();
+    if (!togglePowerButton.isEnabled())
+        return;
+    togglePowerButton.setState(buttonState::off);
+    state = false;
+    onDesc.setHidden(true);
+    offDesc.setHidden(false);
+    emptyDeviceLists();
+    setInterfaceEnabled(false);
+    togglePowerButton.setEnabled(false);
+    launchedDesc.setHidden(true);
+    notLaunchedDesc.setHidden(false);
+    showLaunchButton("Launch Zarvil", "launchApp:");
+    arrayController.removeAllArrangedObjects();
+    connectedDevices.setAlphaValue(alpha::dimmed);
+    selectedDevices.setAlphaValue(alpha::dimmed);
+    pushIndicator.stopAnimation();
+}
+
+void Zarvil_Preferences::showLaunchButton(std::string_view title, std::string_view action) {
+    launchButton.setTitle(title);
+    launchButton.setTarget(this);
+    launchButton.setAction(action);
+}
+
+void Zarvil_Preferences::emptyDeviceLists() {
+    devices.clear();
+    savedArrayController.removeAllArrangedObjects();
+    arrayController.removeAllArrangedObjects();
+}
+
+void Zarvil_Preferences::launchApp(Control* /*sender*/) {
+    launchButton.setEnabled(false);
+    platform_.workspace.launchApplication(agentApplicationPath());
+}
+
+void Zarvil_Preferences::quitApp(Control* sender) {
+    launchButton.setEnabled(false);
+    // With protection off the agent is launched instead of quit, on purpose.
+    if (state)
+        post(message::quit);
+    else
+        launchApp(sender);
+}
+
+void Zarvil_Preferences::toggleOnOff(Control* sender) {
+    state = !state;
+    if (!testing)
+        testSettingsButton.setEnabled(state);
+    if (sender != &togglePowerButton)
+        togglePowerButton.setState(state ? buttonState::on : buttonState::off);
+    offDesc.setHidden(state);
+    onDesc.setHidden(!state);
+    platform_.messages.post(
+        Message(message::setState, Dictionary{{std::string(payload::state), state}}));
+}
+
+void Zarvil_Preferences::stateChanged(const Message* message) {
+    appDidAnswer(nullptr);
+    // Flipping also echoes the agent's own state back to it, on purpose.
+    if (message->info().boolForKey(payload::state) != state)
+        toggleOnOff(nullptr);
+}
+
+void Zarvil_Preferences::quitePrefs(const Message* /*message*/) {
+    killHost();
+    platform_.processes.exit(0);
+}
+
+void Zarvil_Preferences::killHost() {
+    const auto running = platform_.workspace.runningApplications();
+    const auto host = std::ranges::find(running, platform_.workspace.mainBundleIdentifier(),
+                                        &RunningApplication::bundleIdentifier);
+    if (host != running.end())
+        platform_.processes.kill(host->processIdentifier);
+}
+
+} // namespace zarvil

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace zarvil {
+
+enum class Interaction : std::uint8_t { None, MayAskUser };
+
+/// Whether the user holds a right, and in words why not.
+struct AuthorizationOutcome {
+    bool granted = false;
+    std::string reason;
+};
+
+/// Asks the system's authority about rights.
+class Authorization {
+public:
+    using Reply = std::function<void(const AuthorizationOutcome&)>;
+
+    Authorization() = default;
+    Authorization(const Authorization&) = delete;
+    Authorization& operator=(const Authorization&) = delete;
+    virtual ~Authorization() = default;
+
+    /// Never waits: the reply comes later on the main thread, once, unless this object goes first.
+    virtual void check(std::string_view right, Interaction interaction, Reply reply) = 0;
+};
+
+} // namespace zarvil

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace zarvil {
+class Panel;
+}
+
+namespace zarvil {
+
+/// Nested run loops that a panel waits in.
+class ModalLoop {
+public:
+    ModalLoop() = default;
+    ModalLoop(const ModalLoop&) = delete;
+    ModalLoop& operator=(const ModalLoop&) = delete;
+    virtual ~ModalLoop() = default;
+
+    /// Returns after `stopModal`.
+    virtual void runModalForWindow(Panel& panel) = 0;
+    /// Ends the innermost loop once the action under way returns; without a loop it does nothing.
+    virtual void stopModal() = 0;
+};
+
+} // namespace zarvil

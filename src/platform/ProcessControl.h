@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zarvil {
+
+/// Ends processes.
+class ProcessControl {
+public:
+    ProcessControl() = default;
+    ProcessControl(const ProcessControl&) = delete;
+    ProcessControl& operator=(const ProcessControl&) = delete;
+    virtual ~ProcessControl() = default;
+
+    /// Sends SIGKILL.
+    virtual void kill(std::int64_t processIdentifier) = 0;
+    /// Ends this process; does not return outside tests.
+    virtual void exit(int status) = 0;
+};
+
+} // namespace zarvil

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+namespace zarvil {
+
+/// The pane's own preferences of this user, kept across restarts.
+class UserDefaults {
+public:
+    UserDefaults() = default;
+    UserDefaults(const UserDefaults&) = delete;
+    UserDefaults& operator=(const UserDefaults&) = delete;
+    virtual ~UserDefaults() = default;
+
+    /// False for a key that was never set.
+    [[nodiscard]] virtual bool boolForKey(std::string_view key) const = 0;
+    virtual void setBool(bool value, std::string_view key) = 0;
+};
+
+} // namespace zarvil

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace zarvil {
+
+class Value;
+
+using Data = std::vector<std::byte>;
+using Array = std::vector<Value>;
+
+/// A string-keyed property-list dictionary. The readers forgive: a missing key reads as false,
+/// 0 or null, and so does a value that cannot be read as what is asked for.
+class Dictionary {
+public:
+    using Entries = std::map<std::string, Value, std::less<>>;
+
+    Dictionary() = default;
+    Dictionary(std::initializer_list<std::pair<const std::string, Value>> entries);
+
+    /// Null when the key is missing. Valid until the dictionary changes.
+    [[nodiscard]] const Value* objectForKey(std::string_view key) const;
+    void setObject(std::string_view key, Value value);
+
+    [[nodiscard]] bool boolForKey(std::string_view key) const;
+    [[nodiscard]] std::int64_t integerForKey(std::string_view key) const;
+    [[nodiscard]] float floatForKey(std::string_view key) const;
+    /// Null unless the value is a string.
+    [[nodiscard]] const std::string* stringForKey(std::string_view key) const;
+    /// Null unless the value is an array.
+    [[nodiscard]] const Array* arrayForKey(std::string_view key) const;
+    /// Null unless the value is a dictionary.
+    [[nodiscard]] const Dictionary* dictionaryForKey(std::string_view key) const;
+
+    [[nodiscard]] std::size_t count() const { return entries_.size(); }
+    [[nodiscard]] const Entries& entries() const { return entries_; }
+
+    friend bool operator==(const Dictionary& left, const Dictionary& right);
+
+private:
+    Entries entries_;
+};
+
+/// One property-list value, the only kind of thing that travels between pane and agent.
+class Value {
+public:
+    using Storage = std::variant<bool, std::int64_t, double, std::string, Data, Array, Dictionary>;
+
+    Value(bool value) : storage_(value) {}
+    Value(int value) : storage_(std::int64_t{value}) {}
+    Value(std::int64_t value) : storage_(value) {}
+    Value(double value) : storage_(value) {}
+    Value(const char* value) : storage_(std::string(value)) {}
+    Value(std::string_view value) : storage_(std::string(value)) {}
+    Value(std::string value) : storage_(std::move(value)) {}
+    Value(Data value) : storage_(std::move(value)) {}
+    Value(Array value) : storage_(std::move(value)) {}
+    Value(Dictionary value) : storage_(std::move(value)) {}
+
+    [[nodiscard]] bool boolValue() const;
+    [[nodiscard]] std::int64_t integerValue() const;
+    [[nodiscard]] int intValue() const;
+    [[nodiscard]] float floatValue() const;
+    [[nodiscard]] double doubleValue() const;
+
+    [[nodiscard]] const Storage& storage() const { return storage_; }
+    template <typename Type>
+    [[nodiscard]] const Type* as() const {
+        return std::get_if<Type>(&storage_);
+    }
+
+    /// Equality of contents: numbers compare by value whatever their kind, so true equals 1.
+    friend bool operator==(const Value& left, const Value& right);
+
+private:
+    Storage storage_;
+};
+
+/// Equal contents have equal hashes, numbers of different kinds included.
+[[nodiscard]] std::size_t contentHash(const Value& value);
+[[nodiscard]] std::size_t contentHash(const Dictionary& dictionary);
+
+} // namespace zarvil
