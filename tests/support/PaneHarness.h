@@ -7,7 +7,31 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace zarvil {
+
+/// How a failed comparison shows a payload.
+inline std::ostream& operator<<(std::ostream& out, const Value& value) {
+    if (const auto* text = value.as<std::string>())
+        return out << '"' << *text << '"';
+    if (const auto* nested = value.as<Dictionary>()) {
+        out << "{ ";
+        for (const auto& [key, entry] : nested->entries())
+            out << key << ": " << entry << " ";
+        return out << "}";
+    }
+    if (const auto* array = value.as<Array>()) {
+        out << "[ ";
+        for (const Value& element : *array)
+            out << element << " ";
+        return out << "]";
+    }
+    return out << value.doubleValue();
+}
+inline std::ostream& operator<<(std::ostream& out, const Message& sent) {
+    return out << sent.name << " " << Value(sent.info());
+}
 
 /// One pane on fake ports and an in-process bus. The test presses the models' controls as a user
 /// would and plays the agent by posting the agent's messages.
