@@ -5,6 +5,10 @@
 /// The product's names, places and outside addresses.
 namespace zarvil::product {
 
+inline constexpr std::string_view maker = "Tessrow";
+/// The preferences application's name.
+inline constexpr std::string_view preferencesName = "Zarvil Preferences";
+
 inline constexpr std::string_view agentIdentifier = "com.Tessrow.Zarvil";
 /// Below the root of the installation.
 inline constexpr std::string_view agentApplication = "/Applications/Zarvil.app";
