@@ -39,7 +39,7 @@ LockWidget::LockWidget(QWidget* parent) : QToolButton(parent) {
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    setIconSize({iconSize, iconSize});
+    setIconSize(QSize(iconSize, iconSize));
     showState(authorizationState::startup, {});
 }
 
