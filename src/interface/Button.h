@@ -13,7 +13,7 @@ namespace zarvil {
 enum class ButtonKind : std::uint8_t { Momentary, Toggle };
 
 /// A push button, check box or switch. Owns its cell, which holds the state.
-class Button : public Control {
+class Button : public Control, public CellDrawing {
 public:
     explicit Button(ButtonKind kind = ButtonKind::Momentary,
                     std::unique_ptr<ButtonCell> cell = std::make_unique<ButtonCell>());
@@ -28,10 +28,16 @@ public:
     void setEnabled(bool enabled) override;
     void setState(int state) { cell_->setState(state); }
     [[nodiscard]] int state() const { return cell_->state(); }
-    void setTitle(std::string_view title) { title_.set(std::string(title)); }
-    [[nodiscard]] const std::string& title() const { return title_.get(); }
+    void setTitle(std::string_view title) { cell_->setTitle(title); }
+    [[nodiscard]] const std::string& title() const { return cell_->title(); }
     void setAttributedTitle(AttributedString title) { attributedTitle_.set(std::move(title)); }
     [[nodiscard]] const AttributedString& attributedTitle() const { return attributedTitle_.get(); }
+
+    void drawCell(ButtonCell& /*cell*/) override { drawCell_.notify(); }
+    /// Called whenever the cell must be redrawn at once; not replayed.
+    Subscription observeDrawCell(std::function<void()> observer) {
+        return drawCell_.add(std::move(observer));
+    }
 
     [[nodiscard]] ButtonKind kind() const { return kind_; }
     [[nodiscard]] ButtonCell& cell() { return *cell_; }
@@ -42,7 +48,9 @@ public:
     }
 
     [[nodiscard]] const Property<int>& stateProperty() const { return cell_->stateProperty(); }
-    [[nodiscard]] const Property<std::string>& titleProperty() const { return title_; }
+    [[nodiscard]] const Property<std::string>& titleProperty() const {
+        return cell_->titleProperty();
+    }
     [[nodiscard]] const Property<AttributedString>& attributedTitleProperty() const {
         return attributedTitle_;
     }
@@ -50,8 +58,8 @@ public:
 private:
     ButtonKind kind_;
     std::unique_ptr<ButtonCell> cell_;
-    Property<std::string> title_;
     Property<AttributedString> attributedTitle_;
+    ObserverList<> drawCell_;
 };
 
 } // namespace zarvil

@@ -3,6 +3,10 @@
 #include "interface/Geometry.h"
 #include "interface/Property.h"
 
+#include <cstdint>
+#include <string>
+#include <string_view>
+
 namespace zarvil {
 
 class ButtonCell;
@@ -16,6 +20,18 @@ inline constexpr int off = 0;
 inline constexpr int on = 1;
 
 } // namespace buttonState
+
+/// Where a cell shows that it has the keyboard focus; numbered as on the original platform.
+enum class FocusRingType : std::uint8_t { Default = 0, None = 1, Exterior = 2 };
+
+/// What a point of a cell is, as bits; numbered as on the original platform.
+namespace cellHit {
+
+inline constexpr unsigned none = 0;
+inline constexpr unsigned contentArea = 1;
+inline constexpr unsigned trackableArea = 4;
+
+} // namespace cellHit
 
 /// Capability of a control view that can redraw one cell at once.
 class CellDrawing {
@@ -45,6 +61,10 @@ public:
         setState(state() == buttonState::on ? buttonState::off : buttonState::on);
     }
 
+    void setTitle(std::string_view title) { title_.set(std::string(title)); }
+    [[nodiscard]] const std::string& title() const { return title_.get(); }
+    [[nodiscard]] const Property<std::string>& titleProperty() const { return title_; }
+
     void setEnabled(bool enabled) { enabled_ = enabled; }
     [[nodiscard]] bool isEnabled() const { return enabled_; }
     /// Pressed, with the pointer over it.
@@ -52,6 +72,15 @@ public:
     [[nodiscard]] bool isHighlighted() const { return highlighted_.get(); }
     [[nodiscard]] const Property<bool>& highlightedProperty() const { return highlighted_; }
 
+    void setFocusRingType(FocusRingType type) { focusRingType_ = type; }
+    [[nodiscard]] FocusRingType focusRingType() const { return focusRingType_; }
+
+    /// Bits of `cellHit` for a point in the control view's coordinates.
+    [[nodiscard]] virtual unsigned hitTestForEvent(Point location, Rect cellFrame,
+                                                   View* /*controlView*/) const {
+        return cellFrame.contains(location) ? cellHit::contentArea | cellHit::trackableArea
+                                            : cellHit::none;
+    }
     /// Whether a press goes on wherever the pointer moves, until the button is released.
     [[nodiscard]] virtual bool prefersTrackingUntilMouseUp() const { return false; }
     /// Mouse-down; false ends the tracking at once. `controlView` may be null throughout.
@@ -64,7 +93,9 @@ public:
 
 private:
     Property<int> state_{buttonState::off};
+    Property<std::string> title_;
     Property<bool> highlighted_{false};
+    FocusRingType focusRingType_ = FocusRingType::Default;
     bool enabled_ = true;
 };
 

@@ -2,6 +2,11 @@
 
 #include "interface/Geometry.h"
 #include "interface/Property.h"
+#include "interface/TrackingArea.h"
+
+#include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace zarvil {
 
@@ -34,6 +39,19 @@ public:
     [[nodiscard]] Rect frame() const { return frame_.get(); }
     [[nodiscard]] Rect bounds() const { return {0, 0, frame().width, frame().height}; }
 
+    void addTrackingArea(std::shared_ptr<const TrackingArea> area) {
+        trackingAreas_.push_back(std::move(area));
+    }
+    void removeTrackingArea(const TrackingArea& area) {
+        std::erase_if(trackingAreas_, [&](const auto& listed) { return listed.get() == &area; });
+    }
+    [[nodiscard]] const std::vector<std::shared_ptr<const TrackingArea>>& trackingAreas() const {
+        return trackingAreas_;
+    }
+    /// The pointer came into or left a tracking area of this view; null when the event has none.
+    virtual void mouseEntered(const TrackingArea* /*area*/) {}
+    virtual void mouseExited(const TrackingArea* /*area*/) {}
+
     [[nodiscard]] const Property<bool>& hiddenProperty() const { return hidden_; }
     [[nodiscard]] const Property<double>& alphaProperty() const { return alpha_; }
     [[nodiscard]] const Property<Rect>& frameProperty() const { return frame_; }
@@ -42,6 +60,7 @@ private:
     Property<bool> hidden_{false};
     Property<double> alpha_{alpha::active};
     Property<Rect> frame_;
+    std::vector<std::shared_ptr<const TrackingArea>> trackingAreas_;
 };
 
 } // namespace zarvil
