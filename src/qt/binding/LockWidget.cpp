@@ -10,10 +10,10 @@ namespace zarvil {
 
 namespace {
 
-constexpr int iconSize = 18;
+constexpr int lockSize = 18;
 
 QPixmap padlock(const QColor& colour, bool open, double scale) {
-    QPixmap picture(QSize(iconSize, iconSize) * scale);
+    QPixmap picture(QSize(lockSize, lockSize) * scale);
     picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -39,7 +39,7 @@ LockWidget::LockWidget(QWidget* parent) : QToolButton(parent) {
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    setIconSize(QSize(iconSize, iconSize));
+    setIconSize(QSize(lockSize, lockSize));
     showState(authorizationState::startup, {});
 }
 
