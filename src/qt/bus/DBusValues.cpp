@@ -8,7 +8,7 @@
 
 namespace zarvil {
 
-Q_LOGGING_CATEGORY(busLog, "zarvil.bus")
+Q_LOGGING_CATEGORY(busLog, "zarvil.bus", QtInfoMsg)
 
 namespace {
 
@@ -119,6 +119,8 @@ QVariant encode(const Value& value, int depth) {
 std::optional<Value> decode(const QVariant& variant);
 
 QString signatureOf(const QVariant& variant) {
+    if (variant.metaType() == QMetaType::fromType<QDBusVariant>())
+        return signatureOf(variant.value<QDBusVariant>().variant());
     if (variant.metaType() == QMetaType::fromType<QDBusArgument>())
         return variant.value<QDBusArgument>().currentSignature();
     if (variant.metaType() == QMetaType::fromType<QDBusUnixFileDescriptor>())

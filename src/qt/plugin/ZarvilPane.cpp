@@ -35,7 +35,7 @@ public:
 
 private:
     DBusMessageCenter& messages_;
-    PosixProcessControl processes_;
+    posix::PosixProcessControl processes_;
 };
 
 QtPlatform::Parts partsOfThePlatform() {
@@ -43,8 +43,8 @@ QtPlatform::Parts partsOfThePlatform() {
     options.acceptFrom = QString::fromLatin1(bus::agentName);
     auto messages = std::make_unique<DBusMessageCenter>(options);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
-    return {std::move(messages), std::make_unique<PosixFileManager>(),
-            std::make_unique<PosixScriptRunner>(), std::move(processes)};
+    return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
+            std::make_unique<posix::PosixScriptRunner>(), std::move(processes)};
 }
 
 } // namespace
