@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -44,6 +44,12 @@ struct Launch {
     int errors;
     int report;
 };
+
+/// A descriptor that becomes readable when the process ends; -1 on an old kernel.
+int openProcess(pid_t process) {
+    // By number: this C library's header does not declare its function for C++.
+    return static_cast<int>(::syscall(SYS_pidfd_open, process, 0));
+}
 
 void closeFrom(int first) {
     if (::close_range(static_cast<unsigned>(first), ~0U, 0) == 0)
@@ -159,7 +165,7 @@ int ScriptProcess::launchFailure() const {
 }
 
 ProcessOutcome ScriptProcess::wait() {
-    const FileDescriptor end(::pidfd_open(process_, 0));
+    const FileDescriptor end(openProcess(process_));
     std::array<pollfd, 2> watched{{{errorsIn_.get(), POLLIN, 0}, {end.get(), POLLIN, 0}}};
     int status = 0;
     pid_t ended = 0;
