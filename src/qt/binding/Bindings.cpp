@@ -123,8 +123,7 @@ void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptio
     kept.push_back(model.stateProperty().observe([show](int, Transition) { show(); }));
     kept.push_back(
         model.reasonProperty().observe([show](const std::string&, Transition) { show(); }));
-    QObject::connect(&widget, &QAbstractButton::clicked, &widget,
-                     [&model] { model.performClick(); });
+    QObject::connect(&widget, &LockWidget::clicked, &widget, [&model] { model.performClick(); });
 }
 
 void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept) {

@@ -3,8 +3,11 @@
 #include "interface/AuthorizationView.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolButton>
 
 namespace zarvil {
 
@@ -35,35 +38,50 @@ QPixmap padlock(const QColor& colour, bool open, double scale) {
 
 } // namespace
 
-LockWidget::LockWidget(QWidget* parent) : QToolButton(parent) {
-    setAutoRaise(true);
-    setFocusPolicy(Qt::TabFocus);
-    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    setIconSize(QSize(lockSize, lockSize));
+LockWidget::LockWidget(QWidget* parent)
+    : QWidget(parent), lock_(new QToolButton(this)), reason_(new QLabel(this)) {
+    lock_->setAutoRaise(true);
+    lock_->setFocusPolicy(Qt::TabFocus);
+    lock_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    lock_->setIconSize(QSize(lockSize, lockSize));
+    reason_->setWordWrap(true);
+    setFocusProxy(lock_);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(lock_);
+    layout->addWidget(reason_, 1);
+    connect(lock_, &QToolButton::clicked, this, &LockWidget::clicked);
     showState(authorizationState::startup, {});
 }
 
 void LockWidget::showState(int state, const QString& reason) {
     state_ = state;
-    const bool busy =
-        state == authorizationState::inProgress || state == authorizationState::startup;
-    const QString words = state == authorizationState::unlocked ? tr("Administrator: unlocked")
-                          : busy                                ? tr("Administrator: checking…")
-                                                                : tr("Administrator: locked");
-    setText(reason.isEmpty() ? words : words + QStringLiteral(" — ") + reason);
-    setAccessibleName(text());
+    switch (state) {
+    case authorizationState::unlocked:
+        lock_->setText(tr("Administrator: unlocked"));
+        break;
+    case authorizationState::locked:
+        lock_->setText(tr("Administrator: locked"));
+        break;
+    default:
+        lock_->setText(tr("Administrator: checking…"));
+    }
+    reason_->setText(reason);
+    lock_->setAccessibleDescription(reason);
     redrawIcon();
 }
 
+QString LockWidget::reason() const { return reason_->text(); }
+
 void LockWidget::changeEvent(QEvent* event) {
-    QToolButton::changeEvent(event);
+    QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         redrawIcon();
 }
 
 void LockWidget::redrawIcon() {
-    setIcon(padlock(palette().color(QPalette::ButtonText), state_ == authorizationState::unlocked,
-                    devicePixelRatioF()));
+    lock_->setIcon(padlock(palette().color(QPalette::ButtonText),
+                           state_ == authorizationState::unlocked, devicePixelRatioF()));
 }
 
 } // namespace zarvil

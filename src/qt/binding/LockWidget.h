@@ -1,19 +1,26 @@
 #pragma once
 
-#include <QToolButton>
+#include <QWidget>
+
+class QLabel;
+class QToolButton;
 
 namespace zarvil {
 
-/// The padlock of an authorization: shows its state in a picture and in words. It decides nothing;
-/// a click asks for a change.
-class LockWidget : public QToolButton {
+/// The padlock of an authorization: shows its state in a picture and in words, and beside it why
+/// it is so. It decides nothing; a click asks for a change.
+class LockWidget : public QWidget {
     Q_OBJECT
 
 public:
     explicit LockWidget(QWidget* parent = nullptr);
 
-    /// One of `authorizationState`; the reason says why, and may be empty.
+    /// One of `authorizationState`; the reason may be empty.
     void showState(int state, const QString& reason);
+    [[nodiscard]] QString reason() const;
+
+Q_SIGNALS:
+    void clicked();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -21,6 +28,8 @@ protected:
 private:
     void redrawIcon();
 
+    QToolButton* lock_;
+    QLabel* reason_;
     int state_ = 0;
 };
 
