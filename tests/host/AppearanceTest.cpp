@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QSettings>
 #include <QTest>
