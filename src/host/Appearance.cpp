@@ -6,6 +6,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QSettings>
 #include <QStyle>
 #include <QToolTip>
@@ -66,38 +67,39 @@ void Appearance::follow(BusConnection& session) {
     session.whenReady(this, [this](const QDBusConnection& bus) {
         if (!bus.isConnected())
             return;
-        QDBusConnection(bus).connect(service, path, interface, "SettingChanged", this,
-                                     SLOT(settingChanged(QString, QString, QDBusVariant)));
-        ask(bus, scheme_, readOne);
-        ask(bus, contrast_, readOne);
+        bus_ = bus;
+        // From any sender: naming the portal here would make Qt wait for the bus to say who that
+        // is. So the signal is only a hint, and the portal itself is asked for the value.
+        bus_->connect(QString(), path, interface, "SettingChanged", this,
+                      SLOT(settingChanged(QString, QString)));
+        ask(scheme_, readOne);
+        ask(contrast_, readOne);
     });
 }
 
-void Appearance::ask(const QDBusConnection& bus, Preference& preference, const char* method) {
+void Appearance::ask(Preference& preference, const char* method) {
     auto call = QDBusMessage::createMethodCall(service, path, interface, method);
     call << group << preference.key;
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, bus, watcher, &preference, method] {
+            [this, watcher, &preference, method] {
                 watcher->deleteLater();
                 const QDBusPendingReply<QDBusVariant> reply(*watcher);
                 if (reply.isValid())
                     accept(preference, reply.value().variant());
-                else if (reply.error().type() == QDBusError::UnknownMethod &&
-                         std::strcmp(method, readOne) == 0)
-                    ask(bus, preference, read);
+                else if (std::strcmp(method, readOne) == 0)
+                    ask(preference, read);
                 else
                     accept(preference, 0U);
             });
 }
 
-void Appearance::settingChanged(const QString& changedGroup, const QString& key,
-                                const QDBusVariant& value) {
+void Appearance::settingChanged(const QString& changedGroup, const QString& key) {
     if (changedGroup != QLatin1String(group))
         return;
     for (Preference* preference : {&scheme_, &contrast_})
         if (key == QLatin1String(preference->key))
-            accept(*preference, value.variant());
+            ask(*preference, readOne);
 }
 
 void Appearance::accept(Preference& preference, const QVariant& value) {

@@ -3,7 +3,6 @@
 #include "host/Palettes.h"
 
 #include <QDBusConnection>
-#include <QDBusVariant>
 #include <QObject>
 
 #include <optional>
@@ -34,7 +33,7 @@ public:
     [[nodiscard]] Look look() const;
 
 private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void settingChanged(const QString& group, const QString& key);
 
 private:
     struct Preference {
@@ -43,12 +42,13 @@ private:
         uint value;
     };
 
-    void ask(const QDBusConnection& bus, Preference& preference, const char* method);
+    void ask(Preference& preference, const char* method);
     void accept(Preference& preference, const QVariant& value);
     void apply();
 
     AppearanceChoice choice_;
     QSettings& settings_;
+    std::optional<QDBusConnection> bus_;
     QPalette desktopPalette_;
     QString desktopStyle_;
     Preference scheme_;

@@ -162,6 +162,7 @@ void HostWindow::showFault(const QString& fault) {
     faultLabel_->setWordWrap(true);
     faultLabel_->setMargin(24);
     content_->addWidget(faultLabel_);
+    faultLabel_->show();
 }
 
 void HostWindow::markCurrent() {

@@ -21,6 +21,8 @@ QString text(std::string_view utf8) {
 } // namespace
 
 QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings::IniFormat) {
+    // The lines are parsed only when they are asked for; their faults must show before a write.
+    [[maybe_unused]] const auto keys = settings_.allKeys();
     if (settings_.status() == QSettings::FormatError)
         keepCorruptFile();
     if (settings_.status() != QSettings::NoError)
