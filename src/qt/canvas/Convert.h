@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/Canvas.h"
+
+#include <QBrush>
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+/// The core's geometry and colours as Qt's.
+namespace zarvil::qt {
+
+[[nodiscard]] inline QPointF toQt(const Point& point) { return {point.x, point.y}; }
+[[nodiscard]] inline QRectF toQt(const Rect& rect) {
+    return {rect.x, rect.y, rect.width, rect.height};
+}
+[[nodiscard]] inline QSizeF toQt(const Size& size) { return {size.width, size.height}; }
+/// Components outside 0 to 1 are limited to it.
+[[nodiscard]] QColor toQt(const Color& color);
+[[nodiscard]] QPainter::CompositionMode toQt(BlendMode mode);
+/// The gradient along an axis that stands in the coordinates in which the brush is used.
+[[nodiscard]] QBrush toQt(const Gradient& gradient, const QPointF& start, const QPointF& end);
+
+} // namespace zarvil::qt

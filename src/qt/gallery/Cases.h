@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Canvas.h"
+#include "qt/canvas/QtCanvas.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace zarvil::gallery {
+
+/// One picture of the gallery.
+struct Case {
+    std::string name;
+    Size viewSize; ///< in points
+    qt::Orientation orientation;
+    std::function<void(Canvas&)> draw;
+};
+
+[[nodiscard]] std::vector<Case> allCases();
+
+} // namespace zarvil::gallery
