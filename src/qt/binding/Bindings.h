@@ -13,10 +13,8 @@ class QWidget;
 namespace zarvil {
 class AuthorizationView;
 class Button;
-class LockWidget;
 class Panel;
 class ProgressIndicator;
-class Spinner;
 class TextField;
 class View;
 } // namespace zarvil
@@ -25,6 +23,9 @@ class View;
 /// operation of the widget goes to the model. Where a model has no text yet it takes the layout's.
 /// A binding lasts as long as its subscriptions and must end before widget or model goes.
 namespace zarvil::qt {
+
+class LockWidget;
+class Spinner;
 
 using Subscriptions = std::vector<Subscription>;
 

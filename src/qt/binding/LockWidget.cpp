@@ -9,7 +9,7 @@
 #include <QPainterPath>
 #include <QToolButton>
 
-namespace zarvil {
+namespace zarvil::qt {
 
 namespace {
 
@@ -84,4 +84,4 @@ void LockWidget::redrawIcon() {
                            state_ == authorizationState::unlocked, devicePixelRatioF()));
 }
 
-} // namespace zarvil
+} // namespace zarvil::qt

@@ -5,7 +5,7 @@
 class QLabel;
 class QToolButton;
 
-namespace zarvil {
+namespace zarvil::qt {
 
 /// The padlock of an authorization: shows its state in a picture and in words, and beside it why
 /// it is so. It decides nothing; a click asks for a change.
@@ -33,4 +33,4 @@ private:
     int state_ = 0;
 };
 
-} // namespace zarvil
+} // namespace zarvil::qt

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QTimerEvent>
 
-namespace zarvil {
+namespace zarvil::qt {
 
 namespace {
 
@@ -48,4 +48,4 @@ void Spinner::timerEvent(QTimerEvent* event) {
     update();
 }
 
-} // namespace zarvil
+} // namespace zarvil::qt

@@ -3,7 +3,7 @@
 #include <QBasicTimer>
 #include <QWidget>
 
-namespace zarvil {
+namespace zarvil::qt {
 
 /// A turning wheel. It costs nothing while it does not turn, and shows nothing then.
 class Spinner : public QWidget {
@@ -25,4 +25,4 @@ private:
     int step_ = 0;
 };
 
-} // namespace zarvil
+} // namespace zarvil::qt
