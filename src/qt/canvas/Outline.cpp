@@ -83,15 +83,21 @@ QPainterPath strokedLine(const Line& line, double width) {
     return path;
 }
 
-void addClosed(QPainterPath& path, const Closed& shape, double outset, double tolerance) {
+QPolygonF closedPolygon(const Closed& shape, double outset, double tolerance) {
     const QRectF rect = shape.rect.adjusted(-outset, -outset, outset, outset);
     if (rect.width() <= 0 || rect.height() <= 0)
-        return;
+        return {};
     const auto radius = [&](double original) {
         return original > 0 ? std::max(0.0, original + outset) : 0;
     };
-    path.addPolygon(roundedRect(
-        rect, {radius(shape.radii.width()), radius(shape.radii.height())}, tolerance));
+    return roundedRect(rect, {radius(shape.radii.width()), radius(shape.radii.height())},
+                       tolerance);
+}
+
+void addPolygon(QPainterPath& path, const QPolygonF& polygon) {
+    if (polygon.isEmpty())
+        return;
+    path.addPolygon(polygon);
     path.closeSubpath();
 }
 
@@ -100,7 +106,7 @@ void addClosed(QPainterPath& path, const Closed& shape, double outset, double to
 QPainterPath filledShape(const Path& path, double tolerance) {
     QPainterPath shape;
     if (!std::holds_alternative<Line>(path))
-        addClosed(shape, std::visit(ClosedPath{}, path), 0, tolerance);
+        addPolygon(shape, closedPolygon(std::visit(ClosedPath{}, path), 0, tolerance));
     return shape;
 }
 
@@ -108,10 +114,13 @@ QPainterPath strokedShape(const Path& path, double width, double tolerance) {
     if (const auto* line = std::get_if<Line>(&path))
         return strokedLine(*line, width);
     const Closed shape = std::visit(ClosedPath{}, path);
+    QPolygonF hole = closedPolygon(shape, -width / 2, tolerance);
+    // Wound the other way: the odd-even rule fails in pixels that both edges cross.
+    std::reverse(hole.begin(), hole.end());
     QPainterPath ring;
-    ring.setFillRule(Qt::OddEvenFill);
-    addClosed(ring, shape, width / 2, tolerance);
-    addClosed(ring, shape, -width / 2, tolerance);
+    ring.setFillRule(Qt::WindingFill);
+    addPolygon(ring, closedPolygon(shape, width / 2, tolerance));
+    addPolygon(ring, hole);
     return ring;
 }
 

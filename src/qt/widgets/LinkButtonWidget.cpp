@@ -1,0 +1,163 @@
+#include "qt/widgets/LinkButtonWidget.h"
+
+#include "qt/canvas/Convert.h"
+#include "qt/widgets/Accessibility.h"
+#include "qt/widgets/Contrast.h"
+
+#include <QEvent>
+#include <QHoverEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+namespace zarvil::qt {
+
+namespace {
+
+constexpr int focusMargin = 2;
+/// What text of this size needs at least to be read.
+constexpr double readableContrast = 4.5;
+
+int toQt(TextAlignment alignment) {
+    switch (alignment) {
+    case TextAlignment::Centered:
+        return Qt::AlignHCenter;
+    case TextAlignment::Right:
+        return Qt::AlignRight;
+    case TextAlignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+} // namespace
+
+class LinkButtonWidget::WidgetCursor final : public Cursor {
+public:
+    explicit WidgetCursor(QWidget& widget) : widget_(widget) {}
+    void set(CursorShape shape) override {
+        widget_.setCursor(shape == CursorShape::PointingHand ? Qt::PointingHandCursor
+                                                             : Qt::ArrowCursor);
+    }
+
+private:
+    QWidget& widget_;
+};
+
+LinkButtonWidget::LinkButtonWidget(QWidget* parent)
+    : QAbstractButton(parent), cursor_(std::make_unique<WidgetCursor>(*this)) {
+    installAccessibility();
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (model_)
+            model_->performClick();
+    });
+}
+
+LinkButtonWidget::~LinkButtonWidget() = default;
+
+void LinkButtonWidget::setModel(Button& model) {
+    subscriptions_.clear();
+    model_ = &model;
+    subscriptions_.push_back(model.attributedTitleProperty().observe(
+        [this](const AttributedString&, Transition) { showTitle(); }));
+    subscriptions_.push_back(
+        model.titleProperty().observe([this](const std::string&, Transition) { showTitle(); }));
+    subscriptions_.push_back(model.enabledProperty().observe(
+        [this](bool enabled, Transition) { setEnabled(enabled); }));
+}
+
+void LinkButtonWidget::showTitle() {
+    const std::string title =
+        model_->attributedTitle().empty() ? model_->title() : model_->attributedTitle().text();
+    if (!title.empty())
+        setText(QString::fromStdString(title));
+    updateGeometry();
+    update();
+}
+
+QSize LinkButtonWidget::sizeHint() const {
+    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 2 * focusMargin);
+}
+
+/// The given colour where it can be read on the window, else the desktop's colour of links.
+QColor LinkButtonWidget::readable(const Color& color) const {
+    const QColor wanted = qt::toQt(color);
+    const QColor background = palette().color(backgroundRole());
+    return contrastRatio(wanted, background) >= readableContrast ? wanted
+                                                                 : palette().color(QPalette::Link);
+}
+
+void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    // A title has one look from end to end.
+    const TextAttributes look = model_
+                                    ? model_->attributedTitle().attributesAt(0).value_or(TextAttributes{})
+                                    : TextAttributes{};
+    QFont styled = font();
+    styled.setUnderline(look.underlineStyle == UnderlineStyle::Single);
+    painter.setFont(styled);
+    QColor color = look.foregroundColor ? readable(*look.foregroundColor)
+                                        : palette().color(QPalette::Link);
+    if (!isEnabled())
+        color = palette().color(QPalette::Disabled, QPalette::WindowText);
+    painter.setPen(color);
+    const TextAlignment alignment = look.alignment.value_or(TextAlignment::Left);
+    painter.drawText(rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin),
+                     toQt(alignment) | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    if (hasFocus()) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.backgroundColor = palette().color(backgroundRole());
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+}
+
+void LinkButtonWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+/// The area that follows the pointer is as large as the button is made, so it is made anew.
+void LinkButtonWidget::resizeEvent(QResizeEvent* /*event*/) {
+    tracker_.reset();
+    unsetCursor();
+    hover_ = ZVURLButton::initWithLayout(
+        *cursor_, {0, 0, static_cast<double>(width()), static_cast<double>(height())});
+    tracker_.emplace(*hover_);
+    if (underMouse())
+        followPointer(QPointF(mapFromGlobal(QCursor::pos())));
+}
+
+bool LinkButtonWidget::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        followPointer(static_cast<QHoverEvent*>(event)->position());
+        break;
+    case QEvent::HoverLeave:
+        followPointer(std::nullopt);
+        break;
+    case QEvent::WindowActivate:
+    case QEvent::WindowDeactivate:
+        followPointer(underMouse() ? std::optional(QPointF(mapFromGlobal(QCursor::pos())))
+                                   : std::nullopt);
+        break;
+    default:
+        break;
+    }
+    return QAbstractButton::event(event);
+}
+
+void LinkButtonWidget::followPointer(std::optional<QPointF> position) {
+    if (!tracker_)
+        return;
+    const auto point = position ? std::optional(Point{position->x(), position->y()}) : std::nullopt;
+    tracker_->update(point, isActiveWindow() ? WindowActivity::Key : WindowActivity::NotKey);
+}
+
+} // namespace zarvil::qt

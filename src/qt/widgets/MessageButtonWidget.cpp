@@ -1,0 +1,83 @@
+#include "qt/widgets/MessageButtonWidget.h"
+
+#include "qt/canvas/QtCanvas.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace zarvil::qt {
+
+namespace {
+
+constexpr QSize standardSize(90, 28);
+constexpr int titleMargin = 16;
+constexpr double disabledOpacity = 0.5;
+
+/// The text without the marks of its access key.
+QString withoutMnemonic(const QString& text) {
+    QString shown;
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        if (text[index] == u'&' && ++index == text.size())
+            break;
+        shown += text[index];
+    }
+    return shown;
+}
+
+} // namespace
+
+MessageButtonWidget::MessageButtonWidget(QWidget* parent) : QPushButton(parent) {
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (model_)
+            model_->performClick();
+    });
+}
+
+void MessageButtonWidget::setModel(Button& model) {
+    subscriptions_.clear();
+    model_ = &model;
+    subscriptions_.push_back(
+        model.titleProperty().observe([this](const std::string& title, Transition) {
+            if (!title.empty())
+                setText(QString::fromStdString(title));
+        }));
+    subscriptions_.push_back(model.enabledProperty().observe(
+        [this](bool enabled, Transition) { setEnabled(enabled); }));
+}
+
+QSize MessageButtonWidget::sizeHint() const {
+    const int title = fontMetrics().horizontalAdvance(withoutMnemonic(text()));
+    return {std::max(standardSize.width(), title + 2 * titleMargin), standardSize.height()};
+}
+
+void MessageButtonWidget::paintEvent(QPaintEvent* /*event*/) {
+    cell_.setHighlighted(isDown());
+    cell_.setTitle(withoutMnemonic(text()).toStdString());
+    QPainter painter(this);
+    if (!isEnabled())
+        painter.setOpacity(disabledOpacity);
+    {
+        QtCanvas canvas(painter, size(), Orientation::YDown);
+        // The cell clears its frame, which must not reach the panel behind the button.
+        canvas.beginTransparencyLayer();
+        cell_.drawInteriorWithFrame(
+            {0, 0, static_cast<double>(width()), static_cast<double>(height())}, nullptr, canvas);
+        canvas.endTransparencyLayer();
+    }
+    paintRing(painter);
+}
+
+/// The focus in the colour of selections, else the default button in white.
+void MessageButtonWidget::paintRing(QPainter& painter) const {
+    if (!hasFocus() && !isDefault())
+        return;
+    const double width = hasFocus() ? 2 : 1;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(hasFocus() ? palette().color(QPalette::Highlight) : Qt::white, width));
+    const double inset = width / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 4, 4);
+}
+
+} // namespace zarvil::qt

@@ -1,0 +1,47 @@
+#include "qt/widgets/MessagePanelWidget.h"
+
+#include "qt/canvas/QtCanvas.h"
+
+#include <QHoverEvent>
+#include <QPainter>
+
+namespace zarvil::qt {
+
+MessagePanelWidget::MessagePanelWidget(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_Hover);
+    QPalette readable = palette();
+    readable.setColor(QPalette::WindowText, Qt::white);
+    readable.setColor(QPalette::Link, Qt::white);
+    setPalette(readable);
+}
+
+void MessagePanelWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    QtCanvas canvas(painter, size(), Orientation::YUp);
+    view_.drawRect(canvas);
+}
+
+void MessagePanelWidget::tellFrame() {
+    const QRectF frame = geometry();
+    view_.setFrame({frame.x(), frame.y(), frame.width(), frame.height()});
+}
+
+void MessagePanelWidget::resizeEvent(QResizeEvent* /*event*/) { tellFrame(); }
+
+void MessagePanelWidget::moveEvent(QMoveEvent* /*event*/) { tellFrame(); }
+
+bool MessagePanelWidget::event(QEvent* event) {
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
+        followPointer(static_cast<QHoverEvent*>(event)->position());
+    else if (event->type() == QEvent::HoverLeave)
+        followPointer(std::nullopt);
+    return QWidget::event(event);
+}
+
+void MessagePanelWidget::followPointer(std::optional<QPointF> position) {
+    const auto point =
+        position ? std::optional(Point{position->x(), height() - position->y()}) : std::nullopt;
+    tracker_.update(point, isActiveWindow() ? WindowActivity::Key : WindowActivity::NotKey);
+}
+
+} // namespace zarvil::qt

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "controls/ZVMessageView.h"
+#include "interface/PointerTracker.h"
+#include "qt/canvas/QtImage.h"
+
+#include <QWidget>
+
+namespace zarvil::qt {
+
+/// A bevelled dark panel that other widgets stand on. The colours of text are set to be read on
+/// it, in light and dark themes alike.
+class MessagePanelWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MessagePanelWidget(QWidget* parent = nullptr);
+
+    [[nodiscard]] ZVMessageView& view() { return view_; }
+    /// Pauses the delegate's countdown while the pointer is over the panel as it is now.
+    void setupTracking(std::shared_ptr<TrackingDelegate> delegate) {
+        view_.setupTracking(std::move(delegate));
+    }
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+
+private:
+    void tellFrame();
+    void followPointer(std::optional<QPointF> position);
+
+    QtImageRenderer renderer_;
+    ZVMessageView view_{renderer_};
+    PointerTracker tracker_{view_};
+};
+
+} // namespace zarvil::qt
