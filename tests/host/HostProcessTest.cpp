@@ -1,5 +1,6 @@
 #include "Bundles.h"
 #include "PrivateBus.h"
+#include "PrivateDisplay.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -115,6 +116,46 @@ TEST_F(HostProcessTest, aSecondStartRaisesTheFirstAndEnds) {
     first->terminate();
     ASSERT_TRUE(first->waitForFinished(limit));
     EXPECT_EQ(run({path("missing.prefPane")}).code, 66) << "the name is free again";
+}
+
+TEST_F(HostProcessTest, startedFromADesktopItShowsItsErrorInAWindow) {
+    const PrivateDisplay display;
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", display.name());
+    write("Broken.prefPane/Contents/Info.json", "{");
+    const auto process = start({path("Broken.prefPane")});
+    QString window;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            window = display.xdotool({"search", "--onlyvisible", "--name", "^Preferences$"});
+            return !window.isEmpty();
+        },
+        limit));
+    EXPECT_EQ(process->state(), QProcess::Running);
+    display.xdotool({"windowfocus", "--sync", window, "key", "Return"});
+    ASSERT_TRUE(process->waitForFinished(limit));
+    EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process->exitCode(), 65);
+}
+
+TEST_F(HostProcessTest, closingTheWindowWithTheKeyboardEndsIt) {
+    const PrivateDisplay display;
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", display.name());
+    const auto process = start({makeBundle("A")});
+    QString window;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            window = display.xdotool({"search", "--onlyvisible", "--name", "^Title of A$"});
+            return !window.isEmpty();
+        },
+        limit));
+    calls();
+    display.xdotool({"windowfocus", "--sync", window, "key", "ctrl+w"});
+    ASSERT_TRUE(process->waitForFinished(limit));
+    EXPECT_EQ(process->exitCode(), 0);
+    EXPECT_EQ(calls(),
+              QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect", "A: gone"}));
 }
 
 TEST_F(HostProcessTest, aFirstInstanceThatDoesNotAnswerIsReported) {

@@ -19,6 +19,7 @@ QWidget* SamplePane::mainView() {
     if (!view_) {
         view_ = new SampleView;
         view_->setObjectName(name_);
+        view_->setMinimumSize(320, 200);
         connect(view_, &SampleView::decided, this, [this](bool leave) { answer_(leave); });
     }
     return view_;
