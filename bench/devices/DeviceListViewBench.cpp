@@ -1,4 +1,5 @@
 #include "PaneOnFakes.h"
+#include "protocol/Messages.h"
 #include "qt/devices/DeviceListView.h"
 
 #include <QApplication>
@@ -13,6 +14,8 @@
 namespace zarvil {
 namespace {
 
+using qt::DeviceListView;
+
 /// Counts the paintings of a widget.
 class PaintCounter final : public QObject {
 public:
@@ -24,12 +27,16 @@ public:
     int paintings = 0;
 };
 
+Dictionary device(int number) {
+    return {{"DeviceName", "Power device " + std::to_string(number)},
+            {"DeviceVendor", "Vendor"},
+            {"DeviceSerial", "SN-" + std::to_string(number)}};
+}
+
 Message connectedDevices(int count) {
     Array devices;
     for (int number = 0; number < count; ++number)
-        devices.emplace_back(Dictionary{{"DeviceName", "Power device " + std::to_string(number)},
-                                        {"DeviceVendor", "Vendor"},
-                                        {"DeviceSerial", "SN-" + std::to_string(number)}});
+        devices.emplace_back(device(number));
     return {message::allConnectedDevices, Dictionary{{"devices", std::move(devices)}}};
 }
 
@@ -37,9 +44,43 @@ double milliseconds(const QElapsedTimer& timer) {
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-void showAndScroll(int count) {
+void scroll(DeviceListView& view) {
+    constexpr int frames = 300;
+    QElapsedTimer timer;
+    double worst = 0;
+    double total = 0;
+    for (int frame = 0; frame < frames; ++frame) {
+        timer.restart();
+        view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / frames * frame);
+        view.viewport()->repaint();
+        const double took = milliseconds(timer);
+        worst = std::max(worst, took);
+        total += took;
+    }
+    std::printf("; scrolling %.2f ms a frame, worst %.2f ms", total / frames, worst);
+}
+
+/// Single messages, the window brought up to date after each.
+void plugAndUnplug(Zarvil_Preferences& pane, int count) {
+    constexpr int rounds = 200;
+    const Message plugged(message::deviceConnected, device(count));
+    const Message unplugged(message::deviceDisconnected, device(count));
+    QElapsedTimer timer;
+    timer.start();
+    for (int round = 0; round < rounds; ++round) {
+        pane.deviceConnected(&plugged);
+        QApplication::processEvents();
+        pane.deviceDisconnected(&unplugged);
+        QApplication::processEvents();
+    }
+    std::printf("; plug or unplug %.2f ms\n", milliseconds(timer) / (2 * rounds));
+}
+
+void measure(int count) {
     PaneOnFakes fakes;
-    qt::DeviceListView view;
+    fakes.pane.mainViewDidLoad();
+    fakes.pane.appDidAnswer(nullptr);
+    DeviceListView view;
     view.resize(320, 480);
     view.setModel(fakes.pane.connectedDevices);
     view.show();
@@ -61,18 +102,8 @@ void showAndScroll(int count) {
     std::printf("%6d devices: handled in %.1f ms, painted after %.1f ms", count, handled,
                 milliseconds(timer));
 
-    constexpr int frames = 300;
-    double worst = 0;
-    double total = 0;
-    for (int frame = 0; frame < frames; ++frame) {
-        timer.restart();
-        view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / frames * frame);
-        view.viewport()->repaint();
-        const double took = milliseconds(timer);
-        worst = std::max(worst, took);
-        total += took;
-    }
-    std::printf(", a frame of scrolling %.2f ms, worst %.2f ms\n", total / frames, worst);
+    scroll(view);
+    plugAndUnplug(fakes.pane, count);
 }
 
 } // namespace
@@ -82,5 +113,5 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     for (const int count : {100, 1'000, 10'000})
-        zarvil::showAndScroll(count);
+        zarvil::measure(count);
 }

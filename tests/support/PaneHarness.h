@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Fakes.h"
-#include "pane/Zarvil_Preferences.h"
-#include "protocol/InProcessMessageCenter.h"
+#include "PaneOnFakes.h"
 #include "protocol/Messages.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +34,9 @@ inline std::ostream& operator<<(std::ostream& out, const Message& sent) {
 /// One pane on fake ports and an in-process bus. The test presses the models' controls as a user
 /// would and plays the agent by posting the agent's messages.
 class PaneHarness : public testing::Test {
+/// A pane under test. The test presses the models' controls as a user would and plays the agent by
+/// posting the agent's messages.
+class PaneHarness : public testing::Test, protected PaneOnFakes {
 protected:
     PaneHarness() {
         for (const std::string_view name : message::paneToAgent)
@@ -88,22 +89,6 @@ protected:
                 Dictionary{{std::string(payload::prefKey), key},
                            {std::string(payload::prefObj), std::move(value)}}};
     }
-
-    InProcessMessageCenter bus;
-    fake::VirtualTime time;
-    fake::Workspace workspace;
-    fake::FileManager files;
-    fake::UserDefaults defaults;
-    fake::ErrorPresenter errors;
-    fake::ScriptRunner scriptRunner;
-    fake::Authorization authorization;
-    fake::StringTable strings;
-    fake::MouseParameters mouse;
-    fake::ModalLoop modal;
-    fake::ProcessControl processes;
-    Platform platform{bus,          time,          time,    workspace, files, defaults,  errors,
-                      scriptRunner, authorization, strings, mouse,     modal, processes, ""};
-    Zarvil_Preferences pane{platform};
 
 private:
     std::vector<Message> sentMessages;

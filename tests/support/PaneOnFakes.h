@@ -3,18 +3,11 @@
 #include "Fakes.h"
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/InProcessMessageCenter.h"
-#include "protocol/Messages.h"
 
 namespace zarvil {
 
-/// A pane on fake ports whose agent has just answered.
+/// One pane on fake ports and an in-process bus, not yet loaded.
 struct PaneOnFakes {
-    PaneOnFakes() {
-        pane.mainViewDidLoad();
-        pane.appDidAnswer(nullptr);
-        bus.deliver();
-    }
-
     InProcessMessageCenter bus;
     fake::VirtualTime time;
     fake::Workspace workspace;
