@@ -31,9 +31,6 @@ inline std::ostream& operator<<(std::ostream& out, const Message& sent) {
     return out << sent.name << " " << Value(sent.info());
 }
 
-/// One pane on fake ports and an in-process bus. The test presses the models' controls as a user
-/// would and plays the agent by posting the agent's messages.
-class PaneHarness : public testing::Test {
 /// A pane under test. The test presses the models' controls as a user would and plays the agent by
 /// posting the agent's messages.
 class PaneHarness : public testing::Test, protected PaneOnFakes {

@@ -5,10 +5,10 @@
 #include "interface/Panel.h"
 #include "interface/ProgressIndicator.h"
 #include "interface/TextField.h"
-#include "qt/binding/Conversions.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/Opacity.h"
 #include "qt/binding/Spinner.h"
+#include "qt/canvas/Convert.h"
 
 #include <QAbstractButton>
 #include <QDialog>

@@ -1,9 +1,9 @@
 #include "qt/binding/OutletBinder.h"
 
 #include "pane/Zarvil_Preferences.h"
-#include "qt/binding/Conversions.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/Spinner.h"
+#include "qt/canvas/Convert.h"
 #include "qt/devices/DeviceListView.h"
 #include "qt/scripts/ScriptListView.h"
 #include "qt/widgets/LinkButtonWidget.h"
@@ -30,7 +30,11 @@ public:
     void operator()(std::string_view name, Button& model) {
         QWidget* widget = find(name);
         adoptAction(model, widget);
-        if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        if (auto* toggle = qobject_cast<SwitchWidget*>(widget))
+            bindDrawn(model, *toggle);
+        else if (auto* link = qobject_cast<LinkButtonWidget*>(widget))
+            bindDrawn(model, *link);
+        else if (auto* button = qobject_cast<QAbstractButton*>(widget))
             bindButton(model, *button, kept_);
         else if (widget)
             mismatch(name);
@@ -107,6 +111,13 @@ private:
         if (widget && !typed)
             mismatch(name);
         return typed;
+    }
+
+    /// Drawn controls follow their model's state, title and enabling by themselves.
+    template <typename Widget>
+    void bindDrawn(Button& model, Widget& widget) {
+        widget.setModel(model);
+        bindView(model, widget, kept_);
     }
 
     void mismatch(std::string_view name) {

@@ -6,9 +6,9 @@
 #include "posix/PosixScriptRunner.h"
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
-#include "qt/binding/Conversions.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/bus/DBusMessageCenter.h"
+#include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 
 #include <QDialog>
@@ -52,14 +52,14 @@ QtPlatform::Parts partsOfThePlatform() {
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
     explicit Loaded(const QString& root)
-        : platform(partsOfThePlatform(), qt::fromQt(root)), controller(platform.platform()),
+        : platform(partsOfThePlatform(), qt::fromQt(root)),
+          controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()) {
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
             qWarning().noquote() << "Layout:" << qt::toQt(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
-        QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(), [this] {
-            controller.performAction("uninstallSheetFinished:", nullptr);
-        });
+        QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
+                         [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
     }
 
     QtPlatform platform;

@@ -19,18 +19,6 @@ constexpr int focusMargin = 2;
 /// What text of this size needs at least to be read.
 constexpr double readableContrast = 4.5;
 
-int toQt(TextAlignment alignment) {
-    switch (alignment) {
-    case TextAlignment::Centered:
-        return Qt::AlignHCenter;
-    case TextAlignment::Right:
-        return Qt::AlignRight;
-    case TextAlignment::Left:
-        break;
-    }
-    return Qt::AlignLeft;
-}
-
 } // namespace
 
 class LinkButtonWidget::WidgetCursor final : public Cursor {
@@ -65,8 +53,8 @@ void LinkButtonWidget::setModel(Button& model) {
         [this](const AttributedString&, Transition) { showTitle(); }));
     subscriptions_.push_back(
         model.titleProperty().observe([this](const std::string&, Transition) { showTitle(); }));
-    subscriptions_.push_back(model.enabledProperty().observe(
-        [this](bool enabled, Transition) { setEnabled(enabled); }));
+    subscriptions_.push_back(
+        model.enabledProperty().observe([this](bool enabled, Transition) { setEnabled(enabled); }));
 }
 
 void LinkButtonWidget::showTitle() {
@@ -90,17 +78,21 @@ QColor LinkButtonWidget::readable(const Color& color) const {
                                                                  : palette().color(QPalette::Link);
 }
 
+/// A title has one look from end to end; without a styled one it is underlined, as links are.
+TextAttributes LinkButtonWidget::titleLook() const {
+    TextAttributes plain;
+    plain.underlineStyle = UnderlineStyle::Single;
+    return model_ ? model_->attributedTitle().attributesAt(0).value_or(plain) : plain;
+}
+
 void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    // A title has one look from end to end.
-    const TextAttributes look = model_
-                                    ? model_->attributedTitle().attributesAt(0).value_or(TextAttributes{})
-                                    : TextAttributes{};
+    const TextAttributes look = titleLook();
     QFont styled = font();
     styled.setUnderline(look.underlineStyle == UnderlineStyle::Single);
     painter.setFont(styled);
-    QColor color = look.foregroundColor ? readable(*look.foregroundColor)
-                                        : palette().color(QPalette::Link);
+    QColor color =
+        look.foregroundColor ? readable(*look.foregroundColor) : palette().color(QPalette::Link);
     if (!isEnabled())
         color = palette().color(QPalette::Disabled, QPalette::WindowText);
     painter.setPen(color);

@@ -1,8 +1,8 @@
 #include "PaneHarness.h"
-#include "qt/binding/Conversions.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/Spinner.h"
+#include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 
 #include <QCheckBox>
@@ -50,9 +50,7 @@ constexpr int generalPage = 1;
 constexpr int alertsPage = 2;
 constexpr int scriptsPage = 3;
 
-TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) {
-    EXPECT_EQ(faults, Faults{});
-}
+TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) { EXPECT_EQ(faults, Faults{}); }
 
 TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
     QWidget broken;
@@ -102,8 +100,8 @@ TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
     visitOutlets(pane, [&](std::string_view name, View& model) {
         auto* shown = view.findChild<QWidget*>(toQt(name));
         const auto* control = dynamic_cast<Control*>(&model);
-        const bool operable = control && !qobject_cast<QLabel*>(shown) &&
-                              !shown->property("readOnly").toBool();
+        const bool operable =
+            control && !qobject_cast<QLabel*>(shown) && !shown->property("readOnly").toBool();
         if (!operable)
             return;
         EXPECT_FALSE(shown->toolTip().isEmpty()) << name;
