@@ -71,7 +71,9 @@ bool AtomicFile::openTemporary(mode_t mode) {
         if (!removeLeftover())
             break;
     }
+    // No other process takes this name; what bears it is a leftover of an earlier one.
     const std::string own = shared + "." + std::to_string(::getpid());
+    ::unlinkat(folder_.get(), own.c_str(), 0);
     return createLocked(own, mode);
 }
 

@@ -13,8 +13,8 @@ namespace zarvil::posix {
 /// same folder, brought to the disk and renamed over the file.
 ///
 /// All saves into one folder use the same temporary name, guarded by a lock: what a killed process
-/// left behind is taken away by the next save into that folder, and no more than one file is ever
-/// left. A save that finds the name in use by another process takes a name of its own.
+/// left behind is taken away by the next save into that folder, so that leftovers do not pile up. A
+/// save that finds the name in use by another process takes a name of its own.
 class AtomicFile {
 public:
     static constexpr std::string_view temporaryName = ".zarvil-save";

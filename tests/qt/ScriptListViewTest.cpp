@@ -15,15 +15,6 @@
 namespace zarvil::qt {
 namespace {
 
-QApplication& application() {
-    static int count = 1;
-    static char name[] = "zarvil_qt_scripts_tests";
-    static char* arguments[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication instance(count, arguments);
-    return instance;
-}
-
 class ScriptListViewTest : public ScriptsHarness {
 protected:
     void show(int height = 400) {
@@ -34,7 +25,7 @@ protected:
         view.resize(view.minimumSizeHint().width(), height);
         view.show();
         view.activateWindow();
-        QApplication::setActiveWindow(&view);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
         settle();
     }
     static void settle() {
@@ -75,7 +66,6 @@ protected:
         return *card.findChild<QPlainTextEdit*>();
     }
 
-    QApplication& app = application();
     ScriptListView view;
 };
 
@@ -245,3 +235,10 @@ TEST_F(ScriptListViewTest, theButtonsTellAScreenReaderWhichScriptTheyWorkOn) {
 
 } // namespace
 } // namespace zarvil::qt
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

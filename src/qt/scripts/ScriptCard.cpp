@@ -94,6 +94,8 @@ QPushButton* ScriptCard::addButton(const QString& text, const QString& toolTip) 
 void ScriptCard::bind(std::shared_ptr<ZVScriptCollectionItem> item) {
     unbind();
     item_ = std::move(item);
+    const Size size = ScriptItemView::minimumSize;
+    item_->view().setFrame({0, 0, size.width, size.height});
     if (const Record& record = item_->representedObject())
         recordEdits_ = record->observeEdits([this] { showRecord(); });
     showRecord();
@@ -115,7 +117,7 @@ void ScriptCard::showRecord() {
     const QString title = stringOf(record, script::title);
     const std::string* text = record ? record->contents().stringForKey(script::text) : nullptr;
     showTitle(title);
-    showText(text ? *text : std::string());
+    showText(text ? std::string_view(*text) : std::string_view());
     setAccessibleName(tr("Script “%1”").arg(title));
     run_->setAccessibleName(tr("Run “%1”").arg(title));
     remove_->setAccessibleName(tr("Remove “%1”").arg(title));
@@ -130,7 +132,7 @@ void ScriptCard::showTitle(const QString& title) {
     title_->setAccessibleName(title);
 }
 
-void ScriptCard::showText(const std::string& text) {
+void ScriptCard::showText(std::string_view text) {
     const QFontMetrics metrics = text_->fontMetrics();
     QStringList lines = firstLines(text, std::max(1, text_->height() / metrics.lineSpacing()));
     for (QString& line : lines)
@@ -142,6 +144,8 @@ void ScriptCard::showText(const std::string& text) {
 void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     const bool hadFocus = hasFocusWithin();
     const bool wasEditing = !editors_.empty();
+    const bool fieldHadFocus = std::ranges::any_of(
+        editors_, [](const auto& editor) { return editor->widget()->hasFocus(); });
     std::erase_if(editors_, [&fields](const auto& editor) {
         return std::ranges::none_of(
             fields, [&editor](const auto& field) { return field.get() == editor->field(); });
@@ -161,7 +165,7 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     emit focusChainChanged();
     if (hadFocus && editing && !wasEditing)
         editors_.back()->widget()->setFocus(Qt::TabFocusReason); // selects the title
-    else if (hadFocus && !editing)
+    else if (fieldHadFocus && !editing)
         edit_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -46,7 +46,7 @@ private:
     QPushButton* addButton(const QString& text, const QString& toolTip);
     void showRecord();
     void showTitle(const QString& title);
-    void showText(const std::string& text);
+    void showText(std::string_view text);
     void showFields(const ScriptItemView::Subviews& fields);
     void showEditing(bool editing);
     void placeButtons();

@@ -72,14 +72,13 @@ QWidget* ScriptFieldEditor::makeText(QWidget* card) {
     QPalette palette = editor->palette();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Mid));
     editor->setPalette(palette);
-    editor->setLineWrapMode(QPlainTextEdit::NoWrap);
     changes_ =
         field_->stringProperty().observe([this, editor](const std::string& text, Transition) {
             if (!taking_)
                 showInText(*editor, text);
         });
     QObject::connect(editor, &QPlainTextEdit::textChanged, editor, [this, editor] {
-        if (!showing_)
+        if (!showing_ && !editor->isReadOnly())
             takeFromText(*editor);
     });
     return editor;
@@ -89,6 +88,7 @@ void ScriptFieldEditor::showInText(QPlainTextEdit& editor, const std::string& te
     const QScopedValueRollback guard(showing_, true);
     const bool tooLarge = text.size() > largestEditableText;
     editor.setReadOnly(tooLarge);
+    editor.setLineWrapMode(tooLarge ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
     if (tooLarge) {
         editor.setPlainText(
             tr("This script is too large to be edited here (%1). Its text stays as "

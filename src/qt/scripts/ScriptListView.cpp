@@ -94,8 +94,9 @@ void ScriptListView::removeScriptOf(ScriptCard* card) {
     if (lastRemoval_.isValid() && !lastRemoval_.hasExpired(QApplication::doubleClickInterval()))
         return;
     if (const auto item = card->item()) {
-        item->remove();
         lastRemoval_.start();
+        // Last: an alert may let the window, and this list with it, go.
+        item->remove();
     }
 }
 
