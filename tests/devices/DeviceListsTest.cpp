@@ -112,6 +112,21 @@ TEST_F(Devices, untickingADeviceThatIsNotConnectedOrHasNoSerialKeyRemovesItFromB
     EXPECT_EQ(connected(), Records{anonymous});
 }
 
+TEST_F(Devices, everyUntickingLooksAtWhatIsConnectedThen) {
+    const Dictionary record = device("UPS");
+    const auto returns = [&] {
+        allSaved(Array{record});
+        const std::size_t before = connected().size();
+        untick(0);
+        return connected().size() > before;
+    };
+    EXPECT_FALSE(returns());
+    plug(record);
+    EXPECT_TRUE(returns());
+    unplug(record);
+    EXPECT_FALSE(returns());
+}
+
 TEST_F(Devices, aDeviceOfTheSecondListOfKnownOnesReturnsByItsContents) {
     const Dictionary record = device("known", "N/A");
     pane.devices.push_back(makeRecord(record));

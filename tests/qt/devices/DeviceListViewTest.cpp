@@ -113,7 +113,17 @@ TEST_F(DeviceListViews, aTickFromElsewhereIsShownAtOnce) {
     plug(2);
     EXPECT_EQ(checkState(connected, 1), Qt::Unchecked);
     const auto item = pane.connectedDevices.itemAtIndexAs<ZVCollectionItem>(1);
+    QStringList namesMeanwhile;
+    std::vector<Qt::CheckState> ticksMeanwhile;
+    item->setState(1);
+    QObject::connect(connected.model(), &QAbstractItemModel::rowsAboutToBeRemoved, &connected, [&] {
+        namesMeanwhile = names(connected);
+        ticksMeanwhile = {checkState(connected, 0), checkState(connected, 1)};
+    });
     agentSends({message::deviceDisconnected, device("N0", "0")});
+    EXPECT_EQ(namesMeanwhile, (QStringList{"N0", "N1"})) << "the list is ahead of its rows";
+    EXPECT_EQ(ticksMeanwhile.front(), Qt::Unchecked) << "not that of N1";
+    item->setState(0);
     const QSignalSpy changes(connected.model(), &QAbstractItemModel::dataChanged);
     item->setState(1);
     EXPECT_EQ(checkState(connected, 0), Qt::Checked);
