@@ -12,8 +12,9 @@ class PrivateDisplay {
 public:
     PrivateDisplay() {
         server_.setStandardErrorFile(QProcess::nullDevice());
-        server_.start("Xvfb",
-                      {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp"});
+        // Without -noreset the server drops every client when the last one of a moment leaves.
+        server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp",
+                               "-noreset"});
         if (server_.waitForStarted() && server_.waitForReadyRead())
             name_ = ':' + QString::fromUtf8(server_.readLine()).trimmed();
         EXPECT_FALSE(name_.isEmpty()) << "Xvfb did not start";
