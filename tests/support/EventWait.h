@@ -18,7 +18,7 @@ template <typename Condition>
                            std::chrono::milliseconds limit = waitLimit) {
     const QDeadlineTimer deadline(limit);
     QTimer alarm;
-    alarm.setSingleShot(true);
+    alarm.setTimerType(Qt::PreciseTimer); // never early: nothing else may wake the loop
     alarm.start(limit);
     while (!condition()) {
         if (deadline.hasExpired())

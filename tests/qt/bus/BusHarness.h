@@ -31,7 +31,16 @@ protected:
     }
 
     [[nodiscard]] static bool waitUntilConnected(const DBusMessageCenter& center) {
-        return waitFor([&] { return center.connectionState() == ConnectionState::Connected; });
+        return waitFor([&] { return center.connectionState() == ConnectionState::Connected; }) &&
+               isHeardByTheBus(center);
+    }
+    /// Once the bus has answered, it has read all that the center asked it to watch for. What
+    /// another connection sends from then on arrives.
+    [[nodiscard]] static bool isHeardByTheBus(const DBusMessageCenter& center) {
+        return center.connection()
+                   ->call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/",
+                                                         "org.freedesktop.DBus", "GetId"))
+                   .type() == QDBusMessage::ReplyMessage;
     }
 
     /// A connection of somebody else's. Stands until the test's end.

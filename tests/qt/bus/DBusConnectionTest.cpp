@@ -78,7 +78,7 @@ TEST_F(Connection, onlyWhatIsObservedIsDeliveredAndOnlyWhileItIs) {
     EXPECT_EQ(second, 2);
     const Subscription again =
         pane.addObserver(message::pingAnswer, [&](const Message&) { ++first; });
-    ASSERT_TRUE(speak(4));
+    ASSERT_TRUE(isHeardByTheBus(pane) && speak(4));
     EXPECT_EQ(first, 2);
 }
 
