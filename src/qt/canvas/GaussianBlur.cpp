@@ -6,7 +6,8 @@
 namespace zarvil::qt {
 
 Plane::Plane(int columns, int rows)
-    : width(columns), height(rows),
+    : width(columns),
+      height(rows),
       values(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows)) {}
 
 float* Plane::row(int y) {

@@ -30,14 +30,14 @@ void addCorner(QPolygonF& polygon, QPointF middle, QSizeF radii, double startAng
     const int sides = sidesOfQuarter(larger, tolerance);
     for (int side = 0; side <= sides; ++side) {
         const double angle = startAngle + quarterTurn * side / sides;
-        polygon.append(middle + QPointF(radii.width() * std::cos(angle),
-                                        radii.height() * std::sin(angle)));
+        polygon.append(middle +
+                       QPointF(radii.width() * std::cos(angle), radii.height() * std::sin(angle)));
     }
 }
 
 QPolygonF roundedRect(const QRectF& rect, QSizeF radii, double tolerance) {
-    const QRectF middles = rect.adjusted(radii.width(), radii.height(), -radii.width(),
-                                         -radii.height());
+    const QRectF middles =
+        rect.adjusted(radii.width(), radii.height(), -radii.width(), -radii.height());
     QPolygonF polygon;
     addCorner(polygon, middles.bottomRight(), radii, 0, tolerance);
     addCorner(polygon, middles.bottomLeft(), radii, quarterTurn, tolerance);
@@ -54,8 +54,9 @@ struct Closed {
 
 Closed closed(const QRectF& rect, const QSizeF& radii) {
     const QRectF normal = rect.normalized();
-    return {normal, {std::clamp(radii.width(), 0.0, normal.width() / 2),
-                     std::clamp(radii.height(), 0.0, normal.height() / 2)}};
+    return {normal,
+            {std::clamp(radii.width(), 0.0, normal.width() / 2),
+             std::clamp(radii.height(), 0.0, normal.height() / 2)}};
 }
 
 struct ClosedPath {

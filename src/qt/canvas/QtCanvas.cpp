@@ -46,7 +46,9 @@ struct QtCanvas::Target {
 };
 
 QtCanvas::QtCanvas(QPainter& painter, QSizeF viewSize, Orientation orientation)
-    : base_(painter), orientation_(orientation), baseTransform_(painter.worldTransform()),
+    : base_(painter),
+      orientation_(orientation),
+      baseTransform_(painter.worldTransform()),
       toDevice_(viewToPainter(viewSize, orientation) * painter.deviceTransform()),
       toPixels_((baseTransform_.inverted() * painter.deviceTransform()).inverted()),
       scale_(std::sqrt(std::abs(toDevice_.determinant()))),
@@ -151,8 +153,7 @@ void QtCanvas::drawImage(const Image& image, const Rect& rect, double fraction) 
     if (target == QRectF(target.toAlignedRect()) && target.size() == QSizeF(pixels.size()))
         painter().drawImage(target.topLeft().toPoint(), pixels);
     else
-        painter().drawImage(target, pixels,
-                            QRectF({}, toQt(own->size()) * scale_));
+        painter().drawImage(target, pixels, QRectF({}, toQt(own->size()) * scale_));
     painter().setOpacity(opacity);
 }
 

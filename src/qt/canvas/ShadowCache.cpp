@@ -47,8 +47,7 @@ PlacedImage makeShadow(const PlacedImage& shape, double standardDeviation, const
                        QImage::Format format) {
     const int margin = gaussianReach(standardDeviation);
     const Plane blurred = gaussianBlur(alphaOf(shape.image, margin), standardDeviation);
-    return {colored(blurred, color).convertToFormat(format),
-            shape.origin - QPoint(margin, margin)};
+    return {colored(blurred, color).convertToFormat(format), shape.origin - QPoint(margin, margin)};
 }
 
 ShadowCache& ShadowCache::shared() {

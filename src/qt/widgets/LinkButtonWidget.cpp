@@ -65,8 +65,8 @@ void LinkButtonWidget::setModel(Button& model) {
         [this](const AttributedString&, Transition) { showTitle(); }));
     subscriptions_.push_back(
         model.titleProperty().observe([this](const std::string&, Transition) { showTitle(); }));
-    subscriptions_.push_back(model.enabledProperty().observe(
-        [this](bool enabled, Transition) { setEnabled(enabled); }));
+    subscriptions_.push_back(
+        model.enabledProperty().observe([this](bool enabled, Transition) { setEnabled(enabled); }));
 }
 
 void LinkButtonWidget::showTitle() {
@@ -93,14 +93,14 @@ QColor LinkButtonWidget::readable(const Color& color) const {
 void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     // A title has one look from end to end.
-    const TextAttributes look = model_
-                                    ? model_->attributedTitle().attributesAt(0).value_or(TextAttributes{})
-                                    : TextAttributes{};
+    const TextAttributes look =
+        model_ ? model_->attributedTitle().attributesAt(0).value_or(TextAttributes{})
+               : TextAttributes{};
     QFont styled = font();
     styled.setUnderline(look.underlineStyle == UnderlineStyle::Single);
     painter.setFont(styled);
-    QColor color = look.foregroundColor ? readable(*look.foregroundColor)
-                                        : palette().color(QPalette::Link);
+    QColor color =
+        look.foregroundColor ? readable(*look.foregroundColor) : palette().color(QPalette::Link);
     if (!isEnabled())
         color = palette().color(QPalette::Disabled, QPalette::WindowText);
     painter.setPen(color);

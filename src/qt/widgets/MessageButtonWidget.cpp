@@ -43,8 +43,8 @@ void MessageButtonWidget::setModel(Button& model) {
             if (!title.empty())
                 setText(QString::fromStdString(title));
         }));
-    subscriptions_.push_back(model.enabledProperty().observe(
-        [this](bool enabled, Transition) { setEnabled(enabled); }));
+    subscriptions_.push_back(
+        model.enabledProperty().observe([this](bool enabled, Transition) { setEnabled(enabled); }));
 }
 
 QSize MessageButtonWidget::sizeHint() const {

@@ -37,10 +37,10 @@ void SwitchWidget::setModel(Button& model) {
         // Later: at the end of a drag the state passes through a value that nobody shall hear of.
         QMetaObject::invokeMethod(this, &SwitchWidget::announceState, Qt::QueuedConnection);
     }));
-    subscriptions_.push_back(model.enabledProperty().observe(
-        [this](bool enabled, Transition) { setEnabled(enabled); }));
-    subscriptions_.push_back(model.cell().highlightedProperty().observe(
-        [this](bool, Transition) { update(); }));
+    subscriptions_.push_back(
+        model.enabledProperty().observe([this](bool enabled, Transition) { setEnabled(enabled); }));
+    subscriptions_.push_back(
+        model.cell().highlightedProperty().observe([this](bool, Transition) { update(); }));
     subscriptions_.push_back(model.observeDrawCell([this] { update(); }));
 }
 
@@ -110,7 +110,8 @@ void SwitchWidget::paintOutline(QPainter& painter, double distance, double width
 }
 
 void SwitchWidget::mousePressEvent(QMouseEvent* event) {
-    if (!mouseLoop_ || event->button() != Qt::LeftButton || !mouseLoop_->press(inCell(event->position())))
+    if (!mouseLoop_ || event->button() != Qt::LeftButton ||
+        !mouseLoop_->press(inCell(event->position())))
         event->ignore();
 }
 
