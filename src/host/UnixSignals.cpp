@@ -37,6 +37,8 @@ UnixSignals::UnixSignals() {
         drainPipe();
         emit endRequested();
     });
+    // A write beyond the file-size limit shall fail with an error that can be shown.
+    std::signal(SIGXFSZ, SIG_IGN);
     struct sigaction action {};
     action.sa_handler = writeToPipe;
     action.sa_flags = SA_RESTART;

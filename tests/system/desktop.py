@@ -208,6 +208,15 @@ class Pane:
         assert field.get_editable_text_iface().set_text_contents(text)
 
     def choose_tab(self, name):
-        tab = self.get(name, "page tab")
-        tab.get_action_iface().do_action(0)
-        wait_until(lambda: self.has(name, Atspi.StateType.SELECTED, "page tab"), f"tab {name}")
+        """Presses a tab and waits until its page shows."""
+        tabs = [tab for tab in descendants(self.session.application(self.pid))
+                if tab.get_role_name() == "page tab"]
+        index = [clear(tab.get_name()) for tab in tabs].index(name)
+        tabs[index].get_action_iface().do_action(0)
+        wait_until(lambda: self.page_shows(index), f"the page {name} shows")
+
+    def page_shows(self, index):
+        application = self.session.application(self.pid)
+        pages = next(node for node in descendants(application)
+                     if node.get_role_name() == "layered pane")
+        return pages.get_child_at_index(index).get_state_set().contains(Atspi.StateType.SHOWING)

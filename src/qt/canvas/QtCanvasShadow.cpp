@@ -91,8 +91,8 @@ void QtCanvas::castShadow(const Path& path, double strokeWidth, const QPainterPa
         drawShadow(make({}), {});
         return;
     }
-    const Rect bounds = boundsOf(path);
-    const QPoint place = (toDevice_.map(QPointF(bounds.x, bounds.y)) * subpixels).toPoint();
+    const QPointF corner = toDevice_.mapRect(toQt(boundsOf(path)).normalized()).topLeft();
+    const QPoint place = (corner * subpixels).toPoint();
     const QPoint origin(floorDivide(place.x(), subpixels), floorDivide(place.y(), subpixels));
     const QPoint phase = place - origin * subpixels;
     drawShadow(ShadowCache::shared().shadow(shadowKey(path, strokeWidth, phase, *evenAlpha),

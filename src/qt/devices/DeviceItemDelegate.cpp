@@ -1,10 +1,10 @@
 #include "qt/devices/DeviceItemDelegate.h"
 
 #include "qt/devices/DeviceListModel.h"
+#include "qt/widgets/NoteCard.h"
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -15,36 +15,21 @@ namespace zarvil::qt {
 
 namespace {
 
-// In logical pixels.
+// In logical pixels; the insets and the radius are those of the card's outline.
 constexpr qreal insetLeft = 3;
 constexpr qreal insetRight = 2.5;
 constexpr qreal insetTop = 7.5;
 constexpr qreal insetBottom = 3;
-constexpr qreal cornerRadius = 6;
+constexpr qreal cornerRadius = 8;
 constexpr int padding = 8;
 constexpr int lineCount = 3;
 
-constexpr QColor cardTop(0xFF, 0xF2, 0xD6);
-constexpr QColor cardMiddle(0xFF, 0xE6, 0x00);
-constexpr QColor cardBottom(0xFA, 0xD9, 0x52);
-constexpr QColor cardOutline(0xCC, 0x99, 0x00);
 constexpr QColor nameInk(0x26, 0x1C, 0x00);
 constexpr QColor detailInk(0x4D, 0x3B, 0x00);
 constexpr QColor focusInk(0x1A, 0x4F, 0xA3);
 
 QRectF cardRect(const QRectF& bounds) {
     return bounds.adjusted(insetLeft, insetTop, -insetRight, -insetBottom);
-}
-
-void paintCard(QPainter& painter, const QRectF& bounds) {
-    const QRectF card = cardRect(bounds);
-    QLinearGradient yellow(card.topLeft(), card.bottomLeft());
-    yellow.setColorAt(0, cardTop);
-    yellow.setColorAt(0.5, cardMiddle);
-    yellow.setColorAt(1, cardBottom);
-    painter.setPen(QPen(cardOutline, 1));
-    painter.setBrush(yellow);
-    painter.drawRoundedRect(card, cornerRadius, cornerRadius);
 }
 
 void paintFocus(QPainter& painter, const QRectF& bounds) {
@@ -152,7 +137,7 @@ void DeviceItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(Qt::LayoutDirectionAuto);
-    paintCard(*painter, option.rect);
+    paintNoteCard(*painter, option.rect, painter->device()->devicePixelRatio());
     if (option.state & QStyle::State_HasFocus)
         paintFocus(*painter, option.rect);
     paintCheckBox(*painter, option, index);

@@ -73,7 +73,7 @@ QSize LinkButtonWidget::sizeHint() const {
 /// The given colour where it can be read on the window, else the desktop's colour of links.
 QColor LinkButtonWidget::readable(const Color& color) const {
     const QColor wanted = qt::toQt(color);
-    const QColor background = palette().color(backgroundRole());
+    const QColor background = palette().color(QPalette::Window);
     return contrastRatio(wanted, background) >= readableContrast ? wanted
                                                                  : palette().color(QPalette::Link);
 }
@@ -102,7 +102,7 @@ void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
-        option.backgroundColor = palette().color(backgroundRole());
+        option.backgroundColor = palette().color(QPalette::Window);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 }

@@ -12,6 +12,8 @@ MessagePanelWidget::MessagePanelWidget(QWidget* parent) : QWidget(parent) {
     QPalette readable = palette();
     readable.setColor(QPalette::WindowText, Qt::white);
     readable.setColor(QPalette::Link, Qt::white);
+    // What stands on the panel takes this for what is behind it.
+    readable.setColor(QPalette::Window, QColor::fromRgbF(0.35F, 0.35F, 0.35F));
     setPalette(readable);
 }
 

@@ -1,0 +1,207 @@
+#include "Drawn.h"
+
+#include "qt/canvas/QtImage.h"
+
+#include <gtest/gtest.h>
+
+#include <numbers>
+
+namespace zarvil::qt {
+
+namespace {
+
+const Gradient whiteToBlack = Gradient::evenlySpaced({color::white, Color::gray(0)});
+
+TEST(QtCanvas, startsAGradientAtTheTopAt90FlippedAndAtMinus90YUp) {
+    struct Case {
+        Orientation orientation;
+        double angle;
+        bool whiteAtTop;
+    };
+    for (const Case& shown :
+         {Case{Orientation::YDown, 90, true}, Case{Orientation::YUp, -90, true},
+          Case{Orientation::YDown, -90, false}, Case{Orientation::YUp, 90, false}}) {
+        const QImage image = drawn({4, 40}, 1, shown.orientation, [&](Canvas& canvas) {
+            EXPECT_EQ(canvas.isFlipped(), shown.orientation == Orientation::YDown);
+            canvas.fill(Rect{0, 0, 4, 40}, whiteToBlack, shown.angle);
+        });
+        for (const int y : {0, 10, 39}) {
+            const double fromTop = (y + 0.5) / 40;
+            EXPECT_NEAR(redAt(image, 2, y), shown.whiteAtTop ? 1 - fromTop : fromTop, level)
+                << shown.angle << " " << y;
+        }
+    }
+}
+
+TEST(QtCanvas, placesRectanglesFromTheBottomWhereYGrowsUpwards) {
+    const QImage image = drawn({10, 10}, 2, Orientation::YUp, [](Canvas& canvas) {
+        canvas.fill(Rect{0, 0, 10, 3}, color::white);
+    });
+    EXPECT_EQ(alphaAt(image, 5, 14), 1);
+    EXPECT_EQ(alphaAt(image, 5, 13), 0);
+}
+
+TEST(QtCanvas, coversWhatTheAreaOfCurvesAndThinStrokesTells) {
+    const auto covered = [](const std::function<void(Canvas&)>& drawing) {
+        const QImage image = drawn({40, 40}, 1, Orientation::YDown, drawing);
+        double sum = 0;
+        for (int y = 0; y < 40; ++y)
+            for (int x = 0; x < 40; ++x)
+                sum += alphaAt(image, x, y);
+        return sum;
+    };
+    const double pi = std::numbers::pi;
+    EXPECT_NEAR(covered([](Canvas& c) {
+                    c.fill(Oval{{8.3, 8.3, 24, 24}}, color::white);
+                }),
+                pi * 144, 1);
+    EXPECT_NEAR(covered([](Canvas& c) {
+                    c.fill(RoundedRect{{5, 5, 30, 20}, {10, 10}}, color::white);
+                }),
+                200 + pi * 100, 1);
+    // Both edges of a ring of half a pixel lie in the same pixels.
+    EXPECT_NEAR(covered([](Canvas& c) {
+                    c.stroke(RoundedRect{{5, 5, 30, 20}, {10, 10}}, color::white, 0.5);
+                }),
+                0.5 * (20 + 20 * pi), 0.5);
+    EXPECT_NEAR(covered([](Canvas& c) {
+                    c.stroke(Line{{3, 3}, {33, 33}}, color::white, 0.5);
+                }),
+                0.5 * 30 * std::numbers::sqrt2, 0.8);
+    EXPECT_NEAR(covered([](Canvas& c) {
+                    c.stroke(Rect{10, 10, 8, 8}, color::white, 2);
+                }),
+                100 - 36, 0.1);
+    // A negative size covers what it spans; radii of more than half of it make an ellipse.
+    EXPECT_NEAR(covered([](Canvas& c) {
+                    c.fill(RoundedRect{{20, 20, -5, -10}, {8, 8}}, color::white);
+                }),
+                pi * 2.5 * 5, 0.3);
+    EXPECT_EQ(covered([](Canvas& c) { c.fill(Line{{3, 3}, {33, 33}}, color::white); }), 0);
+}
+
+TEST(QtCanvas, lightensWithThePremultipliedFormula) {
+    struct Case {
+        Color below;
+        double red;
+        double alpha;
+    };
+    // Red is (1 - as) ab cb + as (1 - ab) cs + as ab max(cb, cs), all over the alpha.
+    for (const Case& shown :
+         {Case{Color::gray(0, 0.5), 0.6 / 0.8, 0.8}, Case{Color::gray(1, 0.5), 1, 0.8},
+          Case{color::clear, 1, 0.6}, Case{Color::gray(0, 1), 0.6, 1}}) {
+        const QImage image = drawn({4, 4}, 1, Orientation::YDown, [&](Canvas& canvas) {
+            canvas.fill(Rect{0, 0, 4, 4}, shown.below);
+            canvas.setBlendMode(BlendMode::Lighten);
+            canvas.fill(Rect{0, 0, 4, 4}, Color::gray(1, 0.6));
+        });
+        EXPECT_NEAR(redAt(image, 1, 1), shown.red, level);
+        EXPECT_NEAR(alphaAt(image, 1, 1), shown.alpha, level);
+    }
+    const QImage dark = drawn({4, 4}, 1, Orientation::YDown, [](Canvas& canvas) {
+        canvas.fill(Rect{0, 0, 4, 4}, Color::gray(0.7));
+        canvas.setBlendMode(BlendMode::Lighten);
+        canvas.fill(Rect{0, 0, 4, 4}, Color::gray(0.2, 0.6));
+    });
+    EXPECT_NEAR(redAt(dark, 1, 1), 0.7, level) << "what is darker changes nothing";
+}
+
+TEST(QtCanvas, keepsWhatALayerClearsToTheLayer) {
+    const QImage image = drawn({10, 4}, 2, Orientation::YDown, [](Canvas& canvas) {
+        canvas.fill(Rect{0, 0, 10, 4}, color::white);
+        canvas.beginTransparencyLayer();
+        canvas.fill(Rect{0, 0, 5, 4}, Color::gray(0, 0.5));
+        canvas.saveState();
+        canvas.setBlendMode(BlendMode::Clear);
+        canvas.fill(Rect{3, 0, 7, 4}, color::clear);
+        canvas.restoreState();
+        canvas.endTransparencyLayer();
+    });
+    EXPECT_NEAR(redAt(image, 2, 2), 0.5, level);
+    EXPECT_EQ(redAt(image, 8, 2), 1);
+    EXPECT_EQ(alphaAt(image, 8, 2), 1);
+}
+
+TEST(QtCanvas, drawsALayerOnceWithTheStateOfItsBeginning) {
+    const QImage image = drawn({20, 20}, 1, Orientation::YDown, [](Canvas& canvas) {
+        canvas.saveState();
+        canvas.clip(Rect{0, 0, 10.5, 20});
+        canvas.beginTransparencyLayer();
+        canvas.fill(Rect{0, 0, 20, 20}, color::white);
+        canvas.fill(Rect{0, 0, 20, 20}, color::white);
+        canvas.endTransparencyLayer();
+        canvas.restoreState();
+        canvas.fill(Rect{0, 19, 20, 1}, color::white);
+    });
+    EXPECT_NEAR(alphaAt(image, 10, 5), 0.5, level) << "the clip's edge counts once";
+    EXPECT_EQ(alphaAt(image, 11, 5), 0);
+    EXPECT_EQ(alphaAt(image, 15, 19), 1) << "the clip went with its state";
+}
+
+TEST(QtCanvas, leavesThePainterAsItWas) {
+    QImage image(20, 20, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(2);
+    QPainter painter(&image);
+    painter.translate(3, 1);
+    const QTransform before = painter.worldTransform();
+    { QtCanvas(painter, {5, 5}, Orientation::YUp).fill(Rect{0, 0, 5, 5}, color::white); }
+    EXPECT_EQ(painter.worldTransform(), before);
+    EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
+    EXPECT_EQ(image.pixelColor(6, 2), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(15, 11), QColor(Qt::white));
+}
+
+TEST(QtCanvas, measuresTextAlikeAtEveryScaleAndCutsWhatDoesNotFit) {
+    Size at1;
+    Size at2;
+    const TextStyle style{14.4, color::white, TextAlignment::Left};
+    drawn({10, 10}, 1, Orientation::YDown,
+          [&](Canvas& canvas) { at1 = canvas.sizeOfText("Minutes", style); });
+    const QImage image = drawn({80, 30}, 2, Orientation::YDown, [&](Canvas& canvas) {
+        at2 = canvas.sizeOfText("Minutes", style);
+        canvas.drawText("Minutes", {2, 2, 20, at2.height}, style);
+        canvas.drawText("", {0, 0, 80, 30}, style);
+        canvas.drawText("Never", {40, 0, 0, 30}, style);
+        EXPECT_EQ(canvas.sizeOfText("x", {0, color::white, TextAlignment::Left}), Size{});
+    });
+    EXPECT_EQ(at1, at2);
+    EXPECT_GT(at1.width, 20);
+    EXPECT_GT(at1.height, 14.4);
+    bool inside = false;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            if (alphaAt(image, x, y) == 0)
+                continue;
+            inside = true;
+            EXPECT_TRUE(x >= 4 && x < 44 && y >= 4 && y < 4 + 2 * at2.height + 1) << x << " " << y;
+        }
+    EXPECT_TRUE(inside);
+}
+
+TEST(QtCanvas, drawsImagesUprightAndSharpAtEveryScale) {
+    QtImageRenderer renderer;
+    int times = 0;
+    const auto image = renderer.render({10, 10}, [&times](Canvas& canvas) {
+        ++times;
+        EXPECT_FALSE(canvas.isFlipped());
+        canvas.fill(Rect{0, 9.5, 10, 0.5}, color::white);
+    });
+    for (const Orientation orientation : {Orientation::YDown, Orientation::YUp})
+        for (const double scale : {1.0, 2.0}) {
+            const QImage pixels = drawn({10, 10}, scale, orientation, [&](Canvas& canvas) {
+                canvas.drawImage(*image, {0, 0, 10, 10}, 0.5);
+            });
+            EXPECT_NEAR(alphaAt(pixels, 5, 0), scale == 2 ? 0.5 : 0.25, level);
+            EXPECT_EQ(alphaAt(pixels, 5, 1), 0);
+        }
+    times = 0;
+    for (int time = 0; time < 3; ++time)
+        drawn({10, 10}, 2, Orientation::YUp, [&](Canvas& canvas) {
+            canvas.drawImage(*image, {0, 0, 10, 10}, 1);
+        });
+    EXPECT_EQ(times, 0) << "the last picture was of this scale";
+}
+
+} // namespace
+
+} // namespace zarvil::qt

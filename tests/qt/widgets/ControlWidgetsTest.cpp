@@ -1,0 +1,226 @@
+#include "controls/Hyperlink.h"
+#include "qt/widgets/Contrast.h"
+#include "qt/widgets/LinkButtonWidget.h"
+#include "qt/widgets/MessageButtonWidget.h"
+#include "qt/widgets/MessagePanelWidget.h"
+#include "qt/widgets/NoteCard.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialog>
+#include <QPainter>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace zarvil::qt {
+
+namespace {
+
+struct Target final : ActionTarget {
+    void performAction(std::string_view action, Control*) override { actions.emplace_back(action); }
+    std::vector<std::string> actions;
+};
+
+/// A window with one model to press.
+class ControlWidgets : public testing::Test {
+protected:
+    ControlWidgets() {
+        model.setTarget(&target);
+        model.setAction("press:");
+        window.resize(400, 260);
+    }
+    void show() {
+        window.show();
+        QApplication::setActiveWindow(&window);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    static void hover(QWidget& widget, QPointF position, QEvent::Type type) {
+        QHoverEvent event(type, position, position, position);
+        QApplication::sendEvent(&widget, &event);
+    }
+
+    Button model;
+    Target target;
+    QDialog window;
+};
+
+TEST_F(ControlWidgets, aLinkShowsItsTitleAndAHandWhileTheWindowIsActive) {
+    LinkButtonWidget link(&window);
+    link.resize(200, 24);
+    model.setAttributedTitle(hyperlinkFromString("example.org", ""));
+    link.setModel(model);
+    EXPECT_EQ(link.text(), "example.org");
+    hover(link, {10, 10}, QEvent::HoverEnter);
+    EXPECT_NE(link.cursor().shape(), Qt::PointingHandCursor) << "not shown, not active";
+    hover(link, {-1, -1}, QEvent::HoverLeave);
+    show();
+    hover(link, {10, 10}, QEvent::HoverEnter);
+    EXPECT_EQ(link.cursor().shape(), Qt::PointingHandCursor);
+    hover(link, {-1, -1}, QEvent::HoverLeave);
+    EXPECT_EQ(link.cursor().shape(), Qt::ArrowCursor);
+    link.resize(300, 24);
+    hover(link, {290, 10}, QEvent::HoverEnter);
+    EXPECT_EQ(link.cursor().shape(), Qt::PointingHandCursor) << "over all of its new size";
+}
+
+TEST_F(ControlWidgets, aLinkIsPressedByMouseKeysAndAssistiveTechnologies) {
+    LinkButtonWidget link(&window);
+    link.resize(200, 24);
+    model.setTitle("Pushover");
+    link.setModel(model);
+    show();
+    link.setFocus();
+    QTest::mouseClick(&link, Qt::LeftButton);
+    QTest::keyClick(&link, Qt::Key_Space);
+    QTest::keyClick(&link, Qt::Key_Return);
+    auto* accessible = QAccessible::queryAccessibleInterface(&link);
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_EQ(accessible->role(), QAccessible::Link);
+    EXPECT_EQ(accessible->text(QAccessible::Name), "Pushover");
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(target.actions.size(), 4U);
+    model.setEnabled(false);
+    QTest::mouseClick(&link, Qt::LeftButton);
+    EXPECT_EQ(target.actions.size(), 4U);
+}
+
+/// Text colours that are found in what a widget paints, by their most frequent pixel.
+bool paints(QWidget& widget, const QColor& color) {
+    const QImage image = widget.grab().toImage();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) == color)
+                return true;
+    return false;
+}
+
+TEST_F(ControlWidgets, aLinkIsBlueWhereBlueCanBeRead) {
+    LinkButtonWidget link(&window);
+    link.resize(200, 24);
+    model.setAttributedTitle(hyperlinkFromString("example.org", ""));
+    link.setModel(model);
+    QPalette palette;
+    palette.setColor(QPalette::Link, QColor(120, 180, 255));
+    palette.setColor(QPalette::Window, Qt::white);
+    link.setPalette(palette);
+    EXPECT_TRUE(paints(link, QColor(Qt::blue)));
+    palette.setColor(QPalette::Window, QColor(40, 40, 40));
+    link.setPalette(palette);
+    EXPECT_FALSE(paints(link, QColor(Qt::blue)));
+    EXPECT_TRUE(paints(link, QColor(120, 180, 255)));
+}
+
+TEST_F(ControlWidgets, aMessageButtonIsAPushButtonInAllButItsLook) {
+    QVBoxLayout layout(&window);
+    MessageButtonWidget button;
+    MessageButtonWidget other;
+    layout.addWidget(&button);
+    layout.addWidget(&other);
+    button.setText("&Remove && quit");
+    button.setModel(model);
+    button.setDefault(true);
+    show();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&button)->role(), QAccessible::Button);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name),
+              "Remove & quit");
+    button.setFocus();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::keyClick(&button, Qt::Key_Space);
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_EQ(target.actions.size(), 3U);
+    model.setTitle("Uninstall");
+    EXPECT_EQ(button.text(), "Uninstall");
+    model.setEnabled(false);
+    EXPECT_FALSE(button.isEnabled());
+}
+
+TEST_F(ControlWidgets, aMessageButtonDarkensWhilePressedAndKeepsWhatIsBehindItsCorners) {
+    window.setStyleSheet("QDialog { background: rgb(0, 200, 0) }");
+    MessageButtonWidget button(&window);
+    button.setAutoDefault(false);
+    button.setGeometry(20, 20, 90, 28);
+    show();
+    button.clearFocus();
+    const auto pixel = [&](int x, int y) { return window.grab().toImage().pixelColor(x, y); };
+    // In the row's middle the face is 0.55 white, pressed 0.2.
+    EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
+    EXPECT_GT(pixel(30, 24).red(), pixel(30, 44).red()) << "the lighter colour is at the top";
+    EXPECT_EQ(pixel(20, 20), QColor(0, 200, 0));
+    QTest::mousePress(&button, Qt::LeftButton);
+    EXPECT_NEAR(pixel(30, 34).red(), 0.2 * 255, 4);
+    EXPECT_LT(pixel(30, 24).red(), pixel(30, 44).red());
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
+}
+
+struct Countdown final : TrackingDelegate, TimerPausing, TimerResuming {
+    void pauseTimer() override { log += "pause "; }
+    void resumeTimer() override { log += "resume "; }
+    std::string log;
+};
+
+TEST_F(ControlWidgets, aPanelPausesItsCountdownUnderThePointer) {
+    MessagePanelWidget panel(&window);
+    panel.setGeometry(0, 0, 300, 160);
+    show();
+    const auto countdown = std::make_shared<Countdown>();
+    panel.setupTracking(countdown);
+    hover(panel, {10, 10}, QEvent::HoverEnter);
+    hover(panel, {20, 150}, QEvent::HoverMove);
+    hover(panel, {-1, -1}, QEvent::HoverLeave);
+    EXPECT_EQ(countdown->log, "pause resume ");
+}
+
+TEST_F(ControlWidgets, aPanelShowsItsFaceAndGrooveAtItsPresentSize) {
+    MessagePanelWidget panel(&window);
+    panel.setGeometry(0, 0, 300, 160);
+    for (const int height : {160, 240}) {
+        panel.resize(300, height);
+        const QImage image = panel.grab().toImage();
+        EXPECT_EQ(image.pixelColor(150, 39), QColor(Qt::black)) << "40 points below the top";
+        EXPECT_GT(image.pixelColor(150, 40).red(), image.pixelColor(150, 38).red());
+        EXPECT_NEAR(image.pixelColor(150, 3).red(), 0.5 * 255, 4);
+        EXPECT_NEAR(image.pixelColor(150, height - 4).red(), 0.2 * 255, 4);
+        EXPECT_EQ(image.pixelColor(150, 0).red(), 26) << "half covered by the rim";
+    }
+}
+
+TEST(NoteCard, standsWhereItIsPaintedAtEveryScale) {
+    for (const int scale : {1, 2}) {
+        QImage image(300 * scale, 240 * scale, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintNoteCard(painter, {50, 60, 200, 100}, scale);
+        paintNoteCard(painter, {}, scale);
+        painter.end();
+        const auto at = [&](int x, int y) { return image.pixelColor(x * scale, y * scale); };
+        EXPECT_GT(at(150, 70).blue(), 170) << "cream at the top";
+        EXPECT_LT(at(150, 112).blue(), 30) << "saturated in the middle";
+        EXPECT_NEAR(at(150, 154).blue(), 0.32 * 255, 14) << "warm at the bottom";
+        EXPECT_EQ(at(150, 60 + 2), QColor(Qt::white)) << "7.5 points from the top";
+        EXPECT_NE(at(150, 60 + 8), QColor(Qt::white));
+        EXPECT_EQ(at(48, 110), QColor(Qt::white));
+    }
+}
+
+TEST(Contrast, tellsHighContrastThemesFromOrdinaryOnes) {
+    EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21, 1e-6);
+    EXPECT_NEAR(contrastRatio(Qt::red, Qt::red), 1, 1e-6);
+    const auto palette = [](QColor window, QColor text) {
+        QPalette colors;
+        colors.setColor(QPalette::Window, window);
+        colors.setColor(QPalette::WindowText, text);
+        return colors;
+    };
+    EXPECT_TRUE(isHighContrast(palette(Qt::black, Qt::white)));
+    EXPECT_TRUE(isHighContrast(palette(Qt::white, Qt::black)));
+    EXPECT_FALSE(isHighContrast(palette(QColor(0xef, 0xef, 0xef), Qt::black)));
+    EXPECT_FALSE(isHighContrast(palette(QColor(0x2a, 0x2e, 0x32), QColor(0xfc, 0xfc, 0xfc))));
+}
+
+} // namespace
+
+} // namespace zarvil::qt
