@@ -1,56 +1,18 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
-
-#include <gtest/gtest.h>
-
-namespace zarvil {
-
-/// A message bus of the test's own, gone with this object. The daemon is ended by its process.
-class PrivateBus {
-public:
-    explicit PrivateBus(
-        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
-        daemon_.setProcessEnvironment(environment);
-        daemon_.setStandardErrorFile(QProcess::nullDevice());
-        daemon_.start("dbus-daemon", {"--session", "--nofork", "--nopidfile", "--print-address=1"});
-        if (daemon_.waitForStarted() && daemon_.waitForReadyRead())
-            address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
-        EXPECT_FALSE(address_.isEmpty()) << "dbus-daemon did not start";
-    }
-    ~PrivateBus() {
-        for (const QString& name : connections_)
-            QDBusConnection::disconnectFromBus(name);
-        daemon_.terminate();
-        daemon_.waitForFinished();
-    }
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
-
-    const QString& address() const { return address_; }
-
-    /// A connection of its own, as another process would have.
-    QDBusConnection connect(const QString& name) {
-        connections_ << name;
-        return QDBusConnection::connectToBus(address_, name);
-    }
-
-private:
-    QProcess daemon_;
-    QString address_;
-    QStringList connections_;
-#include <QFile>
-#include <QProcess>
-#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/types.h>
 
 namespace zarvil {
 
@@ -58,17 +20,31 @@ namespace zarvil {
 /// when that crashes.
 class PrivateBus {
 public:
-    PrivateBus() { start(); }
+    explicit PrivateBus(
+        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
+        daemon_.setProcessEnvironment(environment);
+        start();
+    }
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
-    ~PrivateBus() { stop(); }
+    ~PrivateBus() {
+        for (const QString& name : connections_)
+            QDBusConnection::disconnectFromBus(name);
+        stop();
+    }
 
     [[nodiscard]] QString address() const { return "unix:path=" + socket(); }
+
+    /// A connection of its own, as another process would have.
+    QDBusConnection connect(const QString& name) {
+        connections_ << name;
+        return QDBusConnection::connectToBus(address(), name);
+    }
 
     /// Returns once the bus listens; after `stop` it does so at the same address.
     void start() {
         daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        daemon_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        daemon_.setStandardErrorFile(QProcess::nullDevice());
         daemon_.start("dbus-daemon",
                       {"--session", "--nofork", "--print-address", "--address=" + address()});
         ASSERT_TRUE(daemon_.waitForReadyRead()) << qPrintable(daemon_.errorString());
@@ -80,11 +56,16 @@ public:
         QFile::remove(socket());
     }
 
+    /// Keeps the bus from reading and answering anything until `resume`.
+    void freeze() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP); }
+    void resume() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT); }
+
 private:
     [[nodiscard]] QString socket() const { return folder_.filePath("bus"); }
 
     QTemporaryDir folder_;
     QProcess daemon_;
+    QStringList connections_;
 };
 
 } // namespace zarvil

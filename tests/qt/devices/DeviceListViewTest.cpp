@@ -259,10 +259,3 @@ TEST(DisplayText, shortensBetweenWholeCharacters) {
 
 } // namespace
 } // namespace zarvil::qt
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

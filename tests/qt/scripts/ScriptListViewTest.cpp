@@ -235,10 +235,3 @@ TEST_F(ScriptListViewTest, theButtonsTellAScreenReaderWhichScriptTheyWorkOn) {
 
 } // namespace
 } // namespace zarvil::qt
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
