@@ -9,6 +9,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/types.h>
 
 namespace zarvil {
 
@@ -37,6 +38,10 @@ public:
         daemon_.waitForFinished();
         QFile::remove(socket());
     }
+
+    /// Keeps the bus from reading and answering anything until `resume`.
+    void freeze() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP); }
+    void resume() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT); }
 
 private:
     [[nodiscard]] QString socket() const { return folder_.filePath("bus"); }
