@@ -18,7 +18,7 @@ namespace {
 class Usb : public testing::Test {
 protected:
     struct Release {
-        void operator()(UMockdevTestbed* bed) const { g_object_unref(bed); }
+        void operator()(UMockdevTestbed* owned) const { g_object_unref(owned); }
     };
     using Attributes = std::vector<std::pair<const char*, const char*>>;
 

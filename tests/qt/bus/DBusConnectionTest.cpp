@@ -1,5 +1,6 @@
 #include "BusHarness.h"
 
+#include <QElapsedTimer>
 #include <QLocalServer>
 
 #include <array>
@@ -142,6 +143,23 @@ TEST_F(Connection, aBusThatNeverGreetsBlocksNothing) {
     EXPECT_EQ(pane.connectionState(), ConnectionState::Connecting);
     silent.reset();
     EXPECT_TRUE(waitFor([&] { return pane.connectionState() == ConnectionState::Unavailable; }));
+}
+
+TEST_F(Connection, aBusThatStopsAnsweringHoldsUpNothingButTheEnd) {
+    auto pane = std::make_unique<DBusMessageCenter>(paneOptions());
+    const Recorder recorder(*pane);
+    ASSERT_TRUE(waitUntilConnected(*pane));
+    bus.freeze();
+    QElapsedTimer time;
+    time.start();
+    for (int number = 0; number < 1000; ++number) {
+        pane->post(numbered(message::ping, number));
+        Subscription passing = pane->addObserver("ZVOther", [](const Message&) {});
+    }
+    pane.reset();
+    // A second for the end; an answer that was waited for would take twenty-five.
+    EXPECT_LT(time.elapsed(), 10'000);
+    bus.resume();
 }
 
 TEST_F(Connection, whatWasPostedLastIsSentBeforeTheCenterGoes) {

@@ -98,7 +98,8 @@ TEST(ProtocolDocs, xmlHasEveryMessageWithItsDirectionAndNoOther) {
 TEST(ProtocolDocs, xmlHasEverySettingWithItsTypeAndNoOther) {
     std::map<std::string, std::string> documented;
     const std::string prefix = "com.Tessrow.Zarvil.Key.";
-    for (const auto& [name, type] : documentedSignals()[std::string(message::savedPrefs)])
+    const auto documentedMessages = documentedSignals();
+    for (const auto& [name, type] : documentedMessages.at(std::string(message::savedPrefs)))
         if (name.starts_with(prefix))
             documented[name.substr(prefix.size())] = type;
     EXPECT_EQ(documented, settingTypes());
