@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace zarvil::host {
 
@@ -137,7 +138,12 @@ int runHost(int argc, char** argv) {
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return Host(commandLine).run();
+    const int code = Host(commandLine).run();
+    if (BusConnection::anyHangs()) {
+        std::fflush(nullptr);
+        std::_Exit(code);
+    }
+    return code;
 }
 
 } // namespace zarvil::host

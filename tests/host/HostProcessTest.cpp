@@ -1,4 +1,5 @@
 #include "Bundles.h"
+#include "HungBus.h"
 #include "PrivateBus.h"
 #include "PrivateDisplay.h"
 
@@ -94,6 +95,18 @@ TEST_F(HostProcessTest, runsWithoutABusAndEndsCleanlyOnASignal) {
         EXPECT_EQ(calls(), QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect",
                                         "A: gone"}));
     }
+}
+
+TEST_F(HostProcessTest, aBusThatHangsDelaysNeitherTheWindowNorTheEnd) {
+    const HungBus hung(path("bus"));
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", hung.address());
+    const auto process = start({makeBundle("A")});
+    ASSERT_TRUE(isCalled("A: willSelect"));
+    process->terminate();
+    constexpr int endLimit = 10'000; // Qt itself would wait for the bus for 25 seconds
+    ASSERT_TRUE(process->waitForFinished(endLimit));
+    EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process->exitCode(), 0);
 }
 
 TEST_F(HostProcessTest, aSecondStartRaisesTheFirstAndEnds) {
