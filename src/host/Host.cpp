@@ -1,5 +1,6 @@
 #include "host/Host.h"
 
+#include "host/BusProbe.h"
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
@@ -109,28 +110,36 @@ int Host::yieldToFirst() {
     return exitCode::unavailable;
 }
 
-int runHost(int argc, char** argv) {
+namespace {
+
+QStringList argumentsOf(int argc, char** argv) {
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
-    const auto parsed = parseCommandLine(arguments, qEnvironmentVariable("ZARVIL_APPEARANCE"));
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        logFailure(error->message);
-        logFailure(QStringLiteral("try --help"));
-        return exitCode::usage;
-    }
-    const auto& commandLine = std::get<CommandLine>(parsed);
-    if (commandLine.wish != CommandLine::Wish::Run) {
-        std::fputs(commandLine.wish == CommandLine::Wish::Help
-                       ? qPrintable(helpText())
-                       : "zarvil-preferences " ZARVIL_VERSION "\n",
-                   stdout);
-        return exitCode::success;
-    }
-    if (!hasDisplay()) {
-        logFailure(QStringLiteral("there is no display to show a window on"));
-        return exitCode::unavailable;
-    }
+    return arguments;
+}
+
+int failUsage(const UsageError& error) {
+    logFailure(error.message);
+    logFailure(QStringLiteral("try --help"));
+    return exitCode::usage;
+}
+
+int print(const QString& text) {
+    std::fputs(qPrintable(text), stdout);
+    return exitCode::success;
+}
+
+void avoidHungBus() {
+    constexpr std::chrono::seconds limit{2};
+    if (sessionBusAnswers(limit))
+        return;
+    logFailure(QStringLiteral("The session bus does not answer; going on without it."));
+    disableSessionBus();
+}
+
+int runOnDisplay(const CommandLine& commandLine, char** argv) {
+    avoidHungBus();
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
@@ -144,6 +153,25 @@ int runHost(int argc, char** argv) {
         std::_Exit(code);
     }
     return code;
+}
+
+} // namespace
+
+int runHost(int argc, char** argv) {
+    const auto parsed =
+        parseCommandLine(argumentsOf(argc, argv), qEnvironmentVariable("ZARVIL_APPEARANCE"));
+    if (const auto* error = std::get_if<UsageError>(&parsed))
+        return failUsage(*error);
+    const auto& commandLine = std::get<CommandLine>(parsed);
+    if (commandLine.wish == CommandLine::Wish::Help)
+        return print(helpText());
+    if (commandLine.wish == CommandLine::Wish::Version)
+        return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
+    if (!hasDisplay()) {
+        logFailure(QStringLiteral("There is no display to show a window on."));
+        return exitCode::unavailable;
+    }
+    return runOnDisplay(commandLine, argv);
 }
 
 } // namespace zarvil::host
