@@ -1,9 +1,9 @@
 #include "host/Host.h"
 
-#include "host/BusProbe.h"
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
+#include "qt/adapters/BusProbe.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -130,12 +130,13 @@ int print(const QString& text) {
     return exitCode::success;
 }
 
+/// Qt connects to the session bus while it makes the application object.
 void avoidHungBus() {
     constexpr std::chrono::seconds limit{2};
-    if (sessionBusAnswers(limit))
+    if (busAnswers(sessionBusAddress(), limit))
         return;
     logFailure(QStringLiteral("The session bus does not answer; going on without it."));
-    disableSessionBus();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
 }
 
 int runOnDisplay(const CommandLine& commandLine, char** argv) {

@@ -1,5 +1,7 @@
 #include "qt/adapters/BusConnection.h"
 
+#include "qt/adapters/BusProbe.h"
+
 #include <QCoreApplication>
 #include <QPointer>
 #include <QVariant>
@@ -57,7 +59,11 @@ BusConnection::Connect BusConnection::sessionBus() {
 }
 
 BusConnection::Connect BusConnection::systemBus() {
-    return [] { return QDBusConnection::systemBus(); };
+    return [] {
+        constexpr std::chrono::seconds limit{2};
+        return busAnswers(systemBusAddress(), limit) ? QDBusConnection::systemBus()
+                                                     : QDBusConnection(QString());
+    };
 }
 
 void BusConnection::start() {

@@ -33,6 +33,7 @@ public:
     /// The desktop session's bus: the connection of the whole process, which Qt's accessibility
     /// opens anyway, so that what is sent on it keeps its order whoever sends it.
     [[nodiscard]] static Connect sessionBus();
+    /// The system's bus, unless it hangs: then Qt would keep its other connections waiting too.
     [[nodiscard]] static Connect systemBus();
 
     /// Starts connecting; a second call does nothing.

@@ -1,6 +1,5 @@
-#include "host/BusProbe.h"
+#include "qt/adapters/BusProbe.h"
 
-#include <QByteArray>
 #include <QByteArrayList>
 
 #include <algorithm>
@@ -9,18 +8,14 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace zarvil::host {
+namespace zarvil {
 
 namespace {
 
-constexpr const char* addressVariable = "DBUS_SESSION_BUS_ADDRESS";
-
-/// The name of the bus's socket as the kernel takes it, an abstract one with a leading zero; empty
+/// The name of a bus's socket as the kernel takes it, an abstract one with a leading zero; empty
 /// for another kind of address. Of several addresses the first counts, as for the bus library.
-QByteArray socketName() {
-    const QByteArray address = qgetenv(addressVariable).split(';').first();
-    if (address.isEmpty())
-        return qgetenv("XDG_RUNTIME_DIR") + "/bus";
+QByteArray socketName(const QByteArray& addresses) {
+    const QByteArray address = addresses.split(';').first();
     if (!address.startsWith("unix:"))
         return {};
     for (const QByteArray& entry : address.mid(5).split(',')) {
@@ -67,14 +62,22 @@ private:
 
 } // namespace
 
-bool sessionBusAnswers(std::chrono::milliseconds limit) {
-    const QByteArray name = socketName();
+QByteArray sessionBusAddress() {
+    const QByteArray given = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    return given.isEmpty() ? "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus" : given;
+}
+
+QByteArray systemBusAddress() {
+    const QByteArray given = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    return given.isEmpty() ? "unix:path=/var/run/dbus/system_bus_socket" : given;
+}
+
+bool busAnswers(const QByteArray& address, std::chrono::milliseconds limit) {
+    const QByteArray name = socketName(address);
     if (name.isEmpty())
         return true;
     const Socket bus;
     return !bus.connectTo(name) || bus.isAnswered(limit);
 }
 
-void disableSessionBus() { qputenv(addressVariable, "disabled:"); }
-
-} // namespace zarvil::host
+} // namespace zarvil
