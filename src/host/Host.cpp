@@ -76,8 +76,10 @@ int Host::runWindow(const std::vector<BundleOutcome>& bundles) {
                      &HostWindow::raiseToUser);
     QObject::connect(&instance_, &SingleInstance::decided, window_.get(),
                      [this] { standingDecided(); });
-    // Before the pane is loaded the bus has mostly answered already; if not, the window comes up
-    // all the same and a second instance goes again.
+    // A bus in health answers within a few milliseconds, and a second instance then shows nothing.
+    // After that the window comes up all the same, and goes again if it must.
+    constexpr std::chrono::milliseconds answerLimit{25};
+    [[maybe_unused]] const auto bus = session_.wait(answerLimit);
     if (instance_.standing() == SingleInstance::Standing::Second)
         return yieldToFirst();
     if (const auto failure = window_->open())
