@@ -3,12 +3,14 @@
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
+#include "qt/adapters/BusProbe.h"
 
 #include <QApplication>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace zarvil::host {
 
@@ -74,8 +76,10 @@ int Host::runWindow(const std::vector<BundleOutcome>& bundles) {
                      &HostWindow::raiseToUser);
     QObject::connect(&instance_, &SingleInstance::decided, window_.get(),
                      [this] { standingDecided(); });
-    // Before the pane is loaded the bus has mostly answered already; if not, the window comes up
-    // all the same and a second instance goes again.
+    // A bus in health answers within a few milliseconds, and a second instance then shows nothing.
+    // After that the window comes up all the same, and goes again if it must.
+    constexpr std::chrono::milliseconds answerLimit{25};
+    [[maybe_unused]] const auto bus = session_.wait(answerLimit);
     if (instance_.standing() == SingleInstance::Standing::Second)
         return yieldToFirst();
     if (const auto failure = window_->open())
@@ -108,28 +112,37 @@ int Host::yieldToFirst() {
     return exitCode::unavailable;
 }
 
-int runHost(int argc, char** argv) {
+namespace {
+
+QStringList argumentsOf(int argc, char** argv) {
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
-    const auto parsed = parseCommandLine(arguments, qEnvironmentVariable("ZARVIL_APPEARANCE"));
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        logFailure(error->message);
-        logFailure(QStringLiteral("try --help"));
-        return exitCode::usage;
-    }
-    const auto& commandLine = std::get<CommandLine>(parsed);
-    if (commandLine.wish != CommandLine::Wish::Run) {
-        std::fputs(commandLine.wish == CommandLine::Wish::Help
-                       ? qPrintable(helpText())
-                       : "zarvil-preferences " ZARVIL_VERSION "\n",
-                   stdout);
-        return exitCode::success;
-    }
-    if (!hasDisplay()) {
-        logFailure(QStringLiteral("there is no display to show a window on"));
-        return exitCode::unavailable;
-    }
+    return arguments;
+}
+
+int failUsage(const UsageError& error) {
+    logFailure(error.message);
+    logFailure(QStringLiteral("try --help"));
+    return exitCode::usage;
+}
+
+int print(const QString& text) {
+    std::fputs(qPrintable(text), stdout);
+    return exitCode::success;
+}
+
+/// Qt connects to the session bus while it makes the application object.
+void avoidHungBus() {
+    constexpr std::chrono::seconds limit{2};
+    if (busAnswers(sessionBusAddress(), limit))
+        return;
+    logFailure(QStringLiteral("The session bus does not answer; going on without it."));
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+}
+
+int runOnDisplay(const CommandLine& commandLine, char** argv) {
+    avoidHungBus();
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
@@ -137,7 +150,31 @@ int runHost(int argc, char** argv) {
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return Host(commandLine).run();
+    const int code = Host(commandLine).run();
+    if (BusConnection::anyHangs()) {
+        std::fflush(nullptr);
+        std::_Exit(code);
+    }
+    return code;
+}
+
+} // namespace
+
+int runHost(int argc, char** argv) {
+    const auto parsed =
+        parseCommandLine(argumentsOf(argc, argv), qEnvironmentVariable("ZARVIL_APPEARANCE"));
+    if (const auto* error = std::get_if<UsageError>(&parsed))
+        return failUsage(*error);
+    const auto& commandLine = std::get<CommandLine>(parsed);
+    if (commandLine.wish == CommandLine::Wish::Help)
+        return print(helpText());
+    if (commandLine.wish == CommandLine::Wish::Version)
+        return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
+    if (!hasDisplay()) {
+        logFailure(QStringLiteral("There is no display to show a window on."));
+        return exitCode::unavailable;
+    }
+    return runOnDisplay(commandLine, argv);
 }
 
 } // namespace zarvil::host

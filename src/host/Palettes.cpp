@@ -30,7 +30,7 @@ constexpr Colors lightColors{0xffefefef, 0xffffffff, 0xfff6f6f6, 0xffefefef, 0xf
                              0xffffffdc, 0xffffffff, 0xffb8b8b8, 0xff9f9f9f, 0xff767676};
 
 constexpr Colors darkColors{0xff2d2d2d, 0xff1f1f1f, 0xff272727, 0xff3a3a3a, 0xffececec, 0xff858585,
-                            0xff9a9a9a, 0xff2f74c8, 0xffffffff, 0xff4f4f4f, 0xff7ab8ff, 0xffc9a0e6,
+                            0xff9a9a9a, 0xff2f74c8, 0xffffffff, 0xff4f4f4f, 0xff8cc4ff, 0xffc9a0e6,
                             0xff3c3c3c, 0xff585858, 0xff474747, 0xff1a1a1a, 0xff0c0c0c};
 
 constexpr Colors lightContrast{0xffffffff, 0xffffffff, 0xfff0f0f0, 0xffffffff, 0xff000000,
@@ -38,9 +38,11 @@ constexpr Colors lightContrast{0xffffffff, 0xffffffff, 0xfff0f0f0, 0xffffffff, 0
                                0xff0000c8, 0xff5b0080, 0xffffffff, 0xffffffff, 0xff606060,
                                0xff303030, 0xff000000};
 
-constexpr Colors darkContrast{0xff000000, 0xff000000, 0xff141414, 0xff000000, 0xffffffff,
-                              0xffb8b8b8, 0xffc8c8c8, 0xffffd800, 0xff000000, 0xff8c8c8c,
-                              0xff8cc8ff, 0xffe0b0ff, 0xff000000, 0xffffffff, 0xffb0b0b0,
+// Fusion derives outlines from the window and cannot make them lighter than black, so the controls
+// stand out by their own ground.
+constexpr Colors darkContrast{0xff000000, 0xff1c1c1c, 0xff282828, 0xff3a3a3a, 0xffffffff,
+                              0xffdadada, 0xffe6e6e6, 0xffffd800, 0xff000000, 0xff8c8c8c,
+                              0xffd8ecff, 0xfff0dcff, 0xff000000, 0xffffffff, 0xffb0b0b0,
                               0xff909090, 0xff606060};
 
 constexpr const Colors& colorsOf(const Look& look) {

@@ -8,6 +8,8 @@
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QSettings>
+#include <QStyle>
+#include <QTabWidget>
 #include <QTest>
 
 #include <cmath>
@@ -158,6 +160,25 @@ TEST_F(AppearanceTest, everyTextOfAPaletteIsReadable) {
                           highContrast ? 4.5 : 2.0)
                     << dark << highContrast << text << " on " << ground;
         }
+}
+
+TEST_F(AppearanceTest, textsOnATabsPageAreReadable) {
+    const QString style = QApplication::style()->name();
+    QApplication::setStyle("fusion");
+    for (const bool dark : {false, true})
+        for (const bool highContrast : {false, true}) {
+            const QPalette palette = paletteFor({dark, highContrast});
+            QApplication::setPalette(palette);
+            QTabWidget tabs;
+            tabs.addTab(new QWidget, "Tab");
+            tabs.resize(200, 200);
+            // Fusion makes the page's ground lighter than any role of the palette.
+            const QColor ground = tabs.grab().toImage().pixelColor(100, 120);
+            for (const auto text : {QPalette::WindowText, QPalette::Link, QPalette::LinkVisited})
+                EXPECT_GE(contrast(palette.color(text), ground), highContrast ? 7.0 : 4.5)
+                    << dark << highContrast << text << ground.name().toStdString();
+        }
+    QApplication::setStyle(style);
 }
 
 } // namespace

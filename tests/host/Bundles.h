@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -43,17 +44,20 @@ protected:
         EXPECT_TRUE(QFile::copy(SAMPLE_PANE_LIBRARY, path(bundle + "/Contents/libsample.so")));
         return path(bundle);
     }
-    /// The calls since the last time, without the name of the pane where there is one pane.
+    /// The calls since the last time.
     QStringList calls() const {
         QFile file(path("log"));
-        if (!file.open(QIODevice::ReadWrite))
+        if (!file.open(QIODevice::ReadOnly) || !file.seek(read_))
             return {};
         const QString text = QString::fromUtf8(file.readAll());
-        file.resize(0);
+        read_ = file.pos();
         return text.split('\n', Qt::SkipEmptyParts);
     }
 
     QTemporaryDir folder;
+
+private:
+    mutable qint64 read_ = 0;
 };
 
 } // namespace zarvil::host

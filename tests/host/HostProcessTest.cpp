@@ -1,4 +1,5 @@
 #include "Bundles.h"
+#include "HungBus.h"
 #include "PrivateBus.h"
 #include "PrivateDisplay.h"
 
@@ -93,6 +94,23 @@ TEST_F(HostProcessTest, runsWithoutABusAndEndsCleanlyOnASignal) {
         EXPECT_EQ(process->exitCode(), 0);
         EXPECT_EQ(calls(), QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect",
                                         "A: gone"}));
+    }
+}
+
+TEST_F(HostProcessTest, aBusThatHangsKeepsNeitherTheWindowNorTheEndWaiting) {
+    const HungBus hung(path("bus"));
+    const PrivateDisplay display;
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", hung.address());
+    environment.insert("DISPLAY", display.name());
+    makeBundle("A");
+    for (const char* platform : {"offscreen", "xcb"}) {
+        environment.insert("QT_QPA_PLATFORM", platform);
+        const auto process = start({path("panes/A.prefPane")});
+        ASSERT_TRUE(isCalled("A: willSelect")) << platform; // Qt would wait even longer
+        process->terminate();
+        ASSERT_TRUE(process->waitForFinished(limit)) << platform;
+        EXPECT_EQ(process->exitCode(), 0);
+        EXPECT_TRUE(process->readAllStandardError().contains("does not answer"));
     }
 }
 

@@ -1,14 +1,25 @@
 #include "qt/adapters/BusConnection.h"
 
+#include "qt/adapters/BusProbe.h"
+
+#include <QCoreApplication>
 #include <QPointer>
+#include <QVariant>
 
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 #include <utility>
 #include <vector>
 
 namespace zarvil {
+
+namespace {
+
+constexpr std::chrono::seconds endLimit{2};
+/// On the application object, since program and plug-ins each hold a copy of this file.
+constexpr const char* hangsProperty = "zarvil.busConnectionHangs";
+
+} // namespace
 
 /// What the connecting thread and the owner both reach; the thread may outlive the owner.
 struct BusConnection::Shared {
@@ -17,7 +28,6 @@ struct BusConnection::Shared {
     BusConnection* owner = nullptr;
     Connect connect;
     std::optional<QDBusConnection> connection;
-    bool started = false;
 };
 
 BusConnection::BusConnection(Connect connect) : shared_(std::make_shared<Shared>()) {
@@ -26,8 +36,22 @@ BusConnection::BusConnection(Connect connect) : shared_(std::make_shared<Shared>
 }
 
 BusConnection::~BusConnection() {
-    const std::lock_guard lock(shared_->mutex);
+    if (!thread_.joinable())
+        return;
+    std::unique_lock lock(shared_->mutex);
     shared_->owner = nullptr;
+    if (shared_->ended.wait_for(lock, endLimit,
+                                [this] { return shared_->connection.has_value(); })) {
+        lock.unlock();
+        thread_.join();
+    } else {
+        thread_.detach();
+        QCoreApplication::instance()->setProperty(hangsProperty, true);
+    }
+}
+
+bool BusConnection::anyHangs() {
+    return QCoreApplication::instance()->property(hangsProperty).toBool();
 }
 
 BusConnection::Connect BusConnection::sessionBus() {
@@ -35,14 +59,17 @@ BusConnection::Connect BusConnection::sessionBus() {
 }
 
 BusConnection::Connect BusConnection::systemBus() {
-    return [] { return QDBusConnection::systemBus(); };
+    return [] {
+        constexpr std::chrono::seconds limit{2};
+        return busAnswers(systemBusAddress(), limit) ? QDBusConnection::systemBus()
+                                                     : QDBusConnection(QString());
+    };
 }
 
 void BusConnection::start() {
-    if (std::exchange(shared_->started, true))
+    if (thread_.joinable())
         return;
-    // Detached, since joining would wait for a bus that hangs.
-    std::thread([shared = shared_] {
+    thread_ = std::thread([shared = shared_] {
         auto connection = shared->connect();
         const std::lock_guard lock(shared->mutex);
         shared->connection = std::move(connection);
@@ -51,7 +78,7 @@ void BusConnection::start() {
             QMetaObject::invokeMethod(
                 shared->owner, [owner = shared->owner] { owner->announce(); },
                 Qt::QueuedConnection);
-    }).detach();
+    });
 }
 
 void BusConnection::whenReady(QObject* context, Ready ready) {

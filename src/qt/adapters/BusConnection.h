@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 #include <vector>
 
 namespace zarvil {
@@ -22,11 +23,17 @@ public:
     using Ready = std::function<void(const QDBusConnection&)>;
 
     explicit BusConnection(Connect connect);
+    /// Waits a moment for an attempt under way, so that its thread is gone before the program's
+    /// statics are. A thread that hangs is left behind, and `anyHangs` says so from then on.
     ~BusConnection() override;
+
+    /// Whether a thread was left behind: then the process must end without destroying statics.
+    [[nodiscard]] static bool anyHangs();
 
     /// The desktop session's bus: the connection of the whole process, which Qt's accessibility
     /// opens anyway, so that what is sent on it keeps its order whoever sends it.
     [[nodiscard]] static Connect sessionBus();
+    /// The system's bus, unless it hangs: then Qt would keep its other connections waiting too.
     [[nodiscard]] static Connect systemBus();
 
     /// Starts connecting; a second call does nothing.
@@ -42,6 +49,7 @@ private:
     void announce();
 
     std::shared_ptr<Shared> shared_;
+    std::thread thread_;
     std::vector<std::function<void(const QDBusConnection&)>> waiting_;
 };
 

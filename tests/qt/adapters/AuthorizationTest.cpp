@@ -1,4 +1,6 @@
+#include "HungBus.h"
 #include "PrivateBus.h"
+#include "qt/adapters/BusProbe.h"
 #include "qt/adapters/PolkitAuthorization.h"
 
 #include <QCoreApplication>
@@ -6,6 +8,7 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <optional>
@@ -101,6 +104,23 @@ TEST(PolkitAuthorizationTest, withoutABusOrAnAuthorityNothingIsGranted) {
     }
 }
 
+TEST(PolkitAuthorizationTest, aSystemBusThatHangsHoldsUpNoOtherConnection) {
+    const QTemporaryDir folder;
+    const HungBus hung(folder.filePath("bus"));
+    const QByteArray before = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", hung.address().toUtf8());
+    PolkitAuthorization authorization;
+    std::optional<AuthorizationOutcome> outcome;
+    authorization.check("x", Interaction::None, [&](const auto& reply) { outcome = reply; });
+    PrivateBus bus;
+    EXPECT_TRUE(bus.connect("meanwhile").isConnected());
+    EXPECT_FALSE(outcome);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return outcome.has_value(); }));
+    EXPECT_EQ(outcome->reason, unavailable);
+    EXPECT_FALSE(BusConnection::anyHangs());
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", before);
+}
+
 TEST(PolkitAuthorizationTest, theAuthoritysAnswerDecides) {
     PrivateBus bus;
     FakeAuthority authority;
@@ -146,6 +166,21 @@ TEST(PolkitAuthorizationTest, theAuthoritysAnswerDecides) {
     EXPECT_EQ(authority.kind, "unix-process");
     EXPECT_EQ(authority.subjectDetails.value("pid").toUInt(), static_cast<uint>(getpid()));
     EXPECT_EQ(authority.subjectDetails.value("start-time").toULongLong(), startTimeOfThisProcess());
+}
+
+TEST(BusProbeTest, onlySilenceCountsAsHanging) {
+    const QTemporaryDir folder;
+    const HungBus hung(folder.filePath("bus"));
+    PrivateBus bus;
+    constexpr std::chrono::milliseconds limit{500};
+    for (const QByteArray& address :
+         {bus.address().toUtf8(), bus.address().toUtf8() + ";unix:path=/nowhere",
+          QByteArray("unix:path=/nonexistent/bus"), QByteArray("unix:abstract=zarvil%20nobody"),
+          QByteArray("disabled:"), QByteArray("tcp:host=localhost"), QByteArray("unix:"),
+          QByteArray("unix:path=" + QByteArray(300, 'x')), QByteArray()})
+        EXPECT_TRUE(busAnswers(address, limit)) << address.toStdString();
+    EXPECT_FALSE(busAnswers(hung.address().toUtf8(), limit));
+    EXPECT_FALSE(busAnswers(hung.address().toUtf8() + ",guid=00", limit));
 }
 
 TEST(PolkitAuthorizationTest, repliesToNobodyOnceItIsGone) {

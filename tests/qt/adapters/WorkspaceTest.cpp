@@ -1,3 +1,4 @@
+#include "HungBus.h"
 #include "PrivateBus.h"
 #include "qt/adapters/BusConnection.h"
 #include "qt/adapters/QtWorkspace.h"
@@ -10,8 +11,7 @@
 #include <QTest>
 
 #include <algorithm>
-#include <sys/socket.h>
-#include <sys/un.h>
+#include <optional>
 #include <unistd.h>
 
 namespace zarvil {
@@ -95,28 +95,9 @@ TEST_F(QtWorkspaceTest, listsTheNamesOnTheBusWithTheirProcesses) {
     EXPECT_EQ(names, expected);
 }
 
-/// Takes connections and never says a word.
-class HungBus {
-public:
-    explicit HungBus(const QString& path) {
-        sockaddr_un name{};
-        name.sun_family = AF_UNIX;
-        const QByteArray bytes = path.toUtf8();
-        std::ranges::copy(bytes, name.sun_path);
-        EXPECT_EQ(bind(socket_, reinterpret_cast<const sockaddr*>(&name), sizeof name), 0);
-        EXPECT_EQ(listen(socket_, 5), 0);
-    }
-    ~HungBus() { close(socket_); }
-    HungBus(const HungBus&) = delete;
-    HungBus& operator=(const HungBus&) = delete;
-
-private:
-    int socket_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-};
-
 TEST_F(QtWorkspaceTest, aBusThatHangsOrIsAbsentGivesNothingInBoundedTime) {
-    HungBus hung(path("bus"));
-    const QString address = "unix:path=" + path("bus");
+    auto hung = std::make_optional<HungBus>(path("bus"));
+    const QString address = hung->address();
     const BusConnection::Connect connects[] = {
         noBus(), [address] { return QDBusConnection::connectToBus(address, "hung"); }};
     for (const auto& connect : connects) {
@@ -127,6 +108,8 @@ TEST_F(QtWorkspaceTest, aBusThatHangsOrIsAbsentGivesNothingInBoundedTime) {
         EXPECT_TRUE(workspace.runningApplications().empty());
         EXPECT_FALSE(workspace.launchApplication("/nowhere/Applications/Zarvil.app"));
         EXPECT_LT(timer.elapsed(), 4000);
+        if (&connect != connects)
+            hung.reset(); // ends the attempt, and with it the connecting thread
     }
 }
 
