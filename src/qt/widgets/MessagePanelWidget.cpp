@@ -15,9 +15,9 @@ MessagePanelWidget::MessagePanelWidget(QWidget* parent) : QWidget(parent) {
 }
 
 void MessagePanelWidget::adoptColors() {
+    highContrast_ = isHighContrast(QGuiApplication::palette());
     QPalette colors;
-    if (!isHighContrast(QGuiApplication::palette())) {
-        colors = palette();
+    if (!highContrast_) {
         colors.setColor(QPalette::WindowText, Qt::white);
         colors.setColor(QPalette::Link, Qt::white);
         // What stands on the panel takes this for what is behind it.
@@ -28,7 +28,7 @@ void MessagePanelWidget::adoptColors() {
 
 void MessagePanelWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    if (isHighContrast(QGuiApplication::palette())) {
+    if (highContrast_) {
         painter.setPen(palette().color(QPalette::WindowText));
         painter.setBrush(palette().window());
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -52,7 +52,8 @@ bool MessagePanelWidget::event(QEvent* event) {
         followPointer(static_cast<QHoverEvent*>(event)->position());
     else if (event->type() == QEvent::HoverLeave)
         followPointer(std::nullopt);
-    else if (event->type() == QEvent::ApplicationPaletteChange)
+    else if ((event->type() == QEvent::PaletteChange || event->type() == QEvent::Show) &&
+             highContrast_ != isHighContrast(QGuiApplication::palette()))
         adoptColors();
     return QWidget::event(event);
 }

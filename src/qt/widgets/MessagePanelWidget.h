@@ -36,6 +36,7 @@ private:
     QtImageRenderer renderer_;
     ZVMessageView view_{renderer_};
     PointerTracker tracker_{view_};
+    bool highContrast_ = false; ///< the theme is, and so the colours are its own
 };
 
 } // namespace zarvil::qt
