@@ -50,9 +50,9 @@ void report(const char* name, int runs, const std::function<void(int)>& run) {
     for (int index = 0; index < runs; ++index) {
         const auto start = std::chrono::steady_clock::now();
         run(index);
-        times.push_back(std::chrono::duration<double, std::milli>(
-                            std::chrono::steady_clock::now() - start)
-                            .count());
+        times.push_back(
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                .count());
     }
     double sum = 0;
     for (const double time : times)

@@ -1,3 +1,4 @@
+#include "alerts/EmailAddress.h"
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/Settings.h"
 
@@ -11,7 +12,19 @@ void Zarvil_Preferences::showSavedEmail(const Dictionary& settings) {
     email.setStringValue(address ? *address : std::string());
 }
 
-void Zarvil_Preferences::setUserEmail(Control* /*sender*/) {}
-void Zarvil_Preferences::useEmailNotifications(Control* /*sender*/) {}
+bool Zarvil_Preferences::validEmail(std::string_view address) {
+    return matchesEmailPattern(address);
+}
+
+// An invalid address is dropped without a word; the field keeps what the user typed.
+void Zarvil_Preferences::setUserEmail(Control* sender) {
+    const auto* field = dynamic_cast<TextField*>(sender);
+    if (field && validEmail(field->stringValue()))
+        postSetting(setting::emailAddress, field->stringValue());
+}
+
+void Zarvil_Preferences::useEmailNotifications(Control* sender) {
+    postState(setting::useEmailNotifi, sender);
+}
 
 } // namespace zarvil

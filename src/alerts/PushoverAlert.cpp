@@ -1,8 +1,52 @@
+#include "pane/Product.h"
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/Messages.h"
 #include "protocol/Settings.h"
 
 namespace zarvil {
+
+namespace {
+
+constexpr Color approving{0.1, 0.7, 0.1, 1};
+constexpr Color alarming{1.0, 0.1, 0.1, 1};
+
+enum class StoredIds : bool { Keep, Reset };
+
+/// What the user is told of a check's result. The texts are keys of the string table, as they
+/// stand there.
+struct Verdict {
+    std::string_view text;
+    Color color;
+    StoredIds storedIds;
+};
+
+Verdict verdictFor(std::int64_t code) {
+    switch (code) {
+    case pushCode::valid:
+        return {"Settings are valid!", approving, StoredIds::Keep};
+    case pushCode::noConnection:
+        // Nothing is known against the IDs, so they stay.
+        return {"Connection timeout! Check your Internet connection!", alarming, StoredIds::Keep};
+    case pushCode::wrongSettings:
+        return {"Invalid settings! Check your User ID and Device ID(if any)", alarming,
+                StoredIds::Reset};
+    default:
+        return {"Unknow error!", alarming, StoredIds::Reset};
+    }
+}
+
+Dictionary validationRequest(const std::string& userId, const std::string& deviceId) {
+    Dictionary request;
+    request.setObject(payload::userId, userId);
+    if (!deviceId.empty())
+        request.setObject(payload::deviceId, deviceId);
+    request.setObject(payload::messageTitle, "test");
+    request.setObject(payload::messageText, "somemessage");
+    request.setObject(payload::validate, true);
+    return request;
+}
+
+} // namespace
 
 void Zarvil_Preferences::setPushoverEnabled(bool effective) {
     if (!effective || usePushover.state() == buttonState::off) {
@@ -37,11 +81,71 @@ void Zarvil_Preferences::showSavedPushover(const Dictionary& settings) {
     pushValidate.setEnabled(on && userId);
 }
 
-void Zarvil_Preferences::usePushoverAction(Control* /*sender*/) {}
-void Zarvil_Preferences::setUserId(Control* /*sender*/) {}
-void Zarvil_Preferences::setDeviceId(Control* /*sender*/) {}
-void Zarvil_Preferences::validatePushover(Control* /*sender*/) {}
-void Zarvil_Preferences::goToPushover(Control* /*sender*/) {}
-void Zarvil_Preferences::pushValidationFinished(const Message* /*message*/) {}
+void Zarvil_Preferences::usePushoverAction(Control* sender) {
+    const auto* box = dynamic_cast<Button*>(sender);
+    if (!box)
+        return;
+    const bool on = box->state() != buttonState::off;
+    postSetting(setting::usePushover, on);
+    setPushoverFieldsEnabled(on);
+    if (!on)
+        pushValidate.setEnabled(false);
+    else if (!pushUserName.stringValue().empty())
+        pushValidate.setEnabled(true);
+    pushBox.setAlphaValue(on ? alpha::active : alpha::dimmed, Transition::Animated);
+}
+
+void Zarvil_Preferences::setUserId(Control* sender) { postText(setting::pushUserId, sender); }
+
+void Zarvil_Preferences::setDeviceId(Control* sender) { postText(setting::pushDeviceId, sender); }
+
+void Zarvil_Preferences::postText(std::string_view key, Control* sender) {
+    const auto* field = dynamic_cast<TextField*>(sender);
+    if (field && !field->stringValue().empty())
+        postSetting(key, field->stringValue());
+}
+
+void Zarvil_Preferences::validatePushover(Control* /*sender*/) {
+    if (pushUserName.stringValue().empty()) {
+        const Message refusal(message::prefsUserIdWrong,
+                              Dictionary{{std::string(payload::code), pushCode::wrongSettings}});
+        pushValidationFinished(&refusal);
+        return;
+    }
+    setPushoverFieldsEnabled(false);
+    pushBox.setAlphaValue(alpha::dimmed, Transition::Animated);
+    pushIndicator.startAnimation();
+    pushValidate.setEnabled(false);
+    setUserId(&pushUserName);
+    setDeviceId(&pushDeviceName);
+    platform_.messages.post(
+        Message(message::validatePushover,
+                validationRequest(pushUserName.stringValue(), pushDeviceName.stringValue())));
+}
+
+void Zarvil_Preferences::pushValidationFinished(const Message* message) {
+    // Enabled even if the alert was switched off while the check ran, on purpose.
+    setPushoverFieldsEnabled(true);
+    pushValidate.setEnabled(true);
+    pushBox.setAlphaValue(alpha::active, Transition::Animated);
+    pushIndicator.stopAnimation();
+    const Verdict verdict = verdictFor(message->info().integerForKey(payload::code));
+    if (verdict.storedIds == StoredIds::Reset)
+        resetUserAndDeviceSettings();
+    TextAttributes look;
+    look.foregroundColor = verdict.color;
+    look.alignment = TextAlignment::Centered;
+    pushValidationStatus.setAttributedStringValue(
+        AttributedString(platform_.strings.localizedString(verdict.text), look));
+    pushValidationStatus.setHidden(false);
+}
+
+// The fields keep what the user typed; only what the agent stores is emptied.
+void Zarvil_Preferences::resetUserAndDeviceSettings() {
+    postSetting(setting::pushUserId, "");
+    postSetting(setting::pushDeviceId, "");
+}
+
+void Zarvil_Preferences::goToPushover(Control* /*sender*/) { openURL(product::pushoverSite); }
 
 } // namespace zarvil

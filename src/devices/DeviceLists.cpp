@@ -1,14 +1,124 @@
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/Messages.h"
 
+#include <algorithm>
+
 namespace zarvil {
 
-void Zarvil_Preferences::deviceConnected(const Message* /*message*/) { appDidAnswer(nullptr); }
-void Zarvil_Preferences::deviceDisconnected(const Message* /*message*/) { appDidAnswer(nullptr); }
-void Zarvil_Preferences::allSavedDevices(const Message* /*message*/) {}
-void Zarvil_Preferences::allConnectedDevices(const Message* /*message*/) {}
-void Zarvil_Preferences::allDevices(const Message* /*message*/) {}
-void Zarvil_Preferences::newSavedDevice(const Message* /*message*/) {}
-void Zarvil_Preferences::stateDidChange(ZVCollectionItem& /*item*/) {}
+namespace {
+
+constexpr unsigned long saved = 1;
+
+/// Calls back for each device record under "devices", in order. What is no record is passed over,
+/// and so is everything when there is no array.
+template <typename Callback>
+void forEachDevice(const Message& message, Callback&& callback) {
+    const Array* devices = message.info().arrayForKey(payload::devices);
+    if (!devices)
+        return;
+    for (const Value& entry : *devices) {
+        if (const auto* device = entry.as<Dictionary>())
+            callback(*device);
+    }
+}
+
+Message deviceMessage(std::string_view name, const Record& record) {
+    return {name, Dictionary{{std::string(payload::device), record->contents()}}};
+}
+
+} // namespace
+
+void Zarvil_Preferences::deviceConnected(const Message* message) {
+    appDidAnswer(nullptr);
+    if (message->userInfo)
+        addDevice(makeRecord(*message->userInfo));
+}
+
+void Zarvil_Preferences::deviceDisconnected(const Message* message) {
+    appDidAnswer(nullptr);
+    removeDevice(message->info());
+}
+
+void Zarvil_Preferences::allSavedDevices(const Message* message) {
+    savedArrayController.removeAllArrangedObjects();
+    forEachDevice(*message,
+                  [this](const Dictionary& device) { addSavedDevice(makeRecord(device)); });
+}
+
+// Adds to the lists that stand; a reconnection is what empties them.
+void Zarvil_Preferences::allConnectedDevices(const Message* message) {
+    devices.clear();
+    forEachDevice(*message, [this](const Dictionary& device) { addDevice(makeRecord(device)); });
+}
+
+// The displayed lists keep what they show, on purpose.
+void Zarvil_Preferences::allDevices(const Message* message) {
+    allConnectedDevices_.clear();
+    forEachDevice(*message, [this](const Dictionary& device) {
+        allConnectedDevices_.add(makeRecord(device));
+    });
+}
+
+void Zarvil_Preferences::newSavedDevice(const Message* message) {
+    const Dictionary* device = message->info().dictionaryForKey(payload::device);
+    if (!device)
+        return;
+    removeDevice(*device);
+    addSavedDevice(makeRecord(*device));
+}
+
+void Zarvil_Preferences::addDevice(const Record& record) {
+    allConnectedDevices_.add(record);
+    if (watchedDevices_.firstSameDevice(record->contents()))
+        return;
+    arrayController.addObject(record);
+    arrayController.rearrangeObjects();
+}
+
+// A watched device stays in its list, ticked, while it is unplugged.
+void Zarvil_Preferences::removeDevice(const Dictionary& device) {
+    if (const Record known = allConnectedDevices_.firstSameDevice(device))
+        allConnectedDevices_.remove(known);
+    if (const Record shown = unwatchedDevices_.firstSameDevice(device)) {
+        arrayController.removeObject(shown);
+        arrayController.rearrangeObjects();
+    }
+}
+
+void Zarvil_Preferences::addSavedDevice(const Record& record) {
+    savedArrayController.addObject(record);
+    // The first of equal records gets the tick, even if this one stands behind it.
+    const auto index = savedArrayController.indexOfObject(record->contents());
+    if (!index)
+        return;
+    if (const auto item = selectedDevices.itemAtIndexAs<ZVCollectionItem>(*index))
+        item->setState(saved);
+}
+
+bool Zarvil_Preferences::staysConnected(const Dictionary& device) const {
+    // The serial alone decides here, unlike at a device's arrival and departure.
+    const Value* serial = device.objectForKey(payload::deviceSerial);
+    if (serial && *serial != Value(payload::unknownSerial) &&
+        allConnectedDevices_.containsSerial(*serial))
+        return true;
+    return std::ranges::any_of(
+        devices, [&device](const Record& known) { return known->contents() == device; });
+}
+
+void Zarvil_Preferences::stateDidChange(ZVCollectionItem& item) {
+    const Record record = item.representedObject();
+    if (!record)
+        return;
+    if (item.state() != 0) {
+        arrayController.removeObject(record);
+        addSavedDevice(record);
+        platform_.messages.post(deviceMessage(message::addedSaveItem, record));
+        return;
+    }
+    if (staysConnected(record->contents()))
+        arrayController.addObject(record);
+    savedArrayController.removeObject(record);
+    platform_.messages.post(deviceMessage(message::saveItemRemoved, record));
+}
 
 } // namespace zarvil

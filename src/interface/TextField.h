@@ -15,6 +15,10 @@ public:
     /// What the user's edits are announced on; not owned. Without one they are announced nowhere.
     void setNotificationCenter(NotificationCenter* center) { center_ = center; }
 
+    /// Not owned; told nothing, edits are announced on the notification center.
+    void setDelegate(const void* delegate) { delegate_ = delegate; }
+    [[nodiscard]] const void* delegate() const { return delegate_; }
+
     // Events in.
     /// The user changed the text without ending the edit.
     void userDidEdit(std::string_view text);
@@ -42,6 +46,7 @@ private:
     Property<std::string> text_;
     Property<AttributedString> attributedText_;
     NotificationCenter* center_ = nullptr;
+    const void* delegate_ = nullptr;
 };
 
 } // namespace zarvil

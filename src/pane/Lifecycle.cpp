@@ -45,6 +45,7 @@ void Zarvil_Preferences::mainViewDidLoad() {
         cell->setShowStateExtras(true);
     }
     restoreDelayUnit();
+    scriptsTitle.setDelegate(this);
 }
 
 void Zarvil_Preferences::setUpAuthorization() {

@@ -46,6 +46,7 @@ void Outlets::greyWhatNeedsTheAgent() {
                                                             &forceQuit,
                                                             &hideConnectMessage,
                                                             &showShutdownMessage,
+                                                            &hideShutdownMessageButton,
                                                             &hideShutdownMessage,
                                                             &shutdownDelayText,
                                                             &toggleMinSec,

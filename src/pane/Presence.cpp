@@ -27,6 +27,7 @@ void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
     if (lostConnection) {
         lostConnection = false;
         emptyDeviceLists();
+        allConnectedDevices_.clear();
         post(message::prefsLoaded);
     }
     launchButton.setEnabled(true);
@@ -115,12 +116,14 @@ void Zarvil_Preferences::quitePrefs(const Message* /*message*/) {
     platform_.processes.exit(0);
 }
 
-void Zarvil_Preferences::killHost() {
+bool Zarvil_Preferences::killHost() {
     const auto running = platform_.workspace.runningApplications();
     const auto host = std::ranges::find(running, platform_.workspace.mainBundleIdentifier(),
                                         &RunningApplication::bundleIdentifier);
-    if (host != running.end())
-        platform_.processes.kill(host->processIdentifier);
+    if (host == running.end())
+        return false;
+    platform_.processes.kill(host->processIdentifier);
+    return true;
 }
 
 } // namespace zarvil

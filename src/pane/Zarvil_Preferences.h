@@ -158,6 +158,8 @@ private:
     void postSetting(std::string_view key, Value value);
     /// Sends a toggle's state; a sender without a state sends nothing.
     void postState(std::string_view key, Control* sender);
+    /// Sends a field's text; an empty one is never sent.
+    void postText(std::string_view key, Control* sender);
     void emptyDeviceLists();
 
     void showLaunchButton(std::string_view title, std::string_view action);
@@ -172,17 +174,22 @@ private:
     void addDevice(const Record& record);
     void removeDevice(const Dictionary& device);
     void addSavedDevice(const Record& record);
+    /// Whether an unsaved device goes back to the list of connected devices.
+    [[nodiscard]] bool staysConnected(const Dictionary& device) const;
 
     void resetUserAndDeviceSettings();
 
     [[nodiscard]] bool scriptExists(std::string_view title) const;
     void handToItem(const Record& record);
 
-    void killHost();
+    /// False when the host is not among the running applications.
+    bool killHost();
     void openURL(std::string_view url);
 
     Platform& platform_;
     DeviceList allConnectedDevices_;
+    DeviceList unwatchedDevices_{arrayController};
+    DeviceList watchedDevices_{savedArrayController};
     NotificationCenter textChanges_;
     Panel* ttip = nullptr;
     std::unique_ptr<Timer> appTimer;

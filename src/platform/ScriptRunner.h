@@ -11,6 +11,7 @@ namespace zarvil {
 struct ScriptError {
     std::int64_t number = 0;
     std::string message;
+    friend bool operator==(const ScriptError&, const ScriptError&) = default;
 };
 
 /// Compiles and runs a script's source.

@@ -1,15 +1,122 @@
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/Settings.h"
+#include "scripts/ScriptFile.h"
+
+#include <algorithm>
 
 namespace zarvil {
 
-void Zarvil_Preferences::loadScripts() {}
-void Zarvil_Preferences::unloadScripts() { scriptsArrayController.removeAllArrangedObjects(); }
-void Zarvil_Preferences::create(Control* /*sender*/) {}
-void Zarvil_Preferences::removeScript(const Record& /*record*/) {}
-void Zarvil_Preferences::useScripts(Control* /*sender*/) {}
-void Zarvil_Preferences::scriptsTitleChanged(TextField& /*field*/) {}
-void Zarvil_Preferences::updateNewScriptsTitle(Control* /*sender*/) {}
-void Zarvil_Preferences::setNewScriptTitleVal(std::optional<std::string> /*title*/) {}
+namespace {
+
+Record makeScript(std::string_view title, std::string_view text) {
+    return makeRecord(
+        Dictionary{{std::string(script::title), title}, {std::string(script::text), text}});
+}
+
+} // namespace
+
+bool Zarvil_Preferences::scriptExists(std::string_view title) const {
+    return std::ranges::any_of(scriptsArrayController.arrangedObjects(), [&](const Record& record) {
+        const std::string* listed = record->contents().stringForKey(script::title);
+        return listed && *listed == title;
+    });
+}
+
+void Zarvil_Preferences::handToItem(const Record& record) {
+    // By contents: of equal scripts only the first one's item is given a record, on purpose.
+    const auto index = scriptsArrayController.indexOfObject(record->contents());
+    if (!index)
+        return;
+    if (const auto item = scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index)) {
+        item->setData(record);
+        item->setOwner(this);
+    }
+}
+
+void Zarvil_Preferences::loadScripts() {
+    const std::string folder = platform_.files.expandingTilde(kZVScriptingFolder);
+    if (platform_.files.kindOfItem(folder) != FileKind::Directory) {
+        if (const auto error = platform_.files.createDirectory(folder))
+            platform_.errors.presentError(*error);
+        return;
+    }
+    // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
+    for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
+        const auto text = platform_.files.readText(folder + "/" + name);
+        const Record record = makeScript(script::titleOfFile(name), text.value_or(std::string()));
+        scriptsArrayController.addObject(record);
+        handToItem(record);
+    }
+}
+
+void Zarvil_Preferences::unloadScripts() {
+    scriptsArrayController.removeAllArrangedObjects();
+    scriptsArrayController.rearrangeObjects();
+}
+
+void Zarvil_Preferences::create(Control* /*sender*/) {
+    const std::string title = scriptsTitle.stringValue();
+    if (title.empty() || scriptExists(title)) {
+        createNewScript.setEnabled(false);
+        return;
+    }
+    const std::string path = script::filePath(platform_.files, title);
+    if (const auto error = platform_.files.writeText("", path, Atomicity::Direct)) {
+        platform_.errors.presentError(*error);
+        return;
+    }
+    const Record record = makeScript(title, "");
+    scriptsArrayController.addObject(record);
+    scriptsTitle.setStringValue("");
+    createNewScript.setEnabled(false);
+    scriptsArrayController.rearrangeObjects();
+    handToItem(record);
+}
+
+void Zarvil_Preferences::removeScript(const Record& record) {
+    if (record)
+        scriptsArrayController.removeObject(record);
+    scriptsArrayController.rearrangeObjects();
+}
+
+void Zarvil_Preferences::useScripts(Control* sender) {
+    const auto* box = dynamic_cast<Button*>(sender);
+    if (!box)
+        return;
+    const bool on = box->state() != buttonState::off;
+    if (on) {
+        scriptsCollection.setAlphaValue(alpha::active);
+        loadScripts();
+    } else {
+        scriptsTitle.setStringValue("");
+        scriptsCollection.setAlphaValue(alpha::dimmed);
+        unloadScripts();
+    }
+    scriptsTitle.setEnabled(on);
+    createNewScript.setEnabled(false);
+    postSetting(setting::useScripts, on);
+}
+
+void Zarvil_Preferences::scriptsTitleChanged(TextField& field) {
+    if (&field == &scriptsTitle) {
+        updateNewScriptsTitle(&field);
+    } else if (&field == &pushUserName) {
+        pushValidationStatus.setHidden(true);
+        pushValidate.setEnabled(!pushUserName.stringValue().empty());
+    }
+}
+
+void Zarvil_Preferences::updateNewScriptsTitle(Control* sender) {
+    const auto* field = dynamic_cast<TextField*>(sender);
+    createNewScript.setEnabled(field && !field->stringValue().empty() &&
+                               !scriptExists(field->stringValue()));
+}
+
+void Zarvil_Preferences::setNewScriptTitleVal(std::optional<std::string> title) {
+    newScriptTitleVal_ = std::move(title);
+    // One-sided on purpose: only `updateNewScriptsTitle` ever enables the button.
+    if (!newScriptTitleVal_ || scriptExists(*newScriptTitleVal_))
+        createNewScript.setEnabled(false);
+}
 
 } // namespace zarvil

@@ -1,18 +1,174 @@
 #include "PaneHarness.h"
+#include "pane/Product.h"
 
 namespace zarvil {
 namespace {
 
-using Presence = PaneHarness;
+class Presence : public PaneHarness {
+protected:
+    bool looksAbsent() const {
+        return !pane.togglePowerButton.isEnabled() && !pane.notLaunchedDesc.isHidden() &&
+               pane.launchedDesc.isHidden() && pane.launchButton.title() == "Launch Zarvil" &&
+               pane.launchButton.action() == "launchApp:" &&
+               pane.connectedDevices.alphaValue() == 0.30000001192092896 &&
+               pane.selectedDevices.alphaValue() == 0.30000001192092896;
+    }
+    bool looksRunning() const {
+        return pane.togglePowerButton.isEnabled() && pane.notLaunchedDesc.isHidden() &&
+               !pane.launchedDesc.isHidden() && pane.launchButton.title() == "Quit Zarvil" &&
+               pane.launchButton.action() == "quitApp:" &&
+               pane.connectedDevices.alphaValue() == 1 && pane.selectedDevices.alphaValue() == 1;
+    }
+    void fillLists() {
+        pane.arrayController.addObject(makeRecord({}));
+        pane.savedArrayController.addObject(makeRecord({}));
+    }
+};
 
-TEST_F(Presence, anAgentThatStopsAnsweringGreysThePaneWithinFiveSeconds) {
+TEST_F(Presence, pingsEveryThreeSecondsFromTheThirdOn) {
+    load();
+    time.advance(2.9);
+    EXPECT_TRUE(takeSent().empty());
+    time.advance(6.2);
+    EXPECT_EQ(takeSentNames(), (std::vector<std::string>{"ZVPing", "ZVPing", "ZVPing"}));
+}
+
+TEST_F(Presence, greysWithinFiveSecondsOfTheAgentsDeathAndNotBefore) {
     loadWithAgent();
-    ASSERT_TRUE(pane.launchAtLogin.isEnabled());
+    fillLists();
+    pane.pushIndicator.startAnimation();
+    ASSERT_TRUE(looksRunning());
+    time.advance(4.9);
+    EXPECT_TRUE(looksRunning());
+    time.advance(0.1);
+    EXPECT_TRUE(looksAbsent());
+    EXPECT_FALSE(pane.state);
+    EXPECT_EQ(pane.togglePowerButton.state(), buttonState::off);
+    EXPECT_TRUE(pane.onDesc.isHidden());
+    EXPECT_FALSE(pane.offDesc.isHidden());
+    EXPECT_TRUE(pane.arrayController.empty());
+    EXPECT_TRUE(pane.savedArrayController.empty());
+    EXPECT_FALSE(pane.pushIndicator.isAnimating());
+}
+
+TEST_F(Presence, anyAnsweringMessageWithinTwoSecondsKeepsThePaneAlive) {
+    loadWithAgent({}, false);
+    time.advance(1.9);
+    for (const std::string_view answer : {message::pingAnswer, message::stateChanged,
+                                          message::deviceConnected, message::deviceDisconnected}) {
+        time.advance(3);
+        EXPECT_EQ(time.pendingCount(), 2U) << "the ping and the wait for its answer";
+        agentSends(answer);
+        EXPECT_EQ(time.pendingCount(), 1U) << answer;
+        EXPECT_TRUE(looksRunning()) << answer;
+    }
+    EXPECT_FALSE(pane.lostConnection);
+}
+
+TEST_F(Presence, messagesThatAreNoAnswersDoNot) {
+    loadWithAgent();
+    time.advance(4);
+    for (const std::string_view name : {message::savedPrefs, message::testFinished,
+                                        message::allDevices, message::pushValidationFinished})
+        agentSends(name);
+    time.advance(1);
+    EXPECT_TRUE(looksAbsent());
+}
+
+TEST_F(Presence, theFirstAnswerAfterALossAsksOnceForEverything) {
+    loadWithAgent();
     time.advance(5);
-    EXPECT_FALSE(pane.launchAtLogin.isEnabled());
-    EXPECT_FALSE(pane.togglePowerButton.isEnabled());
-    EXPECT_FALSE(pane.notLaunchedDesc.isHidden());
-    EXPECT_EQ(pane.launchButton.title(), "Launch Zarvil");
+    fillLists();
+    takeSent();
+    agentSends(message::pingAnswer);
+    agentSends(message::pingAnswer);
+    EXPECT_EQ(takeSentNames(), std::vector<std::string>{"ZVPrefsLoaded"});
+    EXPECT_TRUE(looksRunning());
+    EXPECT_TRUE(pane.arrayController.empty());
+    EXPECT_TRUE(pane.savedArrayController.empty());
+}
+
+TEST_F(Presence, anAnswerThatComesLateGreysOnceAndBringsThePaneBack) {
+    loadWithAgent();
+    for (int round = 0; round < 3; ++round) {
+        time.advance(5.5);
+        EXPECT_TRUE(looksAbsent());
+        agentSends(message::pingAnswer);
+        EXPECT_TRUE(looksRunning());
+        EXPECT_TRUE(pane.launchAtLogin.isEnabled());
+        time.advance(0.5);
+    }
+}
+
+TEST_F(Presence, aTimeOutInTheAbsentLookOnlyReleasesTheLaunchButton) {
+    load();
+    ASSERT_TRUE(looksAbsent());
+    pane.launchButton.performClick();
+    EXPECT_FALSE(pane.launchButton.isEnabled());
+    pane.showIcon.setEnabled(true);
+    time.advance(5);
+    EXPECT_TRUE(pane.launchButton.isEnabled());
+    EXPECT_TRUE(pane.showIcon.isEnabled());
+    EXPECT_TRUE(pane.lostConnection);
+}
+
+TEST_F(Presence, theLaunchButtonLaunchesQuitsAndLaunchesWhenProtectionIsOff) {
+    load();
+    pane.launchButton.performClick();
+    agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+    takeSent();
+    pane.launchButton.performClick();
+    EXPECT_FALSE(pane.launchButton.isEnabled());
+    EXPECT_EQ(takeSentNames(), std::vector<std::string>{"ZVQuit"});
+    agentSends(Message(message::stateChanged, Dictionary{{"state", false}}));
+    takeSent();
+    pane.launchButton.performClick();
+    EXPECT_TRUE(takeSent().empty());
+    EXPECT_EQ(workspace.launched,
+              (std::vector<std::string>{"/Applications/Zarvil.app", "/Applications/Zarvil.app"}));
+}
+
+TEST_F(Presence, theSwitchSendsTheNewStateAndShowsItsDescription) {
+    loadWithAgent({}, false);
+    pane.togglePowerButton.setAction("toggleOnOff:");
+    for (const bool on : {true, false}) {
+        pane.togglePowerButton.performClick();
+        EXPECT_EQ(takeSent(), std::vector{Message(message::setState, Dictionary{{"state", on}})});
+        EXPECT_EQ(pane.onDesc.isHidden(), !on);
+        EXPECT_EQ(pane.offDesc.isHidden(), on);
+        EXPECT_EQ(pane.testSettingsButton.isEnabled(), on);
+        EXPECT_EQ(pane.togglePowerButton.state(), on ? 1 : 0);
+    }
+}
+
+TEST_F(Presence, aStateReportFlipsTheSwitchAndIsEchoedOnlyWhenItDiffers) {
+    loadWithAgent({}, false);
+    agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+    EXPECT_EQ(takeSent(), std::vector{Message(message::setState, Dictionary{{"state", true}})});
+    EXPECT_EQ(pane.togglePowerButton.state(), buttonState::on);
+    agentSends(Message(message::stateChanged, Dictionary{{"state", 1.0}}));
+    EXPECT_TRUE(takeSent().empty());
+    agentSends(message::stateChanged);
+    EXPECT_EQ(takeSent(), std::vector{Message(message::setState, Dictionary{{"state", false}})});
+}
+
+TEST_F(Presence, aStormOfStatesEndsInTheLastOneWithAnEchoAFlip) {
+    loadWithAgent({}, false);
+    for (int i = 0; i < 10000; ++i)
+        bus.post(Message(message::stateChanged, Dictionary{{"state", i % 2 == 0}}));
+    bus.post(Message(message::stateChanged, Dictionary{{"state", true}}));
+    EXPECT_EQ(takeSent().size(), 10001U);
+    EXPECT_TRUE(pane.state);
+    EXPECT_EQ(time.pendingCount(), 1U);
+}
+
+TEST_F(Presence, quitPrefsKillsTheFirstHostListedAndExitsInAnyCase) {
+    load();
+    agentSends(message::quitPrefs);
+    workspace.running = {
+        {"org.other", 1}, {"com.Tessrow.Preferences", 42}, {"com.Tessrow.Preferences", 43}};
+    agentSends(message::quitPrefs);
+    EXPECT_EQ(processes.log, (std::vector<std::string>{"exit 0", "kill 42", "exit 0"}));
 }
 
 } // namespace

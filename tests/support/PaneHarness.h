@@ -1,17 +1,39 @@
 #pragma once
 
-#include "Fakes.h"
-#include "pane/Zarvil_Preferences.h"
-#include "protocol/InProcessMessageCenter.h"
+#include "PaneOnFakes.h"
 #include "protocol/Messages.h"
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace zarvil {
 
-/// One pane on fake ports and an in-process bus. The test presses the models' controls as a user
-/// would and plays the agent by posting the agent's messages.
-class PaneHarness : public testing::Test {
+/// How a failed comparison shows a payload.
+inline std::ostream& operator<<(std::ostream& out, const Value& value) {
+    if (const auto* text = value.as<std::string>())
+        return out << '"' << *text << '"';
+    if (const auto* nested = value.as<Dictionary>()) {
+        out << "{ ";
+        for (const auto& [key, entry] : nested->entries())
+            out << key << ": " << entry << " ";
+        return out << "}";
+    }
+    if (const auto* array = value.as<Array>()) {
+        out << "[ ";
+        for (const Value& element : *array)
+            out << element << " ";
+        return out << "]";
+    }
+    return out << value.doubleValue();
+}
+inline std::ostream& operator<<(std::ostream& out, const Message& sent) {
+    return out << sent.name << " " << Value(sent.info());
+}
+
+/// A pane under test. The test presses the models' controls as a user would and plays the agent by
+/// posting the agent's messages.
+class PaneHarness : public testing::Test, protected PaneOnFakes {
 protected:
     PaneHarness() {
         for (const std::string_view name : message::paneToAgent)
@@ -64,22 +86,6 @@ protected:
                 Dictionary{{std::string(payload::prefKey), key},
                            {std::string(payload::prefObj), std::move(value)}}};
     }
-
-    InProcessMessageCenter bus;
-    fake::VirtualTime time;
-    fake::Workspace workspace;
-    fake::FileManager files;
-    fake::UserDefaults defaults;
-    fake::ErrorPresenter errors;
-    fake::ScriptRunner scriptRunner;
-    fake::Authorization authorization;
-    fake::StringTable strings;
-    fake::MouseParameters mouse;
-    fake::ModalLoop modal;
-    fake::ProcessControl processes;
-    Platform platform{bus,          time,          time,    workspace, files, defaults,  errors,
-                      scriptRunner, authorization, strings, mouse,     modal, processes, ""};
-    Zarvil_Preferences pane{platform};
 
 private:
     std::vector<Message> sentMessages;

@@ -13,22 +13,6 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 
-QString toText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-Qt::Alignment toQt(TextAlignment alignment) {
-    switch (alignment) {
-    case TextAlignment::Centered:
-        return Qt::AlignHCenter;
-    case TextAlignment::Right:
-        return Qt::AlignRight | Qt::AlignAbsolute;
-    case TextAlignment::Left:
-        break;
-    }
-    return Qt::AlignLeft | Qt::AlignAbsolute;
-}
-
 } // namespace
 
 /// The application's font in the size of the style, which counts the view's points and not those
@@ -45,7 +29,7 @@ Size QtCanvas::sizeOfText(std::string_view text, const TextStyle& style) const {
     if (style.fontSize <= 0)
         return {};
     const QFontMetricsF metrics(font(style), base_.device());
-    return {metrics.horizontalAdvance(toText(text)), metrics.height()};
+    return {metrics.horizontalAdvance(toQt(text)), metrics.height()};
 }
 
 void QtCanvas::drawText(std::string_view text, const Rect& rect, const TextStyle& style) {
@@ -64,7 +48,7 @@ void QtCanvas::drawText(std::string_view text, const Rect& rect, const TextStyle
         target.setClipRect(box, Qt::IntersectClip);
     QTextOption option(toQt(style.alignment) | Qt::AlignTop);
     option.setWrapMode(fits ? QTextOption::NoWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
-    target.drawText(box, toText(text), option);
+    target.drawText(box, toQt(text), option);
     target.restore();
 }
 

@@ -56,7 +56,8 @@ public:
     }
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         const QString given = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && given.isEmpty() ? shown()->text() : given;
+        return kind == QAccessible::Name && shown()->accessibleName().isEmpty() ? shown()->text()
+                                                                                : given;
     }
     [[nodiscard]] QStringList actionNames() const override {
         return QStringList(shown()->isEnabled() ? pressAction() : QString()) +

@@ -19,18 +19,6 @@ constexpr int focusMargin = 2;
 /// What text of this size needs at least to be read.
 constexpr double readableContrast = 4.5;
 
-int toQt(TextAlignment alignment) {
-    switch (alignment) {
-    case TextAlignment::Centered:
-        return Qt::AlignHCenter;
-    case TextAlignment::Right:
-        return Qt::AlignRight;
-    case TextAlignment::Left:
-        break;
-    }
-    return Qt::AlignLeft;
-}
-
 } // namespace
 
 class LinkButtonWidget::WidgetCursor final : public Cursor {
@@ -92,12 +80,16 @@ QColor LinkButtonWidget::readable(const QColor& wanted) const {
     return palette().color(QPalette::WindowText);
 }
 
+/// A title has one look from end to end; without a styled one it is underlined, as links are.
+TextAttributes LinkButtonWidget::titleLook() const {
+    TextAttributes plain;
+    plain.underlineStyle = UnderlineStyle::Single;
+    return model_ ? model_->attributedTitle().attributesAt(0).value_or(plain) : plain;
+}
+
 void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    // A title has one look from end to end.
-    const TextAttributes look =
-        model_ ? model_->attributedTitle().attributesAt(0).value_or(TextAttributes{})
-               : TextAttributes{};
+    const TextAttributes look = titleLook();
     QFont styled = font();
     styled.setUnderline(look.underlineStyle == UnderlineStyle::Single);
     painter.setFont(styled);

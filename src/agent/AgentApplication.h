@@ -1,0 +1,48 @@
+#pragma once
+
+#include "agent/Agent.h"
+#include "agent/LineReader.h"
+#include "agent/UsbDevices.h"
+#include "qt/bus/DBusMessageCenter.h"
+
+#include <QString>
+
+#include <chrono>
+#include <memory>
+
+namespace zarvil::agent {
+
+struct ApplicationOptions {
+    QString settingsFile;
+    QString logFile;
+    /// The connected devices; empty for the USB devices of this computer.
+    QString devicesFile;
+    std::chrono::milliseconds testDuration{2000};
+};
+
+/// The agent as a process: on the session bus under its name, with its devices and its operator.
+/// Prints "ready" once it owns the name; exits with an error when another process does.
+class AgentApplication final : public QObject {
+public:
+    explicit AgentApplication(const ApplicationOptions& options);
+
+private:
+    void findDevices();
+    void readDevices();
+    void watchUsb();
+    void connectionChanged(ConnectionState state);
+    void takeName();
+    void nameAnswered(const QDBusMessage& reply);
+    void openFile(const QString& path);
+
+    ApplicationOptions options_;
+    AgentLog log_;
+    AgentSettings settings_;
+    DBusMessageCenter messages_;
+    Agent agent_;
+    std::unique_ptr<UsbDevices> usb_;
+    LineReader commands_;
+    Subscription connection_;
+};
+
+} // namespace zarvil::agent

@@ -1,0 +1,131 @@
+#include "host/Appearance.h"
+
+#include "qt/adapters/BusConnection.h"
+
+#include <QApplication>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QSettings>
+#include <QStyle>
+#include <QToolTip>
+
+#include <cstring>
+
+namespace zarvil::host {
+
+namespace {
+
+constexpr const char* service = "org.freedesktop.portal.Desktop";
+constexpr const char* path = "/org/freedesktop/portal/desktop";
+constexpr const char* interface = "org.freedesktop.portal.Settings";
+constexpr const char* group = "org.freedesktop.appearance";
+constexpr const char* readOne = "ReadOne";
+/// The older method, which wraps the value once more.
+constexpr const char* read = "Read";
+
+// Values of the portal's "color-scheme"; anything else is no preference.
+constexpr uint preferDark = 1;
+constexpr uint preferLight = 2;
+constexpr uint preferHighContrast = 1;
+
+} // namespace
+
+std::optional<AppearanceChoice> appearanceChoice(const QString& text) {
+    if (text == QLatin1String("auto"))
+        return AppearanceChoice::Auto;
+    if (text == QLatin1String("light"))
+        return AppearanceChoice::Light;
+    if (text == QLatin1String("dark"))
+        return AppearanceChoice::Dark;
+    return std::nullopt;
+}
+
+Appearance::Appearance(AppearanceChoice choice, QSettings& settings)
+    : choice_(choice),
+      settings_(settings),
+      desktopPalette_(QApplication::palette()),
+      desktopStyle_(QApplication::style()->name()),
+      scheme_{"color-scheme", "appearance/scheme", 0},
+      contrast_{"contrast", "appearance/contrast", 0} {
+    for (Preference* preference : {&scheme_, &contrast_})
+        preference->value = settings_.value(preference->stored).toUInt();
+    apply();
+}
+
+Look Appearance::look() const {
+    Look look{isDark(desktopPalette_), contrast_.value == preferHighContrast};
+    if (choice_ != AppearanceChoice::Auto)
+        look.dark = choice_ == AppearanceChoice::Dark;
+    else if (scheme_.value == preferDark || scheme_.value == preferLight)
+        look.dark = scheme_.value == preferDark;
+    return look;
+}
+
+void Appearance::follow(BusConnection& session) {
+    session.whenReady(this, [this](const QDBusConnection& bus) {
+        if (!bus.isConnected())
+            return;
+        bus_ = bus;
+        // From any sender: naming the portal here would make Qt wait for the bus to say who that
+        // is. So the signal is only a hint, and the portal itself is asked for the value.
+        bus_->connect(QString(), path, interface, "SettingChanged", this,
+                      SLOT(settingChanged(QString, QString)));
+        ask(scheme_, readOne);
+        ask(contrast_, readOne);
+    });
+}
+
+void Appearance::ask(Preference& preference, const char* method) {
+    auto call = QDBusMessage::createMethodCall(service, path, interface, method);
+    call << group << preference.key;
+    auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, watcher, &preference, method] {
+                watcher->deleteLater();
+                const QDBusPendingReply<QDBusVariant> reply(*watcher);
+                if (reply.isValid())
+                    accept(preference, reply.value().variant());
+                else if (std::strcmp(method, readOne) == 0)
+                    ask(preference, read);
+                else
+                    accept(preference, 0U);
+            });
+}
+
+void Appearance::settingChanged(const QString& changedGroup, const QString& key) {
+    if (changedGroup != QLatin1String(group))
+        return;
+    for (Preference* preference : {&scheme_, &contrast_})
+        if (key == QLatin1String(preference->key))
+            ask(*preference, readOne);
+}
+
+void Appearance::accept(Preference& preference, const QVariant& value) {
+    QVariant plain = value;
+    while (plain.metaType() == QMetaType::fromType<QDBusVariant>())
+        plain = plain.value<QDBusVariant>().variant();
+    const uint wanted = plain.toUInt();
+    if (wanted == preference.value)
+        return;
+    preference.value = wanted;
+    settings_.setValue(preference.stored, wanted);
+    apply();
+}
+
+/// The desktop's own palette and style stay where they already look as wanted.
+void Appearance::apply() {
+    const Look wanted = look();
+    const bool desktopFits = !wanted.highContrast && wanted.dark == isDark(desktopPalette_);
+    const QString style = desktopFits ? desktopStyle_ : QStringLiteral("fusion");
+    if (QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0)
+        QApplication::setStyle(style);
+    const QPalette palette = desktopFits ? desktopPalette_ : paletteFor(wanted);
+    if (QApplication::palette() == palette)
+        return;
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+} // namespace zarvil::host

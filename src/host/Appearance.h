@@ -1,0 +1,58 @@
+#pragma once
+
+#include "host/Palettes.h"
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include <optional>
+
+class QSettings;
+
+namespace zarvil {
+class BusConnection;
+}
+
+namespace zarvil::host {
+
+enum class AppearanceChoice { Auto, Light, Dark };
+
+/// Nothing for a text that names no choice.
+[[nodiscard]] std::optional<AppearanceChoice> appearanceChoice(const QString& text);
+
+/// Keeps the application's palette as the user wants the desktop to look. Asks the settings portal
+/// and follows it; until it answers, what it said at the last start holds. Without a portal the
+/// desktop's own palette decides. Needs the application object, and no window yet.
+class Appearance final : public QObject {
+    Q_OBJECT
+public:
+    Appearance(AppearanceChoice choice, QSettings& settings);
+
+    /// Asks the portal from the event loop, without waiting.
+    void follow(BusConnection& session);
+    [[nodiscard]] Look look() const;
+
+private slots:
+    void settingChanged(const QString& group, const QString& key);
+
+private:
+    struct Preference {
+        const char* key;
+        const char* stored;
+        uint value;
+    };
+
+    void ask(Preference& preference, const char* method);
+    void accept(Preference& preference, const QVariant& value);
+    void apply();
+
+    AppearanceChoice choice_;
+    QSettings& settings_;
+    std::optional<QDBusConnection> bus_;
+    QPalette desktopPalette_;
+    QString desktopStyle_;
+    Preference scheme_;
+    Preference contrast_;
+};
+
+} // namespace zarvil::host

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/Appearance.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace zarvil::host {
+
+struct CommandLine {
+    enum class Wish { Run, Help, Version };
+    Wish wish = Wish::Run;
+    QString bundle; ///< empty to look in the folders of installed panes
+    QString root;   ///< absolute; empty for the real product paths
+    AppearanceChoice appearance = AppearanceChoice::Auto;
+};
+
+/// What is wrong with a command line, in words.
+struct UsageError {
+    QString message;
+};
+
+/// `arguments` come without the program's name. `environmentAppearance` counts unless an option
+/// says otherwise; empty for none.
+[[nodiscard]] std::variant<CommandLine, UsageError>
+parseCommandLine(const QStringList& arguments, const QString& environmentAppearance);
+
+[[nodiscard]] QString helpText();
+
+} // namespace zarvil::host

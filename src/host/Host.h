@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/Appearance.h"
+#include "host/CommandLine.h"
+#include "host/HostWindow.h"
+#include "host/SingleInstance.h"
+#include "host/UnixSignals.h"
+#include "qt/adapters/BusConnection.h"
+
+#include <QSettings>
+
+#include <memory>
+
+namespace zarvil::host {
+
+/// Exit codes, after those of sysexits(3).
+namespace exitCode {
+
+inline constexpr int success = 0;
+inline constexpr int usage = 64;
+inline constexpr int brokenPane = 65;
+inline constexpr int noPane = 66;
+inline constexpr int unavailable = 69;
+
+} // namespace exitCode
+
+/// The preferences application once its command line is understood. Needs the application object.
+class Host {
+public:
+    explicit Host(const CommandLine& commandLine);
+
+    /// Runs until the window is closed; gives the exit code.
+    int run();
+
+private:
+    [[nodiscard]] std::vector<BundleOutcome> bundles() const;
+    int runWindow(const std::vector<BundleOutcome>& bundles);
+    int yieldToFirst();
+    void standingDecided();
+
+    CommandLine commandLine_;
+    QSettings settings_;
+    Appearance appearance_;
+    SingleInstance instance_;
+    BusConnection session_;
+    UnixSignals signals_;
+    std::unique_ptr<HostWindow> window_;
+};
+
+/// The whole program, from its arguments to its exit code.
+int runHost(int argc, char** argv);
+
+} // namespace zarvil::host

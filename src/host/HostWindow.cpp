@@ -1,0 +1,180 @@
+#include "host/HostWindow.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QListWidget>
+#include <QSettings>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace zarvil::host {
+
+namespace {
+
+constexpr const char* geometryKey = "window/geometry";
+constexpr int listWidth = 180;
+
+} // namespace
+
+HostWindow::HostWindow(const std::vector<BundleOutcome>& bundles, const QString& root,
+                       QSettings& settings)
+    : settings_(settings) {
+    setObjectName("hostWindow");
+    for (const auto& bundle : bundles)
+        makeEntry(bundle, root);
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(0);
+    if (entries_.size() > 1) {
+        makeList();
+        columns->addWidget(list_);
+    }
+    content_ = new QVBoxLayout;
+    columns->addLayout(content_, 1);
+    for (const auto key : {QKeySequence::Quit, QKeySequence::Close})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+HostWindow::~HostWindow() = default;
+
+void HostWindow::makeEntry(const BundleOutcome& bundle, const QString& root) {
+    if (const auto* good = std::get_if<Bundle>(&bundle))
+        entries_.push_back({std::make_unique<PaneDriver>(*good, root), {}});
+    else
+        entries_.push_back({nullptr, std::get<BundleFailure>(bundle).message});
+}
+
+void HostWindow::makeList() {
+    list_ = new QListWidget(this);
+    list_->setObjectName("panes");
+    list_->setAccessibleName(tr("Preference panes"));
+    list_->setFixedWidth(listWidth);
+    for (const auto& entry : entries_) {
+        auto* item = new QListWidgetItem(
+            entry.driver ? entry.driver->bundle().name : tr("Broken pane"), list_);
+        if (entry.driver && !entry.driver->bundle().icon.isEmpty())
+            item->setIcon(QIcon(entry.driver->bundle().icon));
+        item->setToolTip(entry.fault);
+    }
+    connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && static_cast<std::size_t>(row) != current_)
+            wish(static_cast<std::size_t>(row));
+    });
+}
+
+std::optional<BundleFailure> HostWindow::open() {
+    std::optional<BundleFailure> first;
+    for (std::size_t row = 0; row < entries_.size(); ++row) {
+        auto& entry = entries_[row];
+        if (!entry.driver)
+            continue;
+        if (auto failed = entry.driver->load()) {
+            entry.fault = failed->message;
+            if (!first)
+                first = std::move(failed);
+            continue;
+        }
+        showPane(row);
+        restorePlace();
+        show();
+        return std::nullopt;
+    }
+    return first;
+}
+
+void HostWindow::restorePlace() {
+    if (!restoreGeometry(settings_.value(geometryKey).toByteArray()))
+        adjustSize();
+}
+
+void HostWindow::raiseToUser() {
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void HostWindow::closeRegardless() {
+    if (finished_)
+        return;
+    if (auto& driver = entries_[current_].driver)
+        driver->leaveRegardless();
+    finish();
+}
+
+void HostWindow::closeEvent(QCloseEvent* event) {
+    if (!finished_)
+        wish(std::nullopt);
+    event->setAccepted(finished_);
+}
+
+/// The last wish counts while the pane makes up its mind.
+void HostWindow::wish(Target target) {
+    wished_ = target;
+    if (leaving_)
+        return;
+    leaving_ = true;
+    if (auto& driver = entries_[current_].driver)
+        driver->leave([this](bool left) { proceed(left); });
+    else
+        proceed(true);
+}
+
+void HostWindow::proceed(bool left) {
+    leaving_ = false;
+    if (!left)
+        markCurrent();
+    else if (wished_)
+        showPane(*wished_);
+    else
+        finish();
+}
+
+void HostWindow::showPane(std::size_t row) {
+    current_ = row;
+    markCurrent();
+    delete std::exchange(faultLabel_, nullptr);
+    auto& entry = entries_[row];
+    if (entry.driver)
+        if (const auto failed = entry.driver->load())
+            entry.fault = failed->message;
+    if (!entry.fault.isEmpty()) {
+        showFault(entry.fault);
+        return;
+    }
+    QWidget* view = entry.driver->select();
+    content_->addWidget(view);
+    view->show();
+    setWindowTitle(entry.driver->title());
+    if (const QIcon icon = entry.driver->icon(); !icon.isNull())
+        setWindowIcon(icon);
+}
+
+void HostWindow::showFault(const QString& fault) {
+    setWindowTitle(tr("Preferences"));
+    faultLabel_ = new QLabel(fault, this);
+    faultLabel_->setObjectName("fault");
+    faultLabel_->setTextFormat(Qt::PlainText);
+    faultLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    faultLabel_->setWordWrap(true);
+    faultLabel_->setMargin(24);
+    content_->addWidget(faultLabel_);
+    faultLabel_->show();
+}
+
+void HostWindow::markCurrent() {
+    if (list_)
+        list_->setCurrentRow(static_cast<int>(current_));
+}
+
+void HostWindow::finish() {
+    settings_.setValue(geometryKey, saveGeometry());
+    finished_ = true;
+    hide();
+    emit closed();
+}
+
+} // namespace zarvil::host

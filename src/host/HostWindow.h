@@ -1,0 +1,70 @@
+#pragma once
+
+#include "host/PaneDriver.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QLabel;
+class QListWidget;
+class QSettings;
+class QVBoxLayout;
+
+namespace zarvil::host {
+
+/// The one window: a single pane, or a list of panes beside the chosen one. A pane is left when
+/// another is chosen or the window is closed; a minimised window's pane stays selected.
+class HostWindow final : public QWidget {
+    Q_OBJECT
+public:
+    /// Needs at least one pane. Broken bundles are listed, with the reason in place of a pane.
+    HostWindow(const std::vector<BundleOutcome>& bundles, const QString& root, QSettings& settings);
+    ~HostWindow() override;
+
+    /// Shows the first pane that can be loaded; what failed if there is none.
+    [[nodiscard]] std::optional<BundleFailure> open();
+    /// Brings the window before the user.
+    void raiseToUser();
+    /// Leaves the pane, whatever it answers, and closes.
+    void closeRegardless();
+
+signals:
+    /// The window is hidden and its pane has been left.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    struct Entry {
+        std::unique_ptr<PaneDriver> driver;
+        QString fault;
+    };
+    /// A row of the list, or nothing to close the window.
+    using Target = std::optional<std::size_t>;
+
+    void makeList();
+    void makeEntry(const BundleOutcome& bundle, const QString& root);
+    void wish(Target target);
+    void proceed(bool left);
+    void showPane(std::size_t row);
+    void showFault(const QString& fault);
+    void finish();
+    void markCurrent();
+    void restorePlace();
+
+    std::vector<Entry> entries_;
+    QSettings& settings_;
+    QVBoxLayout* content_ = nullptr;
+    QListWidget* list_ = nullptr;
+    QLabel* faultLabel_ = nullptr;
+    std::size_t current_ = 0;
+    Target wished_;
+    bool leaving_ = false;
+    bool finished_ = false;
+};
+
+} // namespace zarvil::host

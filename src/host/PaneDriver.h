@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/Bundle.h"
+
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace zarvil::host {
+
+/// Drives one pane's life in the order that a pane may rely on. Loads the pane at its first
+/// showing, so that panes never shown cost nothing.
+class PaneDriver {
+public:
+    /// Whether the pane has been left; false when it wants to stay.
+    using Left = std::function<void(bool left)>;
+
+    PaneDriver(Bundle bundle, QString root);
+    PaneDriver(const PaneDriver&) = delete;
+    PaneDriver& operator=(const PaneDriver&) = delete;
+    /// Takes the view out of whatever window it is in. The pane is not told: leave it before.
+    ~PaneDriver();
+
+    [[nodiscard]] const Bundle& bundle() const { return bundle_; }
+    /// Loads the plug-in unless it is; says what failed, the same at every further call.
+    [[nodiscard]] std::optional<BundleFailure> load();
+
+    // After a good `load`.
+    [[nodiscard]] QString title() const { return pane_->title(); }
+    [[nodiscard]] QIcon icon() const;
+    /// Prepares a showing, and gives the view to show.
+    QWidget* select();
+    /// Asks the pane to give way; `left` is called once, at once or when the pane has decided.
+    void leave(Left left);
+    /// Leaves without taking no for an answer, for a host that must end.
+    void leaveRegardless();
+    [[nodiscard]] bool isSelected() const { return selected_; }
+
+private:
+    void finishLeaving();
+    void answerCame(bool leave);
+
+    Bundle bundle_;
+    QString root_;
+    std::unique_ptr<PreferencePane> pane_;
+    std::optional<BundleFailure> failure_;
+    QPointer<QWidget> view_;
+    Left pending_;
+    bool selected_ = false;
+};
+
+} // namespace zarvil::host

@@ -1,0 +1,3 @@
+#include "host/Host.h"
+
+int main(int argc, char** argv) { return zarvil::host::runHost(argc, argv); }

@@ -1,0 +1,156 @@
+#include "posix/PosixFileManager.h"
+
+#include "posix/AtomicFile.h"
+#include "posix/SystemError.h"
+#include "posix/Utf8.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <new>
+#include <pwd.h>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace zarvil::posix {
+
+namespace {
+
+constexpr mode_t fileMode = 0666;   // less the process's mask
+constexpr mode_t folderMode = 0777; // less the process's mask
+
+std::string homeFolder() {
+    if (const char* home = std::getenv("HOME"); home && *home)
+        return home;
+    const passwd* user = ::getpwuid(::geteuid());
+    return user && user->pw_dir ? user->pw_dir : "/";
+}
+
+bool hasNul(std::string_view path) { return path.find('\0') != std::string_view::npos; }
+
+/// Opens for a direct write; `created` tells whether the file is new.
+FileDescriptor openForWriting(const std::string& path, bool& created) {
+    constexpr int common = O_WRONLY | O_CLOEXEC | O_NONBLOCK;
+    FileDescriptor file(::open(path.c_str(), common | O_CREAT | O_EXCL, fileMode));
+    created = file.isOpen();
+    if (!created && errno == EEXIST)
+        return FileDescriptor(::open(path.c_str(), common | O_CREAT | O_TRUNC, fileMode));
+    return file;
+}
+
+/// 0 or the error number.
+int writeDirectly(const std::string& path, std::string_view text) {
+    bool created = false;
+    const FileDescriptor file = openForWriting(path, created);
+    if (!file.isOpen())
+        return errno;
+    struct stat status {};
+    if (::fstat(file.get(), &status) == 0 && !S_ISREG(status.st_mode))
+        return ENXIO;
+    if (writeAll(file.get(), text))
+        return 0;
+    const int failure = errno;
+    if (created)
+        ::unlink(path.c_str());
+    return failure;
+}
+
+struct CloseDirectory {
+    void operator()(DIR* directory) const { ::closedir(directory); }
+};
+
+} // namespace
+
+PosixFileManager::PosixFileManager() : PosixFileManager(homeFolder()) {}
+
+PosixFileManager::PosixFileManager(std::string home) : home_(std::move(home)) {
+    while (home_.size() > 1 && home_.back() == '/')
+        home_.pop_back();
+}
+
+std::string PosixFileManager::expandingTilde(std::string_view path) const {
+    if (path != "~" && !path.starts_with("~/"))
+        return std::string(path);
+    const std::string_view below = path.substr(1);
+    return home_ == "/" && !below.empty() ? std::string(below) : home_ + std::string(below);
+}
+
+FileKind PosixFileManager::kindOfItem(std::string_view path) const {
+    struct stat status {};
+    if (hasNul(path) || ::stat(std::string(path).c_str(), &status) != 0)
+        return FileKind::Missing;
+    return S_ISDIR(status.st_mode) ? FileKind::Directory : FileKind::Other;
+}
+
+std::vector<std::string> PosixFileManager::visibleContentsOfDirectory(std::string_view path) const {
+    std::vector<std::string> names;
+    if (hasNul(path))
+        return names;
+    const std::unique_ptr<DIR, CloseDirectory> directory(::opendir(std::string(path).c_str()));
+    if (!directory)
+        return names;
+    while (const dirent* entry = ::readdir(directory.get())) {
+        const std::string_view name(entry->d_name);
+        if (!name.starts_with('.'))
+            names.emplace_back(name);
+    }
+    return names;
+}
+
+std::optional<std::string> PosixFileManager::readText(std::string_view path) const try {
+    if (hasNul(path))
+        return std::nullopt;
+    const FileDescriptor file(
+        ::open(std::string(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat status {};
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    auto text = readAll(file.get());
+    if (!text || !isValidUtf8(*text))
+        return std::nullopt;
+    return text;
+} catch (const std::bad_alloc&) {
+    // Larger than the memory: it cannot be read.
+    return std::nullopt;
+} catch (const std::length_error&) {
+    return std::nullopt;
+}
+
+std::optional<Error> PosixFileManager::writeText(std::string_view text, std::string_view path,
+                                                 Atomicity atomicity) {
+    int failure = EINVAL;
+    if (!hasNul(path)) {
+        const std::string file(path);
+        failure = atomicity == Atomicity::Atomic ? AtomicFile::replace(file, text)
+                                                 : writeDirectly(file, text);
+    }
+    if (failure == 0)
+        return std::nullopt;
+    return systemError("save the file", path, failure);
+}
+
+std::optional<Error> PosixFileManager::createDirectory(std::string_view path) {
+    if (!hasNul(path) && ::mkdir(std::string(path).c_str(), folderMode) == 0)
+        return std::nullopt;
+    return systemError("create the folder", path, hasNul(path) ? EINVAL : errno);
+}
+
+std::optional<Error> PosixFileManager::removeItem(std::string_view path) {
+    std::error_code failure;
+    struct stat status {};
+    if (hasNul(path))
+        failure = {EINVAL, std::generic_category()};
+    else if (::lstat(std::string(path).c_str(), &status) != 0)
+        failure = {errno, std::generic_category()};
+    else
+        std::filesystem::remove_all(path, failure);
+    if (!failure)
+        return std::nullopt;
+    return systemError("remove", path, failure.value());
+}
+
+} // namespace zarvil::posix

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/FileManager.h"
+
+namespace zarvil::posix {
+
+/// The file system of a POSIX computer. Names are bytes, taken as they are; one with a NUL names
+/// nothing. Nothing blocks on a pipe or a device that stands where a file is expected.
+class PosixFileManager final : public FileManager {
+public:
+    /// The home folder is `$HOME`, else the one of the user database.
+    PosixFileManager();
+    explicit PosixFileManager(std::string home);
+
+    [[nodiscard]] std::string expandingTilde(std::string_view path) const override;
+    [[nodiscard]] FileKind kindOfItem(std::string_view path) const override;
+    [[nodiscard]] std::vector<std::string>
+    visibleContentsOfDirectory(std::string_view path) const override;
+    [[nodiscard]] std::optional<std::string> readText(std::string_view path) const override;
+
+    [[nodiscard]] std::optional<Error> writeText(std::string_view text, std::string_view path,
+                                                 Atomicity atomicity) override;
+    [[nodiscard]] std::optional<Error> createDirectory(std::string_view path) override;
+    [[nodiscard]] std::optional<Error> removeItem(std::string_view path) override;
+
+private:
+    std::string home_;
+};
+
+} // namespace zarvil::posix

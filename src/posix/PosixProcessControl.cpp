@@ -1,0 +1,17 @@
+#include "posix/PosixProcessControl.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <limits>
+#include <sys/types.h>
+
+namespace zarvil::posix {
+
+void PosixProcessControl::kill(std::int64_t processIdentifier) {
+    if (processIdentifier > 0 && processIdentifier <= std::numeric_limits<pid_t>::max())
+        ::kill(static_cast<pid_t>(processIdentifier), SIGKILL);
+}
+
+void PosixProcessControl::exit(int status) { std::exit(status); }
+
+} // namespace zarvil::posix

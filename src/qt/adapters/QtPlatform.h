@@ -1,0 +1,54 @@
+#pragma once
+
+#include "pane/Platform.h"
+#include "qt/adapters/BusConnection.h"
+#include "qt/adapters/PolkitAuthorization.h"
+#include "qt/adapters/QtClock.h"
+#include "qt/adapters/QtErrorPresenter.h"
+#include "qt/adapters/QtModalLoop.h"
+#include "qt/adapters/QtMouseParameters.h"
+#include "qt/adapters/QtStringTable.h"
+#include "qt/adapters/QtTimers.h"
+#include "qt/adapters/QtUserDefaults.h"
+#include "qt/adapters/QtWorkspace.h"
+
+#include <memory>
+
+namespace zarvil {
+
+/// Owns every port that the pane is given: the adapters on Qt, and those that are handed to it.
+/// Needs an application object.
+class QtPlatform {
+public:
+    /// The ports that need no Qt, or more of it than the adapters here.
+    struct Parts {
+        std::unique_ptr<MessageCenter> messages;
+        std::unique_ptr<FileManager> files;
+        std::unique_ptr<ScriptRunner> scripts;
+        std::unique_ptr<ProcessControl> processes;
+    };
+
+    /// `root` is put before the absolute product paths.
+    QtPlatform(Parts parts, std::string root);
+    QtPlatform(const QtPlatform&) = delete;
+    QtPlatform& operator=(const QtPlatform&) = delete;
+    ~QtPlatform() = default;
+
+    [[nodiscard]] Platform& platform() { return platform_; }
+
+private:
+    Parts parts_;
+    BusConnection session_{BusConnection::sessionBus()};
+    QtTimers timers_;
+    QtClock clock_;
+    QtWorkspace workspace_{session_};
+    QtUserDefaults defaults_;
+    QtErrorPresenter errors_;
+    PolkitAuthorization authorization_;
+    QtStringTable strings_;
+    QtMouseParameters mouse_;
+    QtModalLoop modal_;
+    Platform platform_;
+};
+
+} // namespace zarvil

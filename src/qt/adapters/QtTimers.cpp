@@ -1,0 +1,46 @@
+#include "qt/adapters/QtTimers.h"
+
+#include <QTimer>
+
+#include <limits>
+#include <utility>
+
+namespace zarvil {
+
+namespace {
+
+int milliseconds(double seconds) {
+    constexpr double longest = std::numeric_limits<int>::max();
+    const double wanted = seconds * 1000;
+    if (!(wanted >= 1))
+        return 1;
+    return wanted >= longest ? std::numeric_limits<int>::max() : qRound(wanted);
+}
+
+class QtTimer final : public Timer {
+public:
+    QtTimer(double interval, Repetition repetition, std::function<void()> call)
+        : call_(std::move(call)) {
+        timer_.setTimerType(Qt::PreciseTimer);
+        timer_.setSingleShot(repetition == Repetition::Once);
+        // A copy runs: the call may destroy this timer, and the original with it.
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+            const auto running = call_;
+            running();
+        });
+        timer_.start(milliseconds(interval));
+    }
+
+private:
+    std::function<void()> call_;
+    QTimer timer_;
+};
+
+} // namespace
+
+std::unique_ptr<Timer> QtTimers::schedule(double interval, Repetition repetition,
+                                          std::function<void()> call) {
+    return std::make_unique<QtTimer>(interval, repetition, std::move(call));
+}
+
+} // namespace zarvil

@@ -1,0 +1,137 @@
+#include "qt/binding/Bindings.h"
+
+#include "interface/AuthorizationView.h"
+#include "interface/Button.h"
+#include "interface/Panel.h"
+#include "interface/ProgressIndicator.h"
+#include "interface/TextField.h"
+#include "qt/binding/LockWidget.h"
+#include "qt/binding/Opacity.h"
+#include "qt/binding/Spinner.h"
+#include "qt/canvas/Convert.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace zarvil::qt {
+
+namespace {
+
+void bindEnabled(Control& model, QWidget& widget, Subscriptions& kept) {
+    kept.push_back(model.enabledProperty().observe(
+        [&widget](bool enabled, Transition) { widget.setEnabled(enabled); }));
+}
+
+/// A check box that only shows a state takes no clicks, but stays legible.
+bool showsOnly(const QWidget& widget) { return widget.property("readOnly").toBool(); }
+
+/// The attributes of a whole text; a label shows one colour and one alignment.
+void showAttributes(QLabel& label, const AttributedString& text) {
+    const TextAttributes attributes = text.attributesAt(0).value_or(TextAttributes{});
+    QPalette palette;
+    if (attributes.foregroundColor)
+        palette.setColor(label.foregroundRole(), toQt(*attributes.foregroundColor));
+    label.setPalette(palette);
+    if (attributes.alignment)
+        label.setAlignment(toQt(*attributes.alignment) | Qt::AlignVCenter);
+}
+
+/// Ends an edit: what the field holds is sent as it stands.
+void commit(TextField& model, QLineEdit& widget) {
+    widget.setModified(false);
+    model.userDidEdit(fromQt(widget.text()));
+    model.sendAction();
+}
+
+} // namespace
+
+void bindView(View& model, QWidget& widget, Subscriptions& kept) {
+    kept.push_back(model.hiddenProperty().observe(
+        [&widget](bool hidden, Transition) { widget.setVisible(!hidden); }));
+    kept.push_back(model.alphaProperty().observe([&widget](double alpha, Transition transition) {
+        showOpacity(widget, alpha, transition);
+    }));
+}
+
+void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    bindEnabled(model, widget, kept);
+    if (model.title().empty())
+        model.setTitle(fromQt(widget.text()));
+    kept.push_back(model.titleProperty().observe(
+        [&widget](const std::string& title, Transition) { widget.setText(toQt(title)); }));
+    const auto showState = [&widget](int state, Transition) {
+        widget.setChecked(state == buttonState::on);
+    };
+    kept.push_back(model.stateProperty().observe(showState));
+    if (showsOnly(widget)) {
+        widget.setAttribute(Qt::WA_TransparentForMouseEvents);
+        widget.setFocusPolicy(Qt::NoFocus);
+        return;
+    }
+    QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&model, &widget, showState] {
+        model.performClick();
+        showState(model.state(), Transition::Immediate);
+    });
+}
+
+void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    bindEnabled(model, widget, kept);
+    if (model.stringValue().empty())
+        model.setStringValue(fromQt(widget.text()));
+    kept.push_back(model.stringProperty().observe(
+        [&widget](const std::string& text, Transition) { widget.setText(toQt(text)); }));
+    kept.push_back(model.attributedStringProperty().observe(
+        [&widget](const AttributedString& text, Transition) { showAttributes(widget, text); }));
+}
+
+void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    bindEnabled(model, widget, kept);
+    kept.push_back(model.stringProperty().observe([&widget](const std::string& text, Transition) {
+        const QString shown = toQt(text);
+        if (widget.text() != shown)
+            widget.setText(shown);
+    }));
+    QObject::connect(&widget, &QLineEdit::textEdited, &widget,
+                     [&model](const QString& text) { model.userDidEdit(fromQt(text)); });
+    QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
+                     [&model, &widget] { commit(model, widget); });
+    if (widget.property("commitsOnReturnOnly").toBool())
+        return;
+    // Leaving the field ends an edit as well, but only one that has not been sent yet.
+    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&model, &widget] {
+        if (widget.isModified() && widget.isEnabled())
+            commit(model, widget);
+    });
+}
+
+void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(model.animatingProperty().observe(
+        [&widget](bool animating, Transition) { widget.setAnimating(animating); }));
+}
+
+void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    const auto show = [&model, &widget] {
+        widget.showState(model.authorizationState(), toQt(model.reasonProperty().get()));
+    };
+    kept.push_back(model.stateProperty().observe([show](int, Transition) { show(); }));
+    kept.push_back(
+        model.reasonProperty().observe([show](const std::string&, Transition) { show(); }));
+    QObject::connect(&widget, &LockWidget::clicked, &widget, [&model] { model.performClick(); });
+}
+
+void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept) {
+    kept.push_back(model.onScreenProperty().observe([&model, &widget](bool onScreen, Transition) {
+        if (onScreen && !model.isOpaque())
+            widget.setAttribute(Qt::WA_TranslucentBackground);
+        widget.setVisible(onScreen);
+    }));
+}
+
+} // namespace zarvil::qt

@@ -1,0 +1,191 @@
+#include "qt/binding/OutletBinder.h"
+
+#include "pane/Zarvil_Preferences.h"
+#include "qt/binding/LockWidget.h"
+#include "qt/binding/Spinner.h"
+#include "qt/canvas/Convert.h"
+#include "qt/devices/DeviceListView.h"
+#include "qt/scripts/ScriptListView.h"
+#include "qt/widgets/LinkButtonWidget.h"
+#include "qt/widgets/SwitchWidget.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <map>
+
+namespace zarvil::qt {
+
+namespace {
+
+/// Called by `visitOutlets` with each outlet as what it is.
+class Binder {
+public:
+    Binder(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kept, Faults& faults)
+        : pane_(pane), layout_(layout), kept_(kept), faults_(faults) {}
+
+    void operator()(std::string_view name, Button& model) {
+        QWidget* widget = find(name);
+        adoptAction(model, widget);
+        if (auto* toggle = qobject_cast<SwitchWidget*>(widget))
+            bindDrawn(model, *toggle);
+        else if (auto* link = qobject_cast<LinkButtonWidget*>(widget))
+            bindDrawn(model, *link);
+        else if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            bindButton(model, *button, kept_);
+        else if (widget)
+            mismatch(name);
+    }
+
+    void operator()(std::string_view name, TextField& model) {
+        QWidget* widget = find(name);
+        adoptAction(model, widget);
+        if (auto* field = qobject_cast<QLineEdit*>(widget))
+            bindField(model, *field, kept_);
+        else if (auto* label = qobject_cast<QLabel*>(widget))
+            bindLabel(model, *label, kept_);
+        else if (widget)
+            mismatch(name);
+    }
+
+    void operator()(std::string_view name, ProgressIndicator& model) {
+        if (auto* spinner = findAs<Spinner>(name))
+            bindIndicator(model, *spinner, kept_);
+    }
+
+    void operator()(std::string_view name, AuthorizationView& model) {
+        if (auto* lock = findAs<LockWidget>(name))
+            bindAuthorization(model, *lock, kept_);
+    }
+
+    void operator()(std::string_view name, Panel& model) {
+        if (auto* dialog = findAs<QDialog>(name))
+            bindPanel(model, *dialog, kept_);
+    }
+
+    void operator()(std::string_view name, CollectionView& model) {
+        QWidget* widget = find(name);
+        if (!widget)
+            return;
+        bindView(model, *widget, kept_);
+        if (auto* devices = qobject_cast<DeviceListView*>(widget))
+            devices->setModel(model);
+        else if (auto* scripts = qobject_cast<ScriptListView*>(widget))
+            scripts->setModel(model);
+        else
+            mismatch(name);
+    }
+
+    void operator()(std::string_view name, View& model) {
+        if (QWidget* widget = find(name))
+            bindView(model, *widget, kept_);
+    }
+
+    /// Actions of widgets that are no outlets, captions that show an outlet's title, and widgets
+    /// that claim a name that the pane does not know.
+    void bindTheRest() {
+        for (QWidget* widget : layout_.findChildren<QWidget*>()) {
+            checkName(*widget);
+            checkAction(*widget);
+            if (auto* label = qobject_cast<QLabel*>(widget))
+                bindTitle(*label);
+        }
+    }
+
+private:
+    QWidget* find(std::string_view name) {
+        auto* widget = layout_.findChild<QWidget*>(toQt(name));
+        if (!widget)
+            faults_.push_back("no widget for the outlet " + std::string(name));
+        outlets_.emplace(name, widget);
+        return widget;
+    }
+
+    template <typename Widget>
+    Widget* findAs(std::string_view name) {
+        QWidget* widget = find(name);
+        auto* typed = qobject_cast<Widget*>(widget);
+        if (widget && !typed)
+            mismatch(name);
+        return typed;
+    }
+
+    /// Drawn controls follow their model's state, title and enabling by themselves.
+    template <typename Widget>
+    void bindDrawn(Button& model, Widget& widget) {
+        widget.setModel(model);
+        bindView(model, widget, kept_);
+    }
+
+    void mismatch(std::string_view name) {
+        faults_.push_back("the widget of " + std::string(name) + " is of the wrong kind");
+    }
+
+    static std::string actionOf(const QWidget& widget) {
+        return fromQt(widget.property("action").toString());
+    }
+
+    void adoptAction(Control& model, const QWidget* widget) {
+        if (widget && !actionOf(*widget).empty())
+            model.setAction(actionOf(*widget));
+    }
+
+    void checkName(const QWidget& widget) {
+        const QString name = widget.objectName();
+        const bool claimsOutlet =
+            !name.isEmpty() && name.front().isLower() && !name.startsWith(QLatin1String("qt_"));
+        if (claimsOutlet && !outlets_.contains(fromQt(name)))
+            faults_.push_back("no outlet for the widget " + fromQt(name));
+    }
+
+    void checkAction(QWidget& widget) {
+        const std::string action = actionOf(widget);
+        if (action.empty())
+            return;
+        if (!std::ranges::count(Zarvil_Preferences::actionNames(), action))
+            faults_.push_back("no action " + action);
+        if (outlets_.contains(fromQt(widget.objectName())))
+            return;
+        if (auto* button = qobject_cast<QAbstractButton*>(&widget))
+            QObject::connect(button, &QAbstractButton::clicked, button,
+                             [this_ = &pane_, action] { this_->performAction(action, nullptr); });
+        else
+            faults_.push_back("the widget of the action " + action + " is no button");
+    }
+
+    void bindTitle(QLabel& label) {
+        const std::string name = fromQt(label.property("titleOf").toString());
+        if (name.empty())
+            return;
+        visitOutlets(pane_, [&](std::string_view outlet, View& view) {
+            auto* button = dynamic_cast<Button*>(&view);
+            if (outlet != name || !button)
+                return;
+            if (button->title().empty())
+                button->setTitle(fromQt(label.text()));
+            kept_.push_back(button->titleProperty().observe(
+                [&label](const std::string& title, Transition) { label.setText(toQt(title)); }));
+        });
+    }
+
+    Zarvil_Preferences& pane_;
+    QWidget& layout_;
+    Subscriptions& kept_;
+    Faults& faults_;
+    std::map<std::string, QWidget*, std::less<>> outlets_;
+};
+
+} // namespace
+
+Faults bindOutlets(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kept) {
+    Faults faults;
+    Binder binder(pane, layout, kept, faults);
+    visitOutlets(pane, binder);
+    binder.bindTheRest();
+    return faults;
+}
+
+} // namespace zarvil::qt

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QListView>
+
+namespace zarvil {
+class CollectionView;
+}
+
+namespace zarvil::qt {
+
+class DeviceListModel;
+
+/// Shows the devices of one collection view, each with a check box that the user toggles by a
+/// click or with Space. Without devices it shows a text instead.
+class DeviceListView final : public QListView {
+    Q_OBJECT
+    Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+
+public:
+    explicit DeviceListView(QWidget* parent = nullptr);
+
+    /// The collection view is not owned and must outlive this view.
+    void setModel(zarvil::CollectionView& view);
+
+    /// What stands in a list without devices; tells the user what to do.
+    [[nodiscard]] QString emptyText() const { return emptyText_; }
+    void setEmptyText(const QString& text);
+
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    using QListView::setModel;
+
+    void showWhetherEmpty();
+    [[nodiscard]] bool isEmpty() const;
+
+    QString emptyText_;
+    bool shownAsEmpty_ = false;
+};
+
+} // namespace zarvil::qt

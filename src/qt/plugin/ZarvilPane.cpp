@@ -1,0 +1,99 @@
+#include "qt/plugin/ZarvilPane.h"
+
+#include "pane/Zarvil_Preferences.h"
+#include "posix/PosixFileManager.h"
+#include "posix/PosixProcessControl.h"
+#include "posix/PosixScriptRunner.h"
+#include "protocol/BusNames.h"
+#include "qt/adapters/QtPlatform.h"
+#include "qt/binding/OutletBinder.h"
+#include "qt/bus/DBusMessageCenter.h"
+#include "qt/canvas/Convert.h"
+#include "qt/pane/PaneView.h"
+
+#include <QDialog>
+#include <QtDebug>
+
+namespace zarvil {
+
+namespace {
+
+/// Ends processes once the messages that were posted before have left: they leave through a
+/// thread that would end with this process.
+class FlushingProcessControl final : public ProcessControl {
+public:
+    explicit FlushingProcessControl(DBusMessageCenter& messages) : messages_(messages) {}
+
+    void kill(std::int64_t processIdentifier) override {
+        messages_.flush();
+        processes_.kill(processIdentifier);
+    }
+    void exit(int status) override {
+        messages_.flush();
+        processes_.exit(status);
+    }
+
+private:
+    DBusMessageCenter& messages_;
+    posix::PosixProcessControl processes_;
+};
+
+QtPlatform::Parts partsOfThePlatform() {
+    DBusOptions options;
+    options.acceptFrom = QString::fromLatin1(bus::agentName);
+    auto messages = std::make_unique<DBusMessageCenter>(options);
+    auto processes = std::make_unique<FlushingProcessControl>(*messages);
+    return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
+            std::make_unique<posix::PosixScriptRunner>(), std::move(processes)};
+}
+
+} // namespace
+
+/// In the order of construction: what is below uses what is above.
+struct ZarvilPane::Loaded {
+    explicit Loaded(const QString& root)
+        : platform(partsOfThePlatform(), qt::fromQt(root)),
+          controller(platform.platform()),
+          view(std::make_unique<qt::PaneView>()) {
+        for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
+            qWarning().noquote() << "Layout:" << qt::toQt(fault);
+        // Closing the confirmation panel in any other way than by its buttons cancels.
+        QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
+                         [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
+    }
+
+    QtPlatform platform;
+    Zarvil_Preferences controller;
+    std::unique_ptr<qt::PaneView> view;
+    qt::Subscriptions bindings;
+};
+
+ZarvilPane::ZarvilPane() = default;
+
+ZarvilPane::~ZarvilPane() = default;
+
+void ZarvilPane::setOptions(const PaneOptions& options) { options_ = options; }
+
+void ZarvilPane::setUnselectAnswer(UnselectAnswer /*answer*/) {}
+
+QString ZarvilPane::title() const { return QStringLiteral("Zarvil"); }
+
+QIcon ZarvilPane::icon() const { return {}; }
+
+QWidget* ZarvilPane::mainView() {
+    if (!loaded_)
+        loaded_ = std::make_unique<Loaded>(options_.root);
+    return loaded_->view.get();
+}
+
+void ZarvilPane::mainViewDidLoad() { loaded_->controller.mainViewDidLoad(); }
+
+void ZarvilPane::willSelect() { loaded_->controller.willSelect(); }
+
+int ZarvilPane::shouldUnselect() { return static_cast<int>(loaded_->controller.shouldUnselect()); }
+
+void ZarvilPane::willUnselect() { loaded_->controller.willUnselect(); }
+
+void ZarvilPane::didUnselect() { loaded_->controller.didUnselect(); }
+
+} // namespace zarvil

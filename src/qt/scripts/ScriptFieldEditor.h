@@ -1,0 +1,52 @@
+#pragma once
+
+#include "scripts/ZVScriptCollectionItem.h"
+
+#include <QCoreApplication>
+#include <QRect>
+
+class QLineEdit;
+class QPlainTextEdit;
+class QWidget;
+
+namespace zarvil::qt {
+
+/// Where a frame of an item's view, whose y grows upwards, lies in a widget of that size.
+[[nodiscard]] QRect flipped(const Rect& frame, const Size& viewSize);
+
+/// The widget of one edit field: a line, or a text of several lines where the frame has room for
+/// them. What the user types goes into the field at once; what he leaves alone stays as it was,
+/// byte for byte.
+class ScriptFieldEditor {
+    Q_DECLARE_TR_FUNCTIONS(ScriptFieldEditor)
+
+public:
+    /// Larger texts are not laid out for editing; they keep their content.
+    static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
+
+    ScriptFieldEditor(std::shared_ptr<ScriptEditField> field, QWidget* card);
+    ScriptFieldEditor(const ScriptFieldEditor&) = delete;
+    ScriptFieldEditor& operator=(const ScriptFieldEditor&) = delete;
+    /// The widget may be in the middle of its own event, so it goes a moment later.
+    ~ScriptFieldEditor();
+
+    [[nodiscard]] QWidget* widget() const { return widget_; }
+    [[nodiscard]] const ScriptEditField* field() const { return field_.get(); }
+    [[nodiscard]] bool isMultiLine() const { return multiLine_; }
+
+private:
+    QWidget* makeLine(QWidget* card);
+    QWidget* makeText(QWidget* card);
+    void showInText(QPlainTextEdit& editor, const std::string& text);
+    void takeFromText(const QPlainTextEdit& editor);
+
+    std::shared_ptr<ScriptEditField> field_;
+    bool multiLine_;
+    bool carriageReturns_ = false; ///< the text's lines end in CR LF
+    bool showing_ = false;         ///< the widget's change comes from the field
+    bool taking_ = false;          ///< the field's change comes from the widget
+    Subscription changes_;
+    QWidget* widget_; ///< made last: making it fills it from the field
+};
+
+} // namespace zarvil::qt

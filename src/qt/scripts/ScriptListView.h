@@ -1,0 +1,72 @@
+#pragma once
+
+#include "interface/CollectionView.h"
+#include "protocol/Subscription.h"
+
+#include <QAbstractScrollArea>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <map>
+#include <vector>
+
+class QLabel;
+
+namespace zarvil::qt {
+
+class ScriptCard;
+
+/// Shows a collection view of script items as a list of cards. Only the rows in sight, and the one
+/// with the keyboard, have widgets, so that the cost of a list does not grow with its length.
+class ScriptListView final : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ScriptListView(QWidget* parent = nullptr);
+    ~ScriptListView() override;
+
+    /// The model's items are `ZVScriptCollectionItem`. Not owned; it must live as long as the list
+    /// is used, or until the next model.
+    void setModel(CollectionView& model);
+    [[nodiscard]] int rowCount() const { return rowCount_; }
+    void scrollToRow(int row);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void contentDidChange(const ListChange& change);
+    void rowWasRemoved(int row);
+    void allRowsWentAway();
+    void removeScriptOf(ScriptCard* card);
+
+    void layOut();
+    void updateScrollBars();
+    void updateEmptyState();
+    void bindCards();
+    void placeCards();
+    void updateTabOrder();
+    [[nodiscard]] bool isWanted(int row) const;
+    [[nodiscard]] int rowOf(const QWidget* widget) const;
+    ScriptCard* takeSpare();
+    void makeSpare(ScriptCard* card);
+
+    CollectionView* model_ = nullptr;
+    int rowCount_ = 0;
+    int addedSinceLayout_ = 0;
+    std::map<int, ScriptCard*> cards_; ///< by row
+    std::vector<ScriptCard*> spares_;
+    QLabel* emptyState_;
+    QTimer layoutTimer_; ///< gathers the changes of one turn of the event loop
+    QElapsedTimer lastRemoval_;
+    Subscription contentChanges_;
+    Subscription dimming_;
+};
+
+} // namespace zarvil::qt

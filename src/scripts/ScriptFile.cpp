@@ -1,0 +1,35 @@
+#include "scripts/ScriptFile.h"
+
+#include "platform/FileManager.h"
+
+namespace zarvil::script {
+
+namespace {
+
+std::string appendingPathComponent(std::string path, std::string_view component) {
+    path += '/';
+    for (const char character : component) {
+        if (character != '/' || path.back() != '/')
+            path += character;
+    }
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+} // namespace
+
+std::string filePath(const FileManager& files, std::string_view scriptTitle) {
+    std::string path =
+        appendingPathComponent(files.expandingTilde(kZVScriptingFolder), scriptTitle);
+    return path.append(".").append(fileExtension);
+}
+
+std::string titleOfFile(std::string_view fileName) {
+    const std::size_t dot = fileName.rfind('.');
+    if (dot != std::string_view::npos && dot > 0)
+        fileName = fileName.substr(0, dot);
+    return std::string(fileName);
+}
+
+} // namespace zarvil::script

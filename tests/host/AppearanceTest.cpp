@@ -1,0 +1,164 @@
+#include "host/Appearance.h"
+#include "Bundles.h"
+#include "PrivateBus.h"
+#include "qt/adapters/BusConnection.h"
+
+#include <QApplication>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QDBusVirtualObject>
+#include <QSettings>
+#include <QTest>
+
+#include <cmath>
+
+namespace zarvil::host {
+namespace {
+
+constexpr const char* portalPath = "/org/freedesktop/portal/desktop";
+
+/// The settings portal with two settings; an old one knows `Read` alone.
+class FakePortal final : public QDBusVirtualObject {
+public:
+    explicit FakePortal(QDBusConnection bus, bool old = false) : bus_(std::move(bus)), old_(old) {
+        bus_.registerVirtualObject(portalPath, this);
+        EXPECT_TRUE(bus_.registerService("org.freedesktop.portal.Desktop"));
+    }
+    ~FakePortal() override { bus_.unregisterService("org.freedesktop.portal.Desktop"); }
+
+    QString introspect(const QString&) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
+        const bool nested = call.member() == QLatin1String("Read");
+        if (!nested && (old_ || call.member() != QLatin1String("ReadOne")))
+            return false;
+        QVariant reply =
+            QVariant::fromValue(QDBusVariant(values.value(call.arguments().at(1).toString(), 0U)));
+        if (nested)
+            reply = QVariant::fromValue(QDBusVariant(reply));
+        return connection.send(call.createReply(reply));
+    }
+
+    void change(const QString& key, uint value) {
+        values[key] = value;
+        announce("org.freedesktop.appearance", key, value);
+    }
+    void announce(const QString& group, const QString& key, uint value) {
+        auto signal = QDBusMessage::createSignal(portalPath, "org.freedesktop.portal.Settings",
+                                                 "SettingChanged");
+        signal << group << key << QVariant::fromValue(QDBusVariant(value));
+        bus_.send(signal);
+    }
+
+    QVariantMap values;
+
+private:
+    QDBusConnection bus_;
+    bool old_;
+};
+
+class AppearanceTest : public Bundles {
+protected:
+    ~AppearanceTest() override { QApplication::setPalette(desktop); }
+
+    bool becomes(const Appearance& appearance, Look look) const {
+        return QTest::qWaitFor([&] { return appearance.look() == look; });
+    }
+
+    QSettings settings{path("host.ini"), QSettings::IniFormat};
+    QPalette desktop = QApplication::palette();
+};
+
+TEST_F(AppearanceTest, followsThePortalAndRemembersItForTheNextStart) {
+    for (const bool old : {false, true}) {
+        settings.clear();
+        PrivateBus bus;
+        FakePortal portal(bus.connect("portal"), old);
+        portal.values = {{"color-scheme", 1U}, {"contrast", 1U}};
+        BusConnection session([&bus] { return bus.connect("session"); });
+        Appearance appearance(AppearanceChoice::Auto, settings);
+        EXPECT_FALSE(isDark(QApplication::palette()));
+        appearance.follow(session);
+        ASSERT_TRUE(becomes(appearance, {true, true})) << old;
+        EXPECT_EQ(QApplication::palette(), paletteFor({true, true}));
+        EXPECT_EQ(Appearance(AppearanceChoice::Auto, settings).look(), (Look{true, true}));
+        portal.announce("org.gnome.desktop", "color-scheme", 2);
+        portal.change("accent-color", 2);
+        portal.change("contrast", 0);
+        ASSERT_TRUE(becomes(appearance, {true, false}));
+        portal.change("color-scheme", 2);
+        ASSERT_TRUE(becomes(appearance, {false, false}));
+        EXPECT_FALSE(isDark(QApplication::palette()));
+    }
+}
+
+TEST_F(AppearanceTest, withoutAPortalTheDesktopsPaletteDecides) {
+    settings.setValue("appearance/scheme", 1); // of a start with a portal, gone since
+    QApplication::setPalette(paletteFor({false, false}));
+    PrivateBus bus;
+    BusConnection session([&bus] { return bus.connect("session"); });
+    Appearance appearance(AppearanceChoice::Auto, settings);
+    EXPECT_TRUE(appearance.look().dark);
+    appearance.follow(session);
+    ASSERT_TRUE(becomes(appearance, {false, false}));
+    QApplication::setPalette(paletteFor({true, false}));
+    EXPECT_TRUE(Appearance(AppearanceChoice::Auto, settings).look().dark);
+}
+
+TEST_F(AppearanceTest, aForcedSchemeStaysWhateverThePortalSays) {
+    PrivateBus bus;
+    FakePortal portal(bus.connect("portal"));
+    portal.values = {{"color-scheme", 2U}, {"contrast", 1U}};
+    BusConnection session([&bus] { return bus.connect("session"); });
+    Appearance appearance(AppearanceChoice::Dark, settings);
+    EXPECT_TRUE(isDark(QApplication::palette()));
+    appearance.follow(session);
+    ASSERT_TRUE(becomes(appearance, {true, true}));
+}
+
+double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& first, const QColor& second) {
+    const double lighter = std::max(luminance(first), luminance(second));
+    const double darker = std::min(luminance(first), luminance(second));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+TEST_F(AppearanceTest, everyTextOfAPaletteIsReadable) {
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::Link, QPalette::Window},
+        {QPalette::Link, QPalette::Base},
+        {QPalette::LinkVisited, QPalette::Window}};
+    for (const bool dark : {false, true})
+        for (const bool highContrast : {false, true}) {
+            const QPalette palette = paletteFor({dark, highContrast});
+            EXPECT_EQ(isDark(palette), dark);
+            for (const auto group : {QPalette::Active, QPalette::Inactive})
+                for (const auto& [text, ground] : pairs)
+                    EXPECT_GE(contrast(palette.color(group, text), palette.color(group, ground)),
+                              highContrast ? 7.0 : 4.5)
+                        << dark << highContrast << text << " on " << ground;
+            // Greyed texts need not reach that, but must be seen.
+            for (const auto& [text, ground] : pairs)
+                EXPECT_GE(contrast(palette.color(QPalette::Disabled, text),
+                                   palette.color(QPalette::Disabled, ground)),
+                          highContrast ? 4.5 : 2.0)
+                    << dark << highContrast << text << " on " << ground;
+        }
+}
+
+} // namespace
+} // namespace zarvil::host

@@ -1,0 +1,140 @@
+#include "host/Bundle.h"
+#include "Bundles.h"
+
+#include <QLibraryInfo>
+
+namespace zarvil::host {
+namespace {
+
+using BundleTest = Bundles;
+
+/// A copy whose description says that it was built with another minor version of Qt: in the ELF
+/// note of a Qt plug-in the version's parts follow the format's number.
+QByteArray libraryForQt(const QByteArray& library, char minorVersion) {
+    const QByteArray note("qt-project!\0\1\6", 14);
+    const auto header = library.indexOf(note);
+    EXPECT_GT(header, 0);
+    QByteArray changed = library;
+    changed[header + note.size()] = minorVersion;
+    return changed;
+}
+
+QByteArray contentOf(const QString& name) {
+    QFile file(name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
+}
+
+std::optional<BundleFailure> failureOf(const QString& bundle) {
+    const auto read = readBundle(bundle);
+    if (const auto* failure = std::get_if<BundleFailure>(&read))
+        return *failure;
+    const auto loaded = loadPane(std::get<Bundle>(read));
+    if (const auto* failure = std::get_if<BundleFailure>(&loaded))
+        return *failure;
+    return std::nullopt;
+}
+
+TEST_F(BundleTest, aWorkingBundleIsReadAndLoaded) {
+    const auto read = readBundle(makeBundle("Good") + "/");
+    ASSERT_TRUE(std::holds_alternative<Bundle>(read));
+    const auto& bundle = std::get<Bundle>(read);
+    EXPECT_EQ(bundle.name, "Good");
+    EXPECT_EQ(bundle.library, path("panes/Good.prefPane/Contents/libsample.so"));
+    EXPECT_TRUE(std::holds_alternative<std::unique_ptr<PreferencePane>>(loadPane(bundle)));
+}
+
+TEST_F(BundleTest, brokenDescriptionsSayWhatIsWrong) {
+    const auto text = [](const QJsonObject& object) { return QJsonDocument(object).toJson(); };
+    const auto with = [](const char* key, const QJsonValue& value) {
+        auto object = info("Broken");
+        object[QLatin1String(key)] = value;
+        return object;
+    };
+    write("outside.so", "outside the bundle");
+    const struct {
+        QByteArray info;
+        BundleFault fault;
+        const char* says;
+    } cases[] = {
+        {"", BundleFault::BadInfo, "not valid JSON at byte"},
+        {"{\"name\": ", BundleFault::BadInfo, "not valid JSON at byte"},
+        {"[1, 2]", BundleFault::BadInfo, "does not hold an object"},
+        {"{}", BundleFault::BadInfo, "\"name\" is missing"},
+        {text(with("identifier", "")), BundleFault::BadInfo, "\"identifier\" is missing"},
+        {text(with("version", 3)), BundleFault::BadInfo, "\"version\" is missing"},
+        {text(with("principalClass", QJsonValue())), BundleFault::BadInfo, "\"principalClass\""},
+        {text(with("library", "absent.so")), BundleFault::NoLibrary, "\"absent.so\" is missing"},
+        {text(with("library", "../../outside.so")), BundleFault::NoLibrary, "outside.so"},
+        {text(with("library", ".")), BundleFault::NoLibrary, "missing"},
+    };
+    int number = 0;
+    for (const auto& row : cases) {
+        const QString bundle = QStringLiteral("%1.prefPane").arg(++number);
+        write(bundle + "/Contents/Info.json", row.info);
+        const auto failure = failureOf(path(bundle));
+        ASSERT_TRUE(failure) << row.info.toStdString();
+        EXPECT_EQ(failure->fault, row.fault) << row.info.toStdString();
+        EXPECT_TRUE(failure->message.contains(row.says)) << failure->message.toStdString();
+        EXPECT_TRUE(failure->message.contains(path(bundle))) << failure->message.toStdString();
+    }
+    write("file.prefPane", "a file");
+    QDir().mkpath(path("empty.prefPane"));
+    EXPECT_EQ(failureOf(path("none.prefPane"))->fault, BundleFault::NotFound);
+    EXPECT_EQ(failureOf(path("file.prefPane"))->fault, BundleFault::NotABundle);
+    EXPECT_EQ(failureOf(path("empty.prefPane"))->fault, BundleFault::NotABundle);
+}
+
+TEST_F(BundleTest, librariesThatAreNoPaneAreRefused) {
+    const QString otherPlugin =
+        QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms/libqminimal.so";
+    const QByteArray sample = contentOf(SAMPLE_PANE_LIBRARY);
+    const struct {
+        QByteArray library;
+        BundleFault fault;
+        const char* says;
+    } cases[] = {
+        {"not a library", BundleFault::BadLibrary, "cannot be loaded"},
+        {"", BundleFault::BadLibrary, "cannot be loaded"},
+        {sample.left(2000), BundleFault::BadLibrary, "cannot be loaded"},
+        {libraryForQt(sample, 99), BundleFault::BadLibrary, "incompatible Qt library"},
+        {contentOf(otherPlugin), BundleFault::WrongInterface, "made for another program"},
+    };
+    int number = 0;
+    for (const auto& row : cases) {
+        const QString bundle = QStringLiteral("%1.prefPane").arg(++number);
+        writeInfo(bundle, info("Broken"));
+        write(bundle + "/Contents/libsample.so", row.library);
+        const auto failure = failureOf(path(bundle));
+        ASSERT_TRUE(failure) << number;
+        EXPECT_EQ(failure->fault, row.fault) << failure->message.toStdString();
+        EXPECT_TRUE(failure->message.contains(row.says)) << failure->message.toStdString();
+    }
+    makeBundle("Renamed");
+    auto renamed = info("Renamed");
+    renamed["principalClass"] = "zarvil::sample::AnotherPane";
+    writeInfo("panes/Renamed.prefPane", renamed);
+    EXPECT_EQ(failureOf(path("panes/Renamed.prefPane"))->fault, BundleFault::WrongInterface);
+}
+
+TEST_F(BundleTest, theUsersBundlesComeFirstAndShadowTheSystems) {
+    makeBundle("Zeta", "user");
+    makeBundle("Alpha", "user");
+    makeBundle("Alpha", "system");
+    makeBundle("Beta", "system");
+    write("user/Broken.prefPane/Contents/Info.json", "{");
+    write("user/Other.folder/Contents/Info.json", "{}");
+    const auto found = findBundles({path("user"), path("missing"), path("system")});
+    QStringList listed;
+    for (const auto& outcome : found)
+        listed << (std::holds_alternative<Bundle>(outcome)
+                       ? std::get<Bundle>(outcome).path
+                       : std::get<BundleFailure>(outcome).path + " broken");
+    const QStringList expected{path("user/Alpha.prefPane"),
+                               path("user/Broken.prefPane") + " broken", path("user/Zeta.prefPane"),
+                               path("system/Beta.prefPane")};
+    EXPECT_EQ(listed, expected);
+}
+
+} // namespace
+} // namespace zarvil::host

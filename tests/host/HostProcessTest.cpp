@@ -1,0 +1,172 @@
+#include "Bundles.h"
+#include "PrivateBus.h"
+#include "PrivateDisplay.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QProcess>
+#include <QTest>
+
+#include <csignal>
+
+namespace zarvil::host {
+namespace {
+
+constexpr int limit = 20'000; // milliseconds
+
+/// The real program, off-screen, with a home and a bus of its own.
+class HostProcessTest : public Bundles {
+protected:
+    HostProcessTest() {
+        environment.insert("HOME", path("home"));
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    }
+
+    std::unique_ptr<QProcess> start(const QStringList& arguments) const {
+        auto process = std::make_unique<QProcess>();
+        process->setProcessEnvironment(environment);
+        process->start(HOST_PROGRAM, arguments);
+        EXPECT_TRUE(process->waitForStarted());
+        return process;
+    }
+    struct Outcome {
+        int code;
+        QString out, err;
+    };
+    Outcome run(const QStringList& arguments) const {
+        const auto process = start(arguments);
+        EXPECT_TRUE(process->waitForFinished(limit)) << arguments.join(' ').toStdString();
+        EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
+        return {process->exitCode(), process->readAllStandardOutput(),
+                process->readAllStandardError()};
+    }
+    /// Waits for a call of the sample pane, and forgets those before it.
+    bool isCalled(const QString& call) const {
+        QStringList seen;
+        return QTest::qWaitFor([&] { return (seen += calls()).contains(call); }, limit);
+    }
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
+
+TEST_F(HostProcessTest, saysWhatItCanDoWithoutADisplay) {
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(name);
+    EXPECT_TRUE(run({"--help"}).out.contains(path("home/Library/PreferencePanes")));
+    EXPECT_TRUE(run({"--version"}).out.startsWith("zarvil-preferences "));
+    EXPECT_EQ(run({"--root", "/nonexistent"}).code, 64);
+    const auto outcome = run({});
+    EXPECT_EQ(outcome.code, 69);
+    EXPECT_TRUE(outcome.err.contains("no display"));
+}
+
+TEST_F(HostProcessTest, missingAndBrokenPanesHaveExitCodes) {
+    const auto none = run({});
+    EXPECT_EQ(none.code, 66);
+    EXPECT_TRUE(none.err.contains(path("home/Library/PreferencePanes")));
+    const auto missing = run({path("missing.prefPane")});
+    EXPECT_EQ(missing.code, 66);
+    EXPECT_TRUE(missing.err.contains("does not exist"));
+    write("home/Library/PreferencePanes/Broken.prefPane/Contents/Info.json", "{");
+    const auto broken = run({});
+    EXPECT_EQ(broken.code, 65);
+    EXPECT_TRUE(broken.err.contains("not valid JSON"));
+    write(QFileInfo(makeBundle("Bad")).fileName(), "");
+    write("panes/Bad.prefPane/Contents/libsample.so", "no library");
+    EXPECT_EQ(run({path("panes/Bad.prefPane")}).code, 65);
+}
+
+TEST_F(HostProcessTest, runsWithoutABusAndEndsCleanlyOnASignal) {
+    makeBundle("A", "home/Library/PreferencePanes");
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        const auto process = start({"--root", path("home")});
+        ASSERT_TRUE(isCalled("A: willSelect"));
+        QByteArray said;
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] { return (said += process->readAllStandardError()).contains("no session bus"); },
+            limit));
+        ASSERT_EQ(kill(static_cast<pid_t>(process->processId()), number), 0);
+        ASSERT_TRUE(process->waitForFinished(limit));
+        EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process->exitCode(), 0);
+        EXPECT_EQ(calls(), QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect",
+                                        "A: gone"}));
+    }
+}
+
+TEST_F(HostProcessTest, aSecondStartRaisesTheFirstAndEnds) {
+    PrivateBus bus;
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    const QString pane = makeBundle("A");
+    const auto first = start({pane});
+    ASSERT_TRUE(isCalled("A: willSelect"));
+    auto watcher = bus.connect("watcher");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return watcher.interface()->isServiceRegistered("com.Tessrow.Preferences").value(); },
+        limit));
+    EXPECT_EQ(watcher.interface()->servicePid("com.Tessrow.Preferences").value(),
+              static_cast<uint>(first->processId()));
+    for (int time = 0; time < 5; ++time) {
+        const auto second = run({pane});
+        EXPECT_EQ(second.code, 0) << second.err.toStdString();
+    }
+    EXPECT_EQ(first->state(), QProcess::Running);
+    first->terminate();
+    ASSERT_TRUE(first->waitForFinished(limit));
+    EXPECT_EQ(run({path("missing.prefPane")}).code, 66) << "the name is free again";
+}
+
+TEST_F(HostProcessTest, startedFromADesktopItShowsItsErrorInAWindow) {
+    const PrivateDisplay display;
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", display.name());
+    write("Broken.prefPane/Contents/Info.json", "{");
+    const auto process = start({path("Broken.prefPane")});
+    QString window;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            window = display.xdotool({"search", "--onlyvisible", "--name", "^Preferences$"});
+            return !window.isEmpty();
+        },
+        limit));
+    EXPECT_EQ(process->state(), QProcess::Running);
+    display.xdotool({"windowfocus", "--sync", window, "key", "Return"});
+    ASSERT_TRUE(process->waitForFinished(limit));
+    EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process->exitCode(), 65);
+}
+
+TEST_F(HostProcessTest, closingTheWindowWithTheKeyboardEndsIt) {
+    const PrivateDisplay display;
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", display.name());
+    const auto process = start({makeBundle("A")});
+    QString window;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            window = display.xdotool({"search", "--onlyvisible", "--name", "^Title of A$"});
+            return !window.isEmpty();
+        },
+        limit));
+    calls();
+    display.xdotool({"windowfocus", "--sync", window, "key", "ctrl+w"});
+    ASSERT_TRUE(process->waitForFinished(limit));
+    EXPECT_EQ(process->exitCode(), 0);
+    EXPECT_EQ(calls(),
+              QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect", "A: gone"}));
+}
+
+TEST_F(HostProcessTest, aFirstInstanceThatDoesNotAnswerIsReported) {
+    PrivateBus bus;
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    auto owner = bus.connect("owner");
+    ASSERT_TRUE(owner.registerService("com.Tessrow.Preferences"));
+    const auto outcome = run({makeBundle("A")});
+    EXPECT_EQ(outcome.code, 69);
+    EXPECT_TRUE(outcome.err.contains("does not answer")) << outcome.err.toStdString();
+}
+
+} // namespace
+} // namespace zarvil::host

@@ -1,0 +1,42 @@
+#include "SamplePane.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace zarvil::sample {
+
+SamplePane::~SamplePane() {
+    log(view_ && !view_->parent() ? "gone" : "gone, its view with it");
+    delete view_;
+}
+
+void SamplePane::setOptions(const PaneOptions& options) {
+    name_ = QFileInfo(options.bundlePath).completeBaseName();
+    log(options.root.isEmpty() ? "setOptions" : "setOptions " + options.root);
+}
+
+QWidget* SamplePane::mainView() {
+    if (!view_) {
+        view_ = new SampleView;
+        view_->setObjectName(name_);
+        view_->setMinimumSize(320, 200);
+        connect(view_, &SampleView::decided, this, [this](bool leave) { answer_(leave); });
+    }
+    return view_;
+}
+
+int SamplePane::shouldUnselect() {
+    log("shouldUnselect");
+    const QVariant reply = view_->property("reply");
+    return reply.isValid() ? reply.toInt() : 1;
+}
+
+void SamplePane::didUnselect() { log(view_->isVisible() ? "didUnselect, shown" : "didUnselect"); }
+
+void SamplePane::log(const QString& call) const {
+    QFile file(qEnvironmentVariable("SAMPLE_PANE_LOG"));
+    if (file.open(QIODevice::Append))
+        file.write((name_ + ": " + call + '\n').toUtf8());
+}
+
+} // namespace zarvil::sample

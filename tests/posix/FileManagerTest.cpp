@@ -1,0 +1,254 @@
+#include "PosixHarness.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace zarvil::posix {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+using FileManagerTest = PosixHarness;
+
+constexpr auto direct = Atomicity::Direct;
+constexpr auto atomic = Atomicity::Atomic;
+
+TEST_F(FileManagerTest, onlyALeadingTildeOfItsOwnIsExpanded) {
+    EXPECT_EQ(files.expandingTilde("~/Library"), home / "Library");
+    EXPECT_EQ(files.expandingTilde("~"), home);
+    for (const std::string_view path : {"~other/x", "/a/~/b", "", "~~"})
+        EXPECT_EQ(files.expandingTilde(path), path);
+    EXPECT_EQ(PosixFileManager("/").expandingTilde("~/x"), "/x");
+}
+
+TEST_F(FileManagerTest, readsExactlyWhatIsUtf8) {
+    struct Case {
+        std::string bytes;
+        bool readable;
+    };
+    const Case cases[] = {
+        {"", true},
+        {"plain\r\n\ttext", true},
+        {"a\0b"s, true},
+        {"\xEF\xBB\xBFmark", true},
+        {"\u00e9\u20ac\U0001F50C\U0010FFFF", true},
+        {"\xFF", false},
+        {"cut \xE2\x82", false},
+        {"cut \xE2\x82 inside", false},
+        {"\x80", false},
+        {"\xC0\x80", false},         // overlong NUL
+        {"\xE0\x9F\xBF", false},     // overlong
+        {"\xED\xA0\x80", false},     // surrogate
+        {"\xF4\x90\x80\x80", false}, // beyond Unicode
+        {"latin \xE9 one", false},
+    };
+    for (const auto& [bytes, readable] : cases) {
+        put(script("x"), bytes);
+        const auto text = files.readText(script("x").string());
+        EXPECT_EQ(text, readable ? std::optional(bytes) : std::nullopt)
+            << testing::PrintToString(bytes);
+    }
+}
+
+TEST_F(FileManagerTest, whatIsNoFileReadsAsNothingAndBlocksNothing) {
+    fs::create_directory(script("folder"));
+    fs::create_symlink("nowhere", script("dangling"));
+    fs::create_symlink("circle", script("circle"));
+    ASSERT_EQ(::mkfifo(script("pipe").c_str(), 0600), 0);
+    for (const std::string_view name : {"folder", "dangling", "circle", "pipe", "absent"})
+        EXPECT_EQ(files.readText(script(name).string()), std::nullopt) << name;
+    EXPECT_EQ(files.readText("/dev/zero"), std::nullopt);
+    EXPECT_TRUE(files.writeText("x", script("pipe").string(), direct));
+    EXPECT_EQ(files.kindOfItem(script("dangling").string()), FileKind::Missing);
+    EXPECT_EQ(files.kindOfItem(script("pipe").string()), FileKind::Other);
+    EXPECT_EQ(files.kindOfItem(scripts().string()), FileKind::Directory);
+}
+
+TEST_F(FileManagerTest, listsWhatIsVisibleUnderAnyName) {
+    for (const std::string_view name : {"a", ".hidden", "new\nline", "\xFF.raw", "..x"})
+        put(script(name), "");
+    fs::create_directory(script("folder"));
+    fs::create_symlink("nowhere", script("dangling"));
+    EXPECT_THAT(files.visibleContentsOfDirectory(scripts().string()),
+                UnorderedElementsAre("a", "new\nline", "\xFF.raw", "folder", "dangling"));
+    EXPECT_THAT(files.visibleContentsOfDirectory(script("a").string()), IsEmpty());
+    EXPECT_THAT(files.visibleContentsOfDirectory(script("absent").string()), IsEmpty());
+}
+
+TEST_F(FileManagerTest, bothWaysOfWritingReplaceTheWholeContentAndKeepTheMode) {
+    for (const Atomicity atomicity : {direct, atomic}) {
+        const auto path = script("x");
+        ASSERT_EQ(files.writeText("a longer first text", path.string(), atomicity), std::nullopt);
+        ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+        ASSERT_EQ(files.writeText("short", path.string(), atomicity), std::nullopt);
+        EXPECT_EQ(get(path), "short");
+        EXPECT_EQ(fs::status(path).permissions(), fs::perms{0640});
+        EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
+        fs::remove(path);
+    }
+}
+
+TEST_F(FileManagerTest, anAtomicWriteReplacesALinkNotWhatItLeadsTo) {
+    put(home / "precious", "kept");
+    fs::create_symlink(home / "precious", script("x"));
+    ASSERT_EQ(files.writeText("new", script("x").string(), atomic), std::nullopt);
+    EXPECT_EQ(get(home / "precious"), "kept");
+    EXPECT_EQ(get(script("x")), "new");
+    EXPECT_FALSE(fs::is_symlink(script("x")));
+}
+
+TEST_F(FileManagerTest, aReaderThatHasTheFileOpenKeepsTheOldContent) {
+    put(script("x"), "old");
+    std::ifstream reader(script("x"));
+    ASSERT_EQ(files.writeText("new", script("x").string(), atomic), std::nullopt);
+    std::string text;
+    reader >> text;
+    EXPECT_EQ(text, "old");
+}
+
+TEST_F(FileManagerTest, aNameThatCannotBeWrittenGivesOneSentenceWithPathAndReason) {
+    struct Case {
+        std::string name;
+        int code;
+        std::string_view reason;
+    };
+    put(script("file"), "");
+    fs::create_directory(script("folder"));
+    const Case cases[] = {
+        {"missing/x", ENOENT, "no such file or folder"},
+        {"file/x", ENOTDIR, "not a folder"},
+        {std::string(300, 'n'), ENAMETOOLONG, "too long"},
+        {"folder", EISDIR, "is a folder"},
+        {"nul\0x"s, EINVAL, "not allowed"},
+    };
+    for (const auto& [name, code, reason] : cases) {
+        for (const Atomicity atomicity : {direct, atomic}) {
+            const auto error = files.writeText("text", script("").string() + name, atomicity);
+            ASSERT_TRUE(error) << name;
+            EXPECT_EQ(error->domain, "NSCocoaErrorDomain");
+            EXPECT_EQ(error->code, code) << error->description;
+            EXPECT_THAT(error->description, HasSubstr(reason));
+            EXPECT_THAT(error->description, HasSubstr(name.substr(0, 3)));
+        }
+    }
+    EXPECT_THAT(namesIn(scripts()), ElementsAre("file", "folder"));
+}
+
+TEST_F(FileManagerTest, makesOneFolderWhoseParentIsThere) {
+    EXPECT_EQ(files.createDirectory(script("new").string()), std::nullopt);
+    EXPECT_TRUE(fs::is_directory(script("new")));
+    EXPECT_EQ(files.createDirectory(script("new").string())->code, EEXIST);
+    EXPECT_EQ(files.createDirectory(script("a/b").string())->code, ENOENT);
+    EXPECT_FALSE(fs::exists(script("a")));
+}
+
+TEST_F(FileManagerTest, removalTakesALinkItselfAndAFolderWithItsContents) {
+    put(home / "precious/kept", "");
+    fs::create_directory(home / "precious");
+    put(home / "precious/kept", "");
+    fs::create_directories(script("folder/deep"));
+    fs::create_directory_symlink(home / "precious", script("folder/deep/link"));
+    fs::create_directory_symlink(home / "precious", script("link"));
+    fs::create_symlink("nowhere", script("dangling"));
+    for (const std::string_view name : {"folder", "link", "dangling"})
+        EXPECT_EQ(files.removeItem(script(name).string()), std::nullopt) << name;
+    EXPECT_THAT(namesIn(scripts()), IsEmpty());
+    EXPECT_TRUE(fs::exists(home / "precious/kept"));
+    EXPECT_EQ(files.removeItem(script("absent").string())->code, ENOENT);
+    EXPECT_EQ(files.removeItem("nul\0x"s)->code, EINVAL);
+}
+
+TEST_F(FileManagerTest, aReadOnlyFolderRefusesEveryChangeAndLosesNothing) {
+    put(script("x"), "old");
+    ASSERT_EQ(::chmod(scripts().c_str(), 0555), 0);
+    EXPECT_TRUE(holdsInChild([&] {
+        if (!becomeOrdinaryUser())
+            return false;
+        const auto refused = [](const std::optional<Error>& error) {
+            return error && error->code == EACCES &&
+                   error->description.ends_with("you do not have permission.");
+        };
+        return refused(files.writeText("new", script("x").string(), atomic)) &&
+               refused(files.writeText("", script("y").string(), direct)) &&
+               refused(files.removeItem(script("x").string())) &&
+               refused(files.createDirectory(script("z").string()));
+    }));
+    EXPECT_EQ(get(script("x")), "old");
+    EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
+    ::chmod(scripts().c_str(), 0755);
+}
+
+TEST_F(FileManagerTest, aFileThatOutgrowsTheLimitLeavesTheOldOneAndNoRemains) {
+    put(script("x"), "old");
+    EXPECT_TRUE(holdsInChild([&] {
+        const rlimit limit{4096, 4096};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (::setrlimit(RLIMIT_FSIZE, &limit) != 0)
+            return false;
+        const std::string text(1 << 20, 't');
+        const auto saved = files.writeText(text, script("x").string(), atomic);
+        const auto created = files.writeText(text, script("y").string(), direct);
+        return saved && saved->code == EFBIG && created && created->code == EFBIG;
+    }));
+    EXPECT_EQ(get(script("x")), "old");
+    EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
+}
+
+TEST_F(FileManagerTest, aFullDiskLeavesTheOldFileAndNoRemains) {
+    constexpr int notPermitted = 2;
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::unshare(CLONE_NEWNS) != 0 ||
+            ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", scripts().c_str(), "tmpfs", 0, "size=64k") != 0)
+            ::_exit(notPermitted);
+        put(script("x"), "old");
+        const auto error = files.writeText(std::string(1 << 20, 't'), script("x").string(), atomic);
+        const bool right =
+            error && error->code == ENOSPC && error->description.ends_with("the disk is full.") &&
+            get(script("x")) == "old" && namesIn(scripts()) == std::set<std::string>{"x"};
+        ::_exit(right ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    if (WEXITSTATUS(status) == notPermitted)
+        GTEST_SKIP() << "mounting is not permitted here";
+    EXPECT_EQ(status, 0);
+}
+
+TEST_F(FileManagerTest, theNextSaveTakesAwayWhatAKilledOneLeftBehind) {
+    put(script(".zarvil-save"), "half wri");
+    ASSERT_EQ(files.writeText("whole", script("x").string(), atomic), std::nullopt);
+    EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
+    EXPECT_EQ(get(script("x")), "whole");
+}
+
+TEST_F(FileManagerTest, aSaveLeavesTheTemporaryFileOfAnotherProcessAlone) {
+    put(script(".zarvil-save"), "being written");
+    const int held = ::open(script(".zarvil-save").c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    EXPECT_EQ(files.writeText("mine", script("x").string(), atomic), std::nullopt);
+    EXPECT_THAT(namesIn(scripts()), ElementsAre(".zarvil-save", "x"));
+    EXPECT_EQ(get(script(".zarvil-save")), "being written");
+    ::close(held);
+}
+
+TEST_F(FileManagerTest, aFolderUnderTheTemporaryNameDoesNotHinderASave) {
+    fs::create_directory(script(".zarvil-save"));
+    EXPECT_EQ(files.writeText("x", script("x").string(), atomic), std::nullopt);
+    EXPECT_EQ(get(script("x")), "x");
+}
+
+} // namespace
+} // namespace zarvil::posix

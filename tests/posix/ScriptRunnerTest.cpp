@@ -1,0 +1,194 @@
+#include "PosixHarness.h"
+#include "posix/PosixProcessControl.h"
+#include "posix/PosixScriptRunner.h"
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sstream>
+
+namespace zarvil {
+
+void PrintTo(const ScriptError& error, std::ostream* stream) {
+    *stream << error.number << " \"" << error.message << '"';
+}
+
+} // namespace zarvil
+
+namespace zarvil::posix {
+namespace {
+
+using namespace std::string_literals;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class ScriptRunnerTest : public PosixHarness {
+protected:
+    ScriptRunnerTest() { ::setenv("TMPDIR", scripts().c_str(), 1); }
+    ~ScriptRunnerTest() override { ::unsetenv("TMPDIR"); }
+
+    [[nodiscard]] std::string result() const { return (home / "result").string(); }
+    /// What the script has put into the file of its first word.
+    std::string resultOf(std::string_view source) {
+        EXPECT_EQ(runner.run(source), std::nullopt);
+        return get(result());
+    }
+
+    PosixScriptRunner runner;
+};
+
+TEST_F(ScriptRunnerTest, successIsSilentWhateverTheScriptPrints) {
+    for (const std::string_view source :
+         {"", "exit 0", "echo out; echo err >&2", "#!/bin/sh\ntrue", "#! /bin/sh -e\ntrue",
+          "#!/bin/sh\r\n", "#!\ntrue", "#!", "yes | head -c 1000000", "cat"})
+        EXPECT_FALSE(runner.run(source)) << source;
+    EXPECT_THAT(namesIn(scripts()), IsEmpty()) << "the script's copy is left behind";
+}
+
+TEST_F(ScriptRunnerTest, aFailureCarriesTheStatusAndTheLastLineOfTheErrorOutput) {
+    struct Case {
+        std::string source;
+        ScriptError error;
+    };
+    const Case cases[] = {
+        {"exit 3", {3, "The script failed with exit status 3 and gave no reason."}},
+        {"echo first >&2; echo last >&2; exit 4", {4, "last"}},
+        {"printf 'no line end' >&2; exit 255", {255, "no line end"}},
+        {"printf 'last\\n \\n\\n\\t\\n' >&2; exit 1", {1, "last"}},
+        {"printf ' \\033[31mred\\r\\n' >&2; exit 1", {1, "[31mred"}},
+        {"printf 'a\\377b' >&2; exit 1", {1, "a\uFFFDb"}},
+        {"printf last >&2; echo out; exit 1", {1, "last"}},
+        {"printf 'last\\n' >&2; head -c 300000 /dev/zero | tr '\\0' '\\n' >&2; exit 1",
+         {1, "last"}},
+        {"head -c 300000 /dev/zero | tr '\\0' x >&2; exit 1", {1, std::string(1024, 'x')}},
+        {"#!/bin/sh -e\nfalse\nexit 0",
+         {1, "The script failed with exit status 1 and gave no reason."}},
+    };
+    for (const auto& [source, error] : cases)
+        EXPECT_EQ(runner.run(source), error) << source;
+}
+
+TEST_F(ScriptRunnerTest, theInterpreterOfTheFirstLineGetsTheWholeTextAndOneArgument) {
+    const fs::path target = home / "with a blank";
+    fs::create_directory(target);
+    const std::string source = "#!/bin/cp --target-directory=" + target.string() + "\nany text";
+    EXPECT_FALSE(runner.run(source));
+    ASSERT_EQ(namesIn(target).size(), 1U);
+    EXPECT_EQ(get(target / *namesIn(target).begin()), source);
+}
+
+TEST_F(ScriptRunnerTest, whatCannotBeStartedSaysWhyAndNamesTheInterpreter) {
+    struct Case {
+        std::string source;
+        int number;
+        std::string_view named;
+        std::string_view reason;
+    };
+    put(home / "plain", "x");
+    const Case cases[] = {
+        {"#!/no/such/interpreter -x\n", ENOENT, "/no/such/interpreter", "no such file"},
+        {"#!" + home.string() + "\n", EACCES, home.native(), "permission"},
+        {"#!" + (home / "plain").string(), EACCES, "plain", "permission"},
+        {"echo a\0b"s, EINVAL, "NUL", "cannot be run"},
+    };
+    for (const auto& [source, number, named, reason] : cases) {
+        const auto error = runner.run(source);
+        ASSERT_TRUE(error) << source;
+        EXPECT_EQ(error->number, number);
+        EXPECT_THAT(error->message, AllOf(HasSubstr(named), HasSubstr(reason)));
+    }
+}
+
+TEST_F(ScriptRunnerTest, aFolderForTheCopyThatIsMissingIsReported) {
+    ::setenv("TMPDIR", "/no/such/folder", 1);
+    EXPECT_EQ(runner.run("true")->number, ENOENT);
+}
+
+TEST_F(ScriptRunnerTest, aDeathByASignalSaysWhichOne) {
+    EXPECT_EQ(runner.run("echo noise >&2; kill -KILL $$"),
+              (ScriptError{137, "Signal 9 (Killed) ended the script."}));
+    EXPECT_EQ(runner.run("kill -SEGV $$")->number, 139);
+}
+
+TEST_F(ScriptRunnerTest, theScriptInheritsNothingOfThisProcess) {
+    const int leaky = ::open("/dev/null", O_RDONLY); // inheritable on purpose
+    const auto before = namesIn("/proc/self/fd").size();
+    std::signal(SIGPIPE, SIG_IGN);
+    sigset_t blocked;
+    ::sigemptyset(&blocked);
+    ::sigaddset(&blocked, SIGTERM);
+    ::sigprocmask(SIG_BLOCK, &blocked, nullptr);
+
+    // The shell keeps the script itself open, so a fresh program looks at its own descriptors.
+    EXPECT_EQ(resultOf("ls /proc/self/fd > " + result()), "0\n1\n2\n3\n");
+    EXPECT_EQ(resultOf("readlink /proc/self/fd/0 > " + result()), "/dev/null\n");
+    EXPECT_THAT(resultOf("grep -E 'Sig(Blk|Ign)' /proc/$$/status | cut -f2 > " + result()),
+                "0000000000000000\n0000000000000000\n");
+    EXPECT_EQ(resultOf("pwd > " + result()), std::string(std::getenv("HOME")) + "\n");
+
+    ::sigprocmask(SIG_UNBLOCK, &blocked, nullptr);
+    std::signal(SIGPIPE, SIG_DFL);
+    EXPECT_EQ(namesIn("/proc/self/fd").size(), before);
+    ::close(leaky);
+}
+
+TEST_F(ScriptRunnerTest, theScriptLeadsASessionWithoutATerminal) {
+    std::istringstream status(
+        resultOf("read -r all < /proc/$$/stat; echo $$ ${all##*)} > " + result()));
+    long process = 0, parent = 0, group = 0, session = 0, terminal = 0;
+    std::string state;
+    status >> process >> state >> parent >> group >> session >> terminal;
+    EXPECT_EQ(parent, ::getpid());
+    EXPECT_EQ(group, process);
+    EXPECT_EQ(session, process);
+    EXPECT_EQ(terminal, 0);
+}
+
+TEST_F(ScriptRunnerTest, endlessErrorOutputNeitherHangsNorFillsTheMemory) {
+    // A background job goes on writing after the script's own end.
+    EXPECT_FALSE(runner.run("yes 'noise' >&2 & exit 0"));
+    EXPECT_EQ(runner.run("head -c 200000000 /dev/zero >&2; echo >&2; echo last >&2; exit 7"),
+              (ScriptError{7, "last"}));
+}
+
+TEST_F(ScriptRunnerTest, aBackgroundJobThatHoldsTheErrorOutputIsNotWaitedFor) {
+    const std::string pidFile = result();
+    EXPECT_EQ(runner.run("sleep 1000 & echo $! > " + pidFile + "; echo last >&2; exit 2"),
+              (ScriptError{2, "last"}));
+    const pid_t job = std::stoi(get(pidFile));
+    EXPECT_EQ(::kill(job, 0), 0) << "it goes on living";
+    PosixProcessControl().kill(job);
+}
+
+TEST_F(ScriptRunnerTest, aScriptThatClosesItsErrorOutputIsStillWaitedFor) {
+    EXPECT_EQ(
+        runner.run("exec 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 5")->number,
+        5);
+}
+
+TEST(ProcessControlTest, killsTheOneProcessItIsGivenAndNoGroup) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::setsid(); // a kill of the whole group would end this child alone
+        PosixProcessControl().kill(0);
+        ::_exit(42);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 42);
+
+    const pid_t victim = ::fork();
+    if (victim == 0) {
+        while (true)
+            ::pause();
+    }
+    PosixProcessControl().kill(victim);
+    ::waitpid(victim, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+}
+
+} // namespace
+} // namespace zarvil::posix

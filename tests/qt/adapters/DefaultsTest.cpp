@@ -1,0 +1,73 @@
+#include "qt/adapters/QtUserDefaults.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace zarvil {
+namespace {
+
+class QtUserDefaultsTest : public testing::Test {
+protected:
+    void write(const QByteArray& content) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    static QByteArray contentOf(const QString& name) {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("defaults.ini");
+};
+
+TEST_F(QtUserDefaultsTest, valuesAreOnDiskAsSoonAsTheyAreSet) {
+    QtUserDefaults writer(path);
+    EXPECT_FALSE(writer.boolForKey("kZVShowMinutes"));
+    for (const bool value : {true, false, true}) {
+        writer.setBool(value, "kZVShowMinutes");
+        EXPECT_EQ(QtUserDefaults(path).boolForKey("kZVShowMinutes"), value);
+    }
+    EXPECT_FALSE(writer.boolForKey("another"));
+}
+
+TEST_F(QtUserDefaultsTest, editedTextsReadAsTheForgivingReadersDo) {
+    const struct {
+        const char* text;
+        bool value;
+    } cases[] = {{"true", true},   {"YES", true}, {"1", true},      {"-3", true}, {"no", false},
+                 {"false", false}, {"0", false},  {"maybe", false}, {"", false},  {"1, 2", false}};
+    int number = 0;
+    for (const auto& [text, value] : cases) {
+        // A file of its own: one of equal size in the same millisecond would count as unchanged.
+        path = folder.filePath(QStringLiteral("%1.ini").arg(++number));
+        write(QByteArray("[General]\nkey=") + text + "\n");
+        EXPECT_EQ(QtUserDefaults(path).boolForKey("key"), value) << text;
+    }
+}
+
+TEST_F(QtUserDefaultsTest, aCorruptFileKeepsItsGoodLinesAndACopy) {
+    const QByteArray broken = "[General]\nkey=true\n\xffgarbage\n[half";
+    write(broken);
+    QtUserDefaults defaults(path);
+    EXPECT_TRUE(defaults.boolForKey("key"));
+    defaults.setBool(true, "another");
+    EXPECT_TRUE(QtUserDefaults(path).boolForKey("another"));
+    EXPECT_TRUE(QtUserDefaults(path).boolForKey("key"));
+    EXPECT_EQ(contentOf(path + ".corrupt"), broken);
+}
+
+TEST_F(QtUserDefaultsTest, aFileThatCannotBeWrittenStillHoldsForThisRun) {
+    write("a file where a folder should be");
+    QtUserDefaults defaults(path + "/below/defaults.ini");
+    defaults.setBool(true, "key");
+    EXPECT_TRUE(defaults.boolForKey("key"));
+    EXPECT_EQ(contentOf(path), "a file where a folder should be");
+}
+
+} // namespace
+} // namespace zarvil

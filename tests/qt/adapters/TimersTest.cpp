@@ -1,0 +1,78 @@
+#include "qt/adapters/QtClock.h"
+#include "qt/adapters/QtTimers.h"
+
+#include <QDateTime>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace zarvil {
+namespace {
+
+/// Lets every timer due within the next milliseconds fire.
+void passMilliseconds(double count) {
+    QtTimers timers;
+    bool passed = false;
+    const auto end = timers.schedule(count / 1000, Repetition::Once, [&] { passed = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return passed; }));
+}
+
+TEST(QtTimersTest, aTimerEndedByItsOwnCallFiresNoMore) {
+    for (const auto repetition : {Repetition::Once, Repetition::Repeating}) {
+        QtTimers timers;
+        const auto capture = std::make_shared<int>(0);
+        std::unique_ptr<Timer> timer;
+        timer = timers.schedule(0.001, repetition, [&timer, capture] {
+            timer.reset();
+            ++*capture; // the captures outlive the timer while the call runs
+        });
+        ASSERT_TRUE(QTest::qWaitFor([&] { return *capture > 0; }));
+        passMilliseconds(10);
+        EXPECT_EQ(*capture, 1);
+    }
+}
+
+TEST(QtTimersTest, repeatingTimersGoOnAndOthersFireOnce) {
+    QtTimers timers;
+    int once = 0;
+    int repeated = 0;
+    const auto single = timers.schedule(0.002, Repetition::Once, [&] { ++once; });
+    const auto repeating = timers.schedule(0.002, Repetition::Repeating, [&] { ++repeated; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return repeated >= 4; }));
+    EXPECT_EQ(once, 1);
+}
+
+TEST(QtTimersTest, intervalsOutOfRangeAreSoonOrNever) {
+    const struct {
+        double interval;
+        bool soon;
+    } cases[] = {
+        {std::numeric_limits<double>::quiet_NaN(), true},
+        {-5, true},
+        {-std::numeric_limits<double>::infinity(), true},
+        {0, true},
+        {1e300, false},
+        {std::numeric_limits<double>::infinity(), false},
+    };
+    for (const auto& [interval, soon] : cases) {
+        QtTimers timers;
+        bool fired = false;
+        const auto timer = timers.schedule(interval, Repetition::Once, [&] { fired = true; });
+        passMilliseconds(20);
+        EXPECT_EQ(fired, soon) << interval;
+    }
+}
+
+TEST(QtClockTest, countsFromTheStartOf2001) {
+    const auto start = QDateTime({2001, 1, 1}, {0, 0}, Qt::UTC);
+    const double before =
+        static_cast<double>(start.msecsTo(QDateTime::currentDateTimeUtc())) / 1000;
+    const double now = QtClock().timeIntervalSinceReferenceDate();
+    EXPECT_GE(now, before);
+    EXPECT_LT(now, before + 5);
+}
+
+} // namespace
+} // namespace zarvil

@@ -1,0 +1,211 @@
+#include "PaneHarness.h"
+#include "qt/binding/LockWidget.h"
+#include "qt/binding/OutletBinder.h"
+#include "qt/binding/Spinner.h"
+#include "qt/canvas/Convert.h"
+#include "qt/pane/PaneView.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QGraphicsOpacityEffect>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include <set>
+
+namespace zarvil::qt {
+namespace {
+
+class Layout : public PaneHarness {
+protected:
+    ~Layout() override { bindings.clear(); }
+
+    template <typename Widget>
+    Widget& widget(const char* name) {
+        auto* found = view.findChild<Widget*>(name);
+        if (!found)
+            throw std::runtime_error(std::string("no widget ") + name);
+        return *found;
+    }
+
+    /// Shows the view on a page and gives a field the keyboard.
+    void focus(QWidget& field, int page) {
+        widget<QTabWidget>("tabView").setCurrentIndex(page);
+        view.show();
+        view.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+        field.setFocus();
+        ASSERT_TRUE(field.hasFocus());
+    }
+
+    PaneView view;
+    Subscriptions bindings;
+    Faults faults = bindOutlets(pane, view, bindings);
+};
+
+constexpr int generalPage = 1;
+constexpr int alertsPage = 2;
+constexpr int scriptsPage = 3;
+
+TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) { EXPECT_EQ(faults, Faults{}); }
+
+TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
+    QWidget broken;
+    auto* misnamed = new QLabel(&broken);
+    misnamed->setObjectName("showIcon");
+    auto* unknown = new QPushButton(&broken);
+    unknown->setObjectName("nobodyKnowsThis");
+    unknown->setProperty("action", "nobody:");
+    Subscriptions none;
+    const Faults found = bindOutlets(pane, broken, none);
+    const std::set<std::string> all(found.begin(), found.end());
+    for (const char* fault :
+         {"no widget for the outlet email", "the widget of showIcon is of the wrong kind",
+          "no outlet for the widget nobodyKnowsThis", "no action nobody:"})
+        EXPECT_TRUE(all.contains(fault)) << fault;
+}
+
+/// The letter after a single "&"; nothing without one.
+QChar mnemonic(const QString& text) {
+    for (qsizetype at = text.indexOf('&'); at >= 0 && at + 1 < text.size();
+         at = text.indexOf('&', at + 2)) {
+        if (text[at + 1] != '&')
+            return text[at + 1].toLower();
+    }
+    return {};
+}
+
+TEST_F(Layout, givesNoMnemonicTwiceOnOnePage) {
+    auto& tabs = widget<QTabWidget>("tabView");
+    for (int page = 0; page < tabs.count(); ++page) {
+        std::multiset<QChar> letters;
+        for (int tab = 0; tab < tabs.count(); ++tab)
+            letters.insert(mnemonic(tabs.tabText(tab)));
+        for (const auto* button : tabs.widget(page)->findChildren<QAbstractButton*>())
+            letters.insert(mnemonic(button->text()));
+        for (const auto* label : tabs.widget(page)->findChildren<QLabel*>())
+            if (label->buddy())
+                letters.insert(mnemonic(label->text()));
+        letters.erase(QChar());
+        for (const QChar letter : letters)
+            EXPECT_EQ(letters.count(letter), 1U)
+                << fromQt(letter) << " on " << fromQt(tabs.tabText(page));
+    }
+}
+
+TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
+    visitOutlets(pane, [&](std::string_view name, View& model) {
+        auto* shown = view.findChild<QWidget*>(toQt(name));
+        const auto* control = dynamic_cast<Control*>(&model);
+        const bool operable =
+            control && !qobject_cast<QLabel*>(shown) && !shown->property("readOnly").toBool();
+        if (!operable)
+            return;
+        EXPECT_FALSE(shown->toolTip().isEmpty()) << name;
+        EXPECT_TRUE(shown->focusPolicy() & Qt::TabFocus) << name;
+    });
+}
+
+TEST_F(Layout, aClickSendsTheSettingAndTheModelDecidesWhatIsShown) {
+    loadWithAgent();
+    auto& box = widget<QCheckBox>("launchAtLogin");
+    box.click();
+    EXPECT_EQ(takeSent(), std::vector{settingChange("LaunchAtLogin", true)});
+    agentSends(Message(message::savedPrefs));
+    EXPECT_FALSE(box.isChecked());
+    widget<QCheckBox>("hideShutdownMessageButton").click();
+    EXPECT_TRUE(takeSent().empty());
+}
+
+TEST_F(Layout, aFieldSendsOnReturnAndOnLeavingAnEditButNeverTwice) {
+    loadWithAgent();
+    auto& delay = widget<QLineEdit>("shutdownDelayText");
+    focus(delay, generalPage);
+    delay.selectAll();
+    QTest::keyClicks(&delay, "45");
+    EXPECT_TRUE(takeSent().empty());
+    QTest::keyClick(&delay, Qt::Key_Return);
+    EXPECT_EQ(takeSent(), std::vector{settingChange("ShutdownDelay", 45)});
+    widget<QCheckBox>("forceQuit").setFocus();
+    EXPECT_TRUE(takeSent().empty());
+    focus(delay, generalPage);
+    QTest::keyClicks(&delay, "0");
+    widget<QCheckBox>("forceQuit").setFocus();
+    EXPECT_EQ(takeSent(), std::vector{settingChange("ShutdownDelay", 450)});
+}
+
+TEST_F(Layout, leavingAnUnfinishedScriptTitleCreatesNothing) {
+    loadWithAgent({{"UseScripts", true}});
+    files.folders = {"/home/user/Library/Zarvil Scripts"};
+    auto& title = widget<QLineEdit>("scriptsTitle");
+    focus(title, scriptsPage);
+    QTest::keyClicks(&title, "half");
+    widget<QCheckBox>("useScriptsButton").setFocus();
+    EXPECT_TRUE(files.files.empty());
+    title.setFocus();
+    QTest::keyClick(&title, Qt::Key_Return);
+    EXPECT_EQ(files.files.count("/home/user/Library/Zarvil Scripts/half.zvscript"), 1U);
+}
+
+TEST_F(Layout, showsPresenceInWordsBesideTheLaunchButton) {
+    load();
+    view.show();
+    EXPECT_TRUE(widget<QLabel>("notLaunchedDesc").isVisible());
+    EXPECT_EQ(widget<QPushButton>("launchButton").text(), "Launch Zarvil");
+    agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+    EXPECT_FALSE(widget<QLabel>("notLaunchedDesc").isVisible());
+    EXPECT_TRUE(widget<QLabel>("launchedDesc").isVisible());
+    EXPECT_TRUE(widget<QLabel>("onDesc").isVisible());
+    EXPECT_EQ(widget<QPushButton>("launchButton").text(), "Quit Zarvil");
+    widget<QPushButton>("launchButton").click();
+    EXPECT_EQ(takeSentNames().back(), "ZVQuit");
+}
+
+TEST_F(Layout, anAnimatedChangeGlidesAndAnImmediateOneDoesNot) {
+    loadWithAgent({{"UsePushover", true}});
+    auto& box = widget<QWidget>("pushBox");
+    focus(widget<QLineEdit>("pushUserName"), alertsPage);
+    const auto opacity = [&box] {
+        const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(box.graphicsEffect());
+        return effect && effect->isEnabled() ? effect->opacity() : 1.0;
+    };
+    pane.pushBox.setAlphaValue(alpha::dimmed, Transition::Animated);
+    EXPECT_GT(opacity(), 0.9);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opacity() == alpha::dimmed; }));
+    pane.pushBox.setAlphaValue(alpha::active);
+    EXPECT_EQ(opacity(), 1);
+}
+
+TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
+    loadWithAgent({{"UsePushover", true}, {"PushUserId", "u"}});
+    focus(widget<QLineEdit>("pushUserName"), alertsPage);
+    pane.pushIndicator.startAnimation();
+    EXPECT_TRUE(widget<Spinner>("pushIndicator").isAnimating());
+    TextAttributes red;
+    red.foregroundColor = Color{1, 0.1, 0.1};
+    red.alignment = TextAlignment::Centered;
+    pane.pushValidationStatus.setAttributedStringValue({"Unknow error!", red});
+    pane.pushValidationStatus.setHidden(false);
+    auto& verdict = widget<QLabel>("pushValidationStatus");
+    EXPECT_TRUE(verdict.isVisible());
+    EXPECT_EQ(verdict.text(), "Unknow error!");
+    EXPECT_TRUE(verdict.alignment() & Qt::AlignHCenter);
+    EXPECT_EQ(verdict.palette().color(verdict.foregroundRole()), QColor::fromRgbF(1, 0.1F, 0.1F));
+    authorization.questions.at(0).reply({false, "polkit is not there."});
+    EXPECT_EQ(widget<LockWidget>("authView").reason(), "polkit is not there.");
+}
+
+TEST_F(Layout, theConfirmationPanelFollowsItsModel) {
+    load();
+    auto& panel = widget<QDialog>("uninstallModal");
+    pane.uninstallModal.beginSheet();
+    EXPECT_TRUE(panel.isVisible());
+    pane.uninstallModal.orderOut();
+    EXPECT_FALSE(panel.isVisible());
+}
+
+} // namespace
+} // namespace zarvil::qt

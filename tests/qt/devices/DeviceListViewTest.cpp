@@ -1,0 +1,261 @@
+#include "qt/devices/DeviceListView.h"
+#include "PaneHarness.h"
+#include "qt/devices/DeviceItemDelegate.h"
+#include "qt/devices/DeviceListModel.h"
+#include "qt/devices/DisplayText.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace zarvil::qt {
+namespace {
+
+Dictionary device(std::string_view name, std::string_view serial = "S") {
+    return {{"DeviceName", name}, {"DeviceVendor", "Maker"}, {"DeviceSerial", serial}};
+}
+
+/// The two lists of one pane side by side, off-screen.
+class DeviceListViews : public PaneHarness {
+protected:
+    DeviceListViews() {
+        QAccessible::setActive(true);
+        loadWithAgent();
+        connected.setModel(pane.connectedDevices);
+        saved.setModel(pane.selectedDevices);
+        for (DeviceListView* view : {&connected, &saved}) {
+            view->resize(320, 400);
+            view->show();
+        }
+        QApplication::processEvents();
+    }
+
+    void plug(int count) {
+        for (int number = 0; number < count; ++number)
+            agentSends({message::deviceConnected,
+                        device("N" + std::to_string(number), std::to_string(number))});
+        QApplication::processEvents();
+    }
+    static QStringList names(const DeviceListView& view) {
+        QStringList names;
+        for (int row = 0; row < view.model()->rowCount(); ++row)
+            names += view.model()->index(row, 0).data().toString();
+        return names;
+    }
+    static QPoint checkBox(const DeviceListView& view, int row) {
+        QStyleOptionViewItem option;
+        option.initFrom(&view);
+        option.widget = &view;
+        option.rect = view.visualRect(view.model()->index(row, 0));
+        return DeviceItemDelegate::checkArea(option).center();
+    }
+    static void click(const DeviceListView& view, QPoint place) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    }
+    static Qt::CheckState checkState(const DeviceListView& view, int row) {
+        return view.model()->index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>();
+    }
+
+    DeviceListView connected;
+    DeviceListView saved;
+};
+
+TEST_F(DeviceListViews, aClickOnTheBoxMovesTheDeviceThereAndBack) {
+    plug(3);
+    click(connected, checkBox(connected, 2));
+    EXPECT_EQ(names(connected), (QStringList{"N0", "N1"}));
+    EXPECT_EQ(names(saved), QStringList{"N2"});
+    EXPECT_EQ(checkState(saved, 0), Qt::Checked);
+    QApplication::processEvents();
+    click(saved, checkBox(saved, 0));
+    EXPECT_EQ(names(connected), (QStringList{"N0", "N1", "N2"}));
+    EXPECT_EQ(checkState(connected, 2), Qt::Unchecked);
+    EXPECT_EQ(takeSentNames(), (std::vector<std::string>{"ZVAddedSaveItem", "ZVSaveItemRemoved"}));
+}
+
+TEST_F(DeviceListViews, onlyAPressAndReleaseOnTheSameBoxToggles) {
+    plug(2);
+    const QPoint first = checkBox(connected, 0);
+    const QPoint second = checkBox(connected, 1);
+    const QPoint name = first + QPoint(80, 0);
+    click(connected, name);
+    for (const auto& [press, release] :
+         {std::pair(first, second), std::pair(first, name), std::pair(name, first)}) {
+        QTest::mousePress(connected.viewport(), Qt::LeftButton, {}, press);
+        QTest::mouseRelease(connected.viewport(), Qt::LeftButton, {}, release);
+    }
+    QTest::mouseClick(connected.viewport(), Qt::RightButton, {}, first);
+    EXPECT_EQ(takeSentNames(), std::vector<std::string>{});
+}
+
+TEST_F(DeviceListViews, keysMoveThroughTheListAndSpaceToggles) {
+    plug(30);
+    connected.setFocus();
+    const auto press = [this](Qt::Key key) {
+        QTest::keyClick(&connected, key);
+        return connected.currentIndex().data().toString();
+    };
+    EXPECT_EQ(press(Qt::Key_End), "N29");
+    EXPECT_EQ(connected.verticalScrollBar()->value(), connected.verticalScrollBar()->maximum());
+    EXPECT_EQ(press(Qt::Key_Up), "N28");
+    EXPECT_EQ(press(Qt::Key_Home), "N0");
+    EXPECT_EQ(press(Qt::Key_Down), "N1");
+    EXPECT_EQ(press(Qt::Key_Space), "N2") << "the current row goes on to the neighbour";
+    EXPECT_EQ(names(saved), QStringList{"N1"});
+    press(Qt::Key_End);
+    EXPECT_EQ(press(Qt::Key_Space), "N28");
+    EXPECT_EQ(names(saved), (QStringList{"N1", "N29"}));
+}
+
+TEST_F(DeviceListViews, aTickFromElsewhereIsShownAtOnce) {
+    plug(2);
+    EXPECT_EQ(checkState(connected, 1), Qt::Unchecked);
+    const auto item = pane.connectedDevices.itemAtIndexAs<ZVCollectionItem>(1);
+    QStringList namesMeanwhile;
+    std::vector<Qt::CheckState> ticksMeanwhile;
+    item->setState(1);
+    QObject::connect(connected.model(), &QAbstractItemModel::rowsAboutToBeRemoved, &connected, [&] {
+        namesMeanwhile = names(connected);
+        ticksMeanwhile = {checkState(connected, 0), checkState(connected, 1)};
+    });
+    agentSends({message::deviceDisconnected, device("N0", "0")});
+    EXPECT_EQ(namesMeanwhile, (QStringList{"N0", "N1"})) << "the list is ahead of its rows";
+    EXPECT_EQ(ticksMeanwhile.front(), Qt::Unchecked) << "not that of N1";
+    item->setState(0);
+    const QSignalSpy changes(connected.model(), &QAbstractItemModel::dataChanged);
+    item->setState(1);
+    EXPECT_EQ(checkState(connected, 0), Qt::Checked);
+    ASSERT_EQ(changes.count(), 1);
+    EXPECT_EQ(changes[0][0].toModelIndex().row(), 0) << "its row after the first one went";
+}
+
+TEST_F(DeviceListViews, theLastOfTenThousandDevicesIsOneKeyAway) {
+    Array devices(10'000, Value(device("one of many")));
+    devices.emplace_back(device("last"));
+    agentSends({message::allConnectedDevices, Dictionary{{"devices", devices}}});
+    QApplication::processEvents();
+    QTest::keyClick(&connected, Qt::Key_End);
+    EXPECT_EQ(connected.indexAt(connected.viewport()->rect().center()).data(), "one of many");
+    EXPECT_EQ(connected.currentIndex().data(), "last");
+    EXPECT_TRUE(
+        connected.viewport()->rect().intersects(connected.visualRect(connected.currentIndex())));
+    time.advance(5);
+    EXPECT_EQ(connected.model()->rowCount(), 0);
+}
+
+TEST_F(DeviceListViews, anEmptyListTellsWhatToDo) {
+    const QImage bare = connected.grab().toImage();
+    connected.setProperty("emptyText", "No power devices connected");
+    EXPECT_EQ(connected.accessibleDescription(), "No power devices connected");
+    EXPECT_NE(connected.grab().toImage(), bare);
+    plug(1);
+    EXPECT_EQ(connected.accessibleDescription(), "");
+    agentSends({message::deviceDisconnected, device("N0", "0")});
+    EXPECT_EQ(connected.accessibleDescription(), "No power devices connected");
+}
+
+TEST_F(DeviceListViews, cardsLookTheSameInLightAndDark) {
+    plug(1);
+    const auto card = [this] {
+        const QRect row = connected.visualRect(connected.model()->index(0, 0));
+        return connected.viewport()->grab(row.adjusted(12, 12, -12, -12)).toImage();
+    };
+    const QImage light = card();
+    QPalette dark(QColor(50, 50, 50), QColor(40, 40, 40));
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    connected.setPalette(dark);
+    EXPECT_EQ(card(), light);
+}
+
+TEST_F(DeviceListViews, screenReadersLearnTheTextsAndTheTick) {
+    plug(1);
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&connected);
+    ASSERT_EQ(list->childCount(), 1);
+    EXPECT_EQ(list->child(0)->text(QAccessible::Name), "N0, Maker, 0");
+    EXPECT_TRUE(list->child(0)->state().checkable);
+    EXPECT_FALSE(list->child(0)->state().checked);
+    click(connected, checkBox(connected, 0));
+    QAccessibleInterface* ticked = QAccessible::queryAccessibleInterface(&saved);
+    ASSERT_EQ(ticked->childCount(), 1);
+    EXPECT_TRUE(ticked->child(0)->state().checked);
+}
+
+TEST_F(DeviceListViews, oddRecordsGetReadableRows) {
+    struct Case {
+        Dictionary record;
+        QString name;
+        QString vendor;
+        QString serial;
+    };
+    const std::vector<Case> cases{
+        {{}, "Unnamed device", "", "No serial number"},
+        {device("UPS", "N/A"), "UPS", "Maker", "No serial number"},
+        {{{"DeviceName", " "}, {"DeviceVendor", 7}, {"DeviceSerial", Array{1}}},
+         "Unnamed device",
+         "7",
+         "No serial number"},
+        {device("a\nb", "\x7f"), "a\u240Ab", "Maker", "\u2421"},
+    };
+    for (const Case& one : cases) {
+        agentSends({message::deviceConnected, one.record});
+        const QModelIndex row = connected.model()->index(connected.model()->rowCount() - 1, 0);
+        EXPECT_EQ(row.data().toString(), one.name);
+        EXPECT_EQ(row.data(DeviceListModel::VendorRole).toString(), one.vendor);
+        EXPECT_EQ(row.data(DeviceListModel::SerialRole).toString(), one.serial);
+    }
+    EXPECT_FALSE(connected.grab().isNull());
+}
+
+TEST_F(DeviceListViews, toolTipsShowMarkupAsTextAndStayOfUsefulSize) {
+    agentSends({message::deviceConnected, device("<b>bold</b>", std::string(1 << 20, 'x'))});
+    const QString tip = connected.model()->index(0, 0).data(Qt::ToolTipRole).toString();
+    EXPECT_TRUE(tip.contains("&lt;b&gt;bold&lt;/b&gt;"));
+    EXPECT_LT(tip.size(), 10'000);
+    EXPECT_FALSE(connected.grab().isNull());
+}
+
+TEST_F(DeviceListViews, anotherCollectionViewReplacesTheFormer) {
+    plug(1);
+    connected.setModel(pane.selectedDevices);
+    EXPECT_EQ(names(connected), QStringList{});
+    plug(1);
+    agentSends({message::newSavedDevice, Dictionary{{"device", device("other")}}});
+    EXPECT_EQ(names(connected), QStringList{"other"});
+}
+
+TEST(DisplayText, showsWhatWouldBeInvisibleAndDefusesWhatWouldReorder) {
+    struct Case {
+        std::string text;
+        QString shown;
+    };
+    const std::vector<Case> cases{
+        {"plain", "plain"},
+        {std::string("\0\t\x1b", 3), "\u2400\u2409\u241B"},
+        {"a\u0085b\u2028c", "a\uFFFDb\uFFFDc"},
+        {"\u202Eabc\u202C \u2066x\u2069", "\uFFFDabc\uFFFD \uFFFDx\uFFFD"},
+        {"\u200Fשלום", "\u200Fשלום"},
+        {"e\u0301", "e\u0301"},
+        {"\xff", "\uFFFD"},
+        {"🔌", "🔌"},
+        {"", ""},
+    };
+    for (const Case& one : cases)
+        EXPECT_EQ(displayText(one.text, 100), one.shown) << one.text;
+}
+
+TEST(DisplayText, shortensBetweenWholeCharacters) {
+    EXPECT_EQ(displayText("0123456789", 10), "0123456789");
+    EXPECT_EQ(displayText("0123456789A", 10), "01234…6789A");
+    for (std::size_t limit = 2; limit < 40; ++limit) {
+        const QString shown = displayText("🔌🔌🔌🔌🔌🔌🔌🔌🔌🔌🔌🔌", limit);
+        EXPECT_FALSE(shown.contains(QChar(0xFFFD))) << limit;
+        EXPECT_EQ(shown.count(QChar(0x2026)), 1) << limit;
+    }
+    EXPECT_LE(displayText(std::string(1 << 20, '\x80'), 100).size(), 110) << "no UTF-8 at all";
+}
+
+} // namespace
+} // namespace zarvil::qt

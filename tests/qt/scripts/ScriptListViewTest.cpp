@@ -1,0 +1,237 @@
+#include "qt/scripts/ScriptListView.h"
+#include "../scripts/ScriptsHarness.h"
+#include "qt/scripts/ScriptCard.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include <algorithm>
+
+namespace zarvil::qt {
+namespace {
+
+class ScriptListViewTest : public ScriptsHarness {
+protected:
+    void show(int height = 400) {
+        pane.scriptsCollection.setAlphaValue(alpha::active);
+        pane.willSelect();
+        pane.loadScripts();
+        view.setModel(pane.scriptsCollection);
+        view.resize(view.minimumSizeHint().width(), height);
+        view.show();
+        view.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+        settle();
+    }
+    static void settle() {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// Cards in use, from top to bottom.
+    std::vector<ScriptCard*> cards() {
+        std::vector<ScriptCard*> used;
+        for (ScriptCard* card : view.findChildren<ScriptCard*>()) {
+            if (card->item())
+                used.push_back(card);
+        }
+        std::ranges::sort(used, {}, [](const ScriptCard* card) { return card->y(); });
+        return used;
+    }
+    ScriptCard& card(std::string_view title) {
+        for (ScriptCard* each : cards()) {
+            if (*each->item()->representedObject()->contents().stringForKey(script::title) == title)
+                return *each;
+        }
+        throw std::runtime_error("no card " + std::string(title));
+    }
+    static QPushButton& button(const ScriptCard& card, const char* text) {
+        for (QPushButton* each : card.findChildren<QPushButton*>()) {
+            if (each->text() == QLatin1String(text))
+                return *each;
+        }
+        throw std::runtime_error(std::string("no button ") + text);
+    }
+    static void click(const ScriptCard& card, const char* text) {
+        QTest::mouseClick(&button(card, text), Qt::LeftButton);
+        settle();
+    }
+    static QLineEdit& titleField(const ScriptCard& card) { return *card.findChild<QLineEdit*>(); }
+    static QPlainTextEdit& textField(const ScriptCard& card) {
+        return *card.findChild<QPlainTextEdit*>();
+    }
+
+    ScriptListView view;
+};
+
+TEST_F(ScriptListViewTest, tenThousandScriptsNeedWidgetsForTheRowsInSightAlone) {
+    for (int index = 0; index < 10000; ++index)
+        put("s" + std::to_string(10000 + index) + ".zvscript", "text");
+    show();
+    EXPECT_EQ(view.rowCount(), 10000);
+    QScrollBar& bar = *view.verticalScrollBar();
+    for (int step = 0; step <= 100; ++step) {
+        bar.setValue(bar.maximum() * step / 100);
+        EXPECT_LE(view.findChildren<ScriptCard*>().size(), 8);
+    }
+    const ScriptCard& last = card("s19999");
+    EXPECT_LE(last.geometry().bottom(), view.viewport()->height());
+}
+
+TEST_F(ScriptListViewTest, theEditFieldsStandAtTheirFramesInTheirFonts) {
+    put("a.zvscript", "echo a");
+    show();
+    EXPECT_GE(card("a").width(), 578);
+    EXPECT_GE(card("a").height(), 134);
+    click(card("a"), "Edit");
+    const QPoint origin(ScriptCard::padding, ScriptCard::padding);
+    EXPECT_EQ(titleField(card("a")).geometry(), QRect(15, 0, 490, 26).translated(origin));
+    EXPECT_EQ(textField(card("a")).geometry(), QRect(20, 54, 558, 70).translated(origin));
+    EXPECT_EQ(titleField(card("a")).font().pixelSize(), 15);
+    EXPECT_EQ(textField(card("a")).font().pixelSize(), 13);
+    EXPECT_EQ(titleField(card("a")).text(), "a");
+    EXPECT_EQ(textField(card("a")).toPlainText(), "echo a");
+    EXPECT_TRUE(titleField(card("a")).hasFocus());
+}
+
+TEST_F(ScriptListViewTest, typingEditsTheScriptAndDoneSavesIt) {
+    put("a.zvscript", "old");
+    show();
+    click(card("a"), "Edit");
+    QTest::keyClicks(&titleField(card("a")), "b");
+    QTest::keyClick(&titleField(card("a")), Qt::Key_Tab);
+    EXPECT_TRUE(textField(card("a")).hasFocus());
+    QTest::keyClicks(&textField(card("a")), "new ");
+    click(card("a"), "Done");
+    EXPECT_EQ(files.files[pathOf("b.zvscript")], "new old");
+    EXPECT_EQ(card("b").findChildren<QPlainTextEdit*>().size(), 0);
+    EXPECT_EQ(card("b").accessibleName(), "Script “b”");
+    EXPECT_TRUE(button(card("b"), "Edit").hasFocus());
+}
+
+TEST_F(ScriptListViewTest, whatTheUserLeavesAloneKeepsItsBytes) {
+    struct Case {
+        std::string text, typed, saved;
+    };
+    const Case cases[] = {
+        {"a\r\nb\r\n", "", "a\r\nb\r\n"},
+        {"a\r\nb\r\n", "x", "xa\r\nb\r\n"},
+        {"no\u00A0break\tkept", "x", "xno\u00A0break\tkept"},
+        {"mixed\r\nends\n", "", "mixed\r\nends\n"},
+        {std::string(2 << 20, 'l'), "x", std::string(2 << 20, 'l')},
+    };
+    for (const auto& [text, typed, saved] : cases) {
+        put("a\xFF.zvscript", text);
+        pane.unloadScripts();
+        show();
+        click(card("a\xFF"), "Edit");
+        QTest::keyClicks(&textField(card("a\xFF")), QString::fromStdString(typed));
+        click(card("a\xFF"), "Done");
+        EXPECT_TRUE(files.files[pathOf("a\xFF.zvscript")] == saved) << text.substr(0, 20);
+    }
+}
+
+TEST_F(ScriptListViewTest, runAndRemoveReachTheirScript) {
+    for (const char* name : {"a", "b", "c"})
+        put(std::string(name) + ".zvscript", std::string("echo ") + name);
+    show();
+    click(card("b"), "Run");
+    EXPECT_EQ(scriptRunner.ran, std::vector<std::string>{"echo b"});
+    click(card("b"), "Remove");
+    EXPECT_FALSE(files.files.contains(pathOf("b.zvscript")));
+    ASSERT_EQ(cards().size(), 2U);
+    click(card("c"), "Run");
+    EXPECT_EQ(scriptRunner.ran.back(), "echo c");
+}
+
+TEST_F(ScriptListViewTest, aDoubleClickOnRemoveTakesOneScript) {
+    for (const char* name : {"a", "b", "c"})
+        put(std::string(name) + ".zvscript", "");
+    show();
+    click(card("a"), "Remove");
+    click(card("b"), "Remove");
+    EXPECT_EQ(titles(), (std::vector<std::string>{"b", "c"}));
+}
+
+TEST_F(ScriptListViewTest, aCardBeingEditedGoesAndComesBackWithItsList) {
+    put("a.zvscript", "old");
+    show();
+    click(card("a"), "Edit");
+    QTest::keyClicks(&textField(card("a")), "lost ");
+    pane.unloadScripts();
+    settle();
+    EXPECT_TRUE(cards().empty());
+    pane.loadScripts();
+    settle();
+    EXPECT_EQ(card("a").findChildren<QPlainTextEdit*>().size(), 0);
+    EXPECT_FALSE(card("a").item()->editing());
+}
+
+TEST_F(ScriptListViewTest, anEditOutOfSightKeepsWhatWasTyped) {
+    for (int index = 10; index < 60; ++index)
+        put(std::to_string(index) + ".zvscript", "");
+    show();
+    click(card("10"), "Edit");
+    QTest::keyClicks(&textField(card("10")), "typed");
+    QTest::keyClick(&view, Qt::Key_End);
+    view.setFocus();
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() - 1);
+    EXPECT_THROW(card("10"), std::runtime_error);
+    QTest::keyClick(&view, Qt::Key_Home);
+    EXPECT_EQ(textField(card("10")).toPlainText(), "typed");
+    EXPECT_TRUE(button(card("10"), "Done").isVisible());
+}
+
+TEST_F(ScriptListViewTest, tabVisitsEveryCardInOrderAndBringsItIntoSight) {
+    for (int index = 10; index < 30; ++index)
+        put(std::to_string(index) + ".zvscript", "");
+    show(200);
+    view.setFocus();
+    for (int index = 10; index < 30; ++index) {
+        for (const char* text : {"Edit", "Run", "Remove"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            const ScriptCard& reached = card(std::to_string(index));
+            ASSERT_EQ(QApplication::focusWidget(), &button(reached, text)) << index << text;
+            EXPECT_TRUE(view.viewport()->rect().contains(reached.geometry())) << index;
+        }
+    }
+}
+
+TEST_F(ScriptListViewTest, aNewScriptIsBroughtIntoSight) {
+    for (int index = 10; index < 30; ++index)
+        put(std::to_string(index) + ".zvscript", "");
+    show();
+    EXPECT_EQ(view.verticalScrollBar()->value(), 0);
+    createByHand("new");
+    settle();
+    EXPECT_TRUE(view.viewport()->rect().contains(card("new").geometry()));
+}
+
+TEST_F(ScriptListViewTest, anEmptyListSaysWhy) {
+    show();
+    const auto* hint = view.viewport()->findChild<QLabel*>();
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_TRUE(hint->text().startsWith("No scripts yet."));
+    pane.scriptsCollection.setAlphaValue(alpha::dimmed);
+    EXPECT_TRUE(hint->text().contains("switched on"));
+    createByHand("a");
+    settle();
+    EXPECT_FALSE(hint->isVisible());
+}
+
+TEST_F(ScriptListViewTest, theButtonsTellAScreenReaderWhichScriptTheyWorkOn) {
+    put("a.zvscript", "");
+    show();
+    EXPECT_EQ(button(card("a"), "Edit").accessibleName(), "Edit “a”");
+    EXPECT_EQ(button(card("a"), "Run").accessibleName(), "Run “a”");
+    EXPECT_EQ(button(card("a"), "Remove").accessibleName(), "Remove “a”");
+    EXPECT_FALSE(button(card("a"), "Remove").toolTip().isEmpty());
+}
+
+} // namespace
+} // namespace zarvil::qt

@@ -1,0 +1,209 @@
+#include "ScriptsHarness.h"
+
+#include <gmock/gmock.h>
+
+namespace zarvil {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ScriptItem : public ScriptsHarness {
+protected:
+    void SetUp() override {
+        put("a.zvscript", "echo a");
+        put("b.zvscript", "echo b");
+        loadWithScripts();
+    }
+};
+
+TEST_F(ScriptItem, editingLaysTheFilledFieldsOverTheCardTheTitleOnTop) {
+    const auto script = item(0);
+    EXPECT_FALSE(script->editing());
+    script->edit();
+    EXPECT_TRUE(script->editing());
+    ASSERT_EQ(script->view().subviews().size(), 2U);
+    const auto& text = *script->view().subviews()[0];
+    const auto& title = *script->view().subviews()[1];
+    EXPECT_EQ(&text, script->eText());
+    EXPECT_EQ(&title, script->eTitle());
+    EXPECT_EQ(title.frame(), (Rect{15, 108, 490, 26}));
+    EXPECT_EQ(title.fontSize(), 15);
+    EXPECT_EQ(text.frame(), (Rect{20, 10, 558, 70}));
+    EXPECT_EQ(text.fontSize(), 13);
+    EXPECT_EQ(title.stringValue(), "a");
+    EXPECT_EQ(text.stringValue(), "echo a");
+    script->edit();
+    EXPECT_FALSE(script->editing());
+    EXPECT_THAT(script->view().subviews(), IsEmpty());
+    EXPECT_EQ(script->eTitle(), nullptr);
+}
+
+TEST_F(ScriptItem, savingDeletesTheOldFileThenWritesTheNewOneAtomically) {
+    editByHand(*item(0), "c", "echo c");
+    EXPECT_THAT(files.log, ElementsAre("remove " + pathOf("a.zvscript"),
+                                       "write atomically " + pathOf("c.zvscript")));
+    EXPECT_EQ(files.files[pathOf("c.zvscript")], "echo c");
+    EXPECT_THAT(titles(), ElementsAre("c", "b"));
+    EXPECT_THAT(errors.presented, IsEmpty());
+}
+
+TEST_F(ScriptItem, anEmptiedFieldKeepsWhatTheScriptHad) {
+    struct Case {
+        std::string_view oldTitle, oldText, typedTitle, typedText, title, text;
+    };
+    const Case cases[] = {
+        {"t", "x", "", "new", "t", "new"}, {"t", "x", "n", "", "n", "x"},
+        {"t", "x", "", "", "t", "x"},      {"", "x", "", "y", "Zarvil Script", "y"},
+        {"t", "", "t", "", "t", ""},       {"t", "x", "   ", "\n", "   ", "\n"},
+    };
+    for (const Case& given : cases) {
+        const Record record =
+            makeRecord({{"kZVScriptTitle", given.oldTitle}, {"kZVScriptText", given.oldText}});
+        item(0)->setData(record);
+        editByHand(*item(0), given.typedTitle, given.typedText);
+        EXPECT_EQ(*record->contents().stringForKey("kZVScriptTitle"), given.title);
+        EXPECT_EQ(*record->contents().stringForKey("kZVScriptText"), given.text);
+        EXPECT_EQ(files.files[pathOf(std::string(given.title) + ".zvscript")], given.text);
+    }
+}
+
+TEST_F(ScriptItem, aRecordWithoutEntriesGetsBothAndDeletesNothing) {
+    const Record record = makeRecord({});
+    item(0)->setData(record);
+    item(0)->edit();
+    EXPECT_EQ(item(0)->eTitle()->stringValue(), "");
+    item(0)->edit();
+    EXPECT_THAT(files.log, ElementsAre("write atomically " + pathOf("Zarvil Script.zvscript")));
+    EXPECT_EQ(record->contents(),
+              (Dictionary{{"kZVScriptTitle", "Zarvil Script"}, {"kZVScriptText", ""}}));
+}
+
+TEST_F(ScriptItem, anItemWithoutARecordTouchesNothing) {
+    const auto script = std::make_shared<ZVScriptCollectionItem>(platform);
+    editByHand(*script, "typed", "in vain");
+    script->remove();
+    EXPECT_THAT(files.log, IsEmpty());
+    script->execute();
+    EXPECT_EQ(errors.presented.at(0).description, "Can't execute empty script!");
+}
+
+TEST_F(ScriptItem, renamingOntoAnotherScriptReplacesItsFileAndKeepsBothInTheList) {
+    editByHand(*item(0), "b", "echo a");
+    EXPECT_EQ(files.files.size(), 1U);
+    EXPECT_EQ(files.files[pathOf("b.zvscript")], "echo a");
+    EXPECT_THAT(titles(), ElementsAre("b", "b"));
+}
+
+TEST_F(ScriptItem, aFailedDeletionIsShownAndTheSaveGoesOn) {
+    files.files.erase(pathOf("a.zvscript"));
+    put("a.txt", "echo a");
+    editByHand(*item(0), "a", "echo new");
+    EXPECT_EQ(errors.presented.size(), 1U);
+    EXPECT_EQ(files.files[pathOf("a.zvscript")], "echo new");
+    EXPECT_EQ(files.files[pathOf("a.txt")], "echo a");
+}
+
+TEST_F(ScriptItem, aFailedWriteIsNotReportedAndTheRecordKeepsWhatWasTyped) {
+    files.failing.insert(pathOf("c.zvscript"));
+    editByHand(*item(0), "c", "typed");
+    EXPECT_THAT(errors.presented, IsEmpty());
+    EXPECT_EQ(listed(0, script::title), "c");
+    EXPECT_EQ(listed(0, script::text), "typed");
+    EXPECT_FALSE(item(0)->editing());
+}
+
+TEST_F(ScriptItem, endingAnEditThatHasNoFieldsOnlyTurnsTheFlag) {
+    item(0)->setEditing(true);
+    item(0)->edit();
+    EXPECT_FALSE(item(0)->editing());
+    EXPECT_THAT(files.log, IsEmpty());
+}
+
+TEST_F(ScriptItem, aWorkingScriptRunsSilently) {
+    item(1)->execute();
+    EXPECT_THAT(scriptRunner.ran, ElementsAre("echo b"));
+    EXPECT_THAT(errors.presented, IsEmpty());
+    EXPECT_THAT(files.log, IsEmpty());
+}
+
+TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {
+    scriptRunner.outcome = ScriptError{-2741, "Expected end of line."};
+    item(0)->execute();
+    EXPECT_THAT(errors.presented,
+                ElementsAre(Error{"NSCocoaErrorDomain", -2741, "Expected end of line."}));
+}
+
+TEST_F(ScriptItem, anEmptyScriptIsRefusedInTheUsersLanguage) {
+    strings.translations["Can't execute empty script!"] = "Leeres Skript!";
+    put("a.zvscript", "");
+    pane.unloadScripts();
+    pane.loadScripts();
+    item(0)->execute();
+    EXPECT_THAT(errors.presented, ElementsAre(Error{"NSCocoaErrorDomain", 1, "Leeres Skript!"}));
+    EXPECT_THAT(scriptRunner.ran, IsEmpty());
+}
+
+TEST_F(ScriptItem, runningWhileEditingSavesFirstAndRunsWhatWasJustTyped) {
+    item(0)->edit();
+    item(0)->eText()->userDidEdit("echo typed");
+    item(0)->execute();
+    EXPECT_FALSE(item(0)->editing());
+    EXPECT_THAT(scriptRunner.ran, ElementsAre("echo typed"));
+    EXPECT_EQ(files.files[pathOf("a.zvscript")], "echo typed");
+}
+
+TEST_F(ScriptItem, removingDeletesTheFileAndLeavesTheOthersTheirItems) {
+    const auto second = item(1);
+    item(0)->remove();
+    EXPECT_FALSE(files.files.contains(pathOf("a.zvscript")));
+    EXPECT_THAT(titles(), ElementsAre("b"));
+    EXPECT_EQ(item(0), second);
+}
+
+TEST_F(ScriptItem, removingAScriptWhoseFileIsGoneShowsTheErrorAndDropsItAnyway) {
+    files.files.clear();
+    item(0)->remove();
+    EXPECT_EQ(errors.presented.size(), 1U);
+    EXPECT_THAT(titles(), ElementsAre("b"));
+}
+
+TEST_F(ScriptItem, anOwnerThatCannotDropRecordsIsLeftAlone) {
+    CollectionViewDelegate other;
+    item(0)->setOwner(&other);
+    item(0)->remove();
+    EXPECT_FALSE(files.files.contains(pathOf("a.zvscript")));
+    EXPECT_EQ(count(), 2U);
+}
+
+/// An alert runs the event loop: the agent may vanish while the user reads it.
+class EmptyingPresenter final : public ErrorPresenter {
+public:
+    void presentError(const Error& /*error*/) override { onPresent(); }
+    std::function<void()> onPresent;
+};
+
+TEST_F(ScriptItem, survivesAListThatIsEmptiedDuringItsOwnAlert) {
+    struct Case {
+        std::string_view name;
+        void (*operate)(ZVScriptCollectionItem&);
+    };
+    const Case cases[] = {{"edit", [](auto& script) { script.edit(), script.edit(); }},
+                          {"execute", [](auto& script) { script.edit(), script.execute(); }},
+                          {"remove", [](auto& script) { script.remove(); }}};
+    for (const auto& [name, operate] : cases) {
+        EmptyingPresenter presenter;
+        Platform other{bus,          time,          time,    workspace, files, defaults,  presenter,
+                       scriptRunner, authorization, strings, mouse,     modal, processes, ""};
+        Zarvil_Preferences owner(other);
+        presenter.onPresent = [&owner] { owner.unloadScripts(); };
+        files.files = {{pathOf("a.txt"), "echo a"}};
+        owner.loadScripts();
+        operate(*owner.scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(0));
+        EXPECT_TRUE(owner.scriptsArrayController.empty()) << name;
+        EXPECT_EQ(files.files.contains(pathOf("a.zvscript")), name != "remove") << name;
+    }
+}
+
+} // namespace
+} // namespace zarvil

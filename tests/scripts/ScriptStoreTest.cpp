@@ -1,0 +1,202 @@
+#include "ScriptsHarness.h"
+
+#include <gmock/gmock.h>
+
+namespace zarvil {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using ScriptStore = ScriptsHarness;
+
+TEST_F(ScriptStore, aTitleIsTheFileNameWithoutItsLastExtension) {
+    for (const std::string_view name : {"a.zvscript", "b.txt", "c.x.zvscript", "d", ".e.zvscript"})
+        put(name, name);
+    files.folders.insert(pathOf("sub.folder"));
+    loadWithScripts();
+    EXPECT_THAT(titles(), ElementsAre("a", "b", "c.x", "d", "sub"));
+    EXPECT_EQ(listed(1, script::text), "b.txt");
+    EXPECT_EQ(listed(4, script::text), "");
+    EXPECT_THAT(errors.presented, IsEmpty());
+}
+
+TEST_F(ScriptStore, everyRecordIsHandedToItsItem) {
+    put("a.zvscript", "1");
+    put("b.zvscript", "2");
+    loadWithScripts();
+    for (std::size_t index = 0; index < 2; ++index) {
+        EXPECT_EQ(item(index)->data(), pane.scriptsArrayController.arrangedObjects()[index]);
+        EXPECT_EQ(item(index)->owner(), &pane);
+    }
+}
+
+TEST_F(ScriptStore, ofEqualScriptsOnlyTheFirstItemIsGivenTheLaterRecord) {
+    put("a.txt", "same");
+    put("a.zvscript", "same");
+    loadWithScripts();
+    ASSERT_EQ(count(), 2U);
+    EXPECT_EQ(item(0)->data(), pane.scriptsArrayController.arrangedObjects()[1]);
+    EXPECT_EQ(item(1)->data(), nullptr);
+    EXPECT_EQ(item(1)->owner(), nullptr);
+}
+
+TEST_F(ScriptStore, aSecondLoadListsEveryScriptTwice) {
+    put("a.zvscript", "");
+    loadWithScripts();
+    pane.loadScripts();
+    EXPECT_THAT(titles(), ElementsAre("a", "a"));
+}
+
+TEST_F(ScriptStore, aMissingFolderIsMadeAndNotListedInTheSameCall) {
+    files.folders.clear();
+    loadWithScripts();
+    EXPECT_THAT(files.log, ElementsAre("create folder " + folder));
+    EXPECT_THAT(errors.presented, IsEmpty());
+    EXPECT_EQ(count(), 0U);
+}
+
+TEST_F(ScriptStore, aFileInTheFoldersPlaceIsShownAsOneError) {
+    files.folders.clear();
+    files.files[folder] = "in the way";
+    loadWithScripts();
+    EXPECT_EQ(errors.presented.size(), 1U);
+    EXPECT_EQ(count(), 0U);
+    EXPECT_EQ(files.files[folder], "in the way");
+}
+
+TEST_F(ScriptStore, creatingWritesAnEmptyFileDirectlyAndReadiesTheFieldForTheNext) {
+    put("old.zvscript", "x");
+    loadWithScripts();
+    createByHand("new one");
+    EXPECT_THAT(files.log, ElementsAre("write " + pathOf("new one.zvscript")));
+    EXPECT_THAT(titles(), ElementsAre("old", "new one"));
+    EXPECT_EQ(pane.scriptsTitle.stringValue(), "");
+    EXPECT_FALSE(pane.createNewScript.isEnabled());
+    EXPECT_EQ(item(1)->data(), pane.scriptsArrayController.arrangedObjects()[1]);
+    EXPECT_EQ(item(1)->owner(), &pane);
+    createByHand("new one");
+    EXPECT_EQ(count(), 2U);
+}
+
+TEST_F(ScriptStore, theButtonFollowsTheTitleWhileTheUserTypes) {
+    put("Backup.zvscript", "");
+    loadWithScripts();
+    struct Case {
+        std::string_view typed;
+        bool acceptable;
+    };
+    for (const auto& [typed, acceptable] : {Case{"B", true},
+                                            {"Backup", false},
+                                            {"backup", true},
+                                            {"Backup ", true},
+                                            {"", false},
+                                            {"   ", true},
+                                            {"../x", true}}) {
+        pane.scriptsTitle.userDidEdit(typed);
+        EXPECT_EQ(pane.createNewScript.isEnabled(), acceptable) << '"' << typed << '"';
+    }
+}
+
+TEST_F(ScriptStore, createAsksForTheTitleAgainBeforeItTouchesAFile) {
+    put("a.zvscript", "precious");
+    loadWithScripts();
+    for (const std::string_view title : {"a", ""}) {
+        pane.scriptsTitle.setStringValue(title);
+        pane.createNewScript.setEnabled(true);
+        pane.performAction("create:", &pane.createNewScript);
+        EXPECT_FALSE(pane.createNewScript.isEnabled());
+    }
+    EXPECT_THAT(files.log, IsEmpty());
+    EXPECT_EQ(files.files[pathOf("a.zvscript")], "precious");
+}
+
+TEST_F(ScriptStore, aFailedCreationShowsItsErrorAndLeavesEverythingAsItWas) {
+    loadWithScripts();
+    createByHand("missing/deep");
+    EXPECT_EQ(errors.presented.size(), 1U);
+    EXPECT_EQ(count(), 0U);
+    EXPECT_EQ(pane.scriptsTitle.stringValue(), "missing/deep");
+    EXPECT_TRUE(pane.createNewScript.isEnabled());
+}
+
+TEST_F(ScriptStore, titlesBecomePathsAsTheyAre) {
+    struct Case {
+        std::string_view title;
+        std::string path;
+    };
+    const Case cases[] = {
+        {"a", folder + "/a.zvscript"},
+        {"..", folder + "/...zvscript"},
+        {"a/b", folder + "/a/b.zvscript"},
+        {"a//b/", folder + "/a/b.zvscript"},
+        {"/a", folder + "/a.zvscript"},
+        {"../a", folder + "/../a.zvscript"},
+        {" \n", folder + "/ \n.zvscript"},
+        {"\U0001F50C", folder + "/\U0001F50C.zvscript"},
+        {"x.zvscript", folder + "/x.zvscript.zvscript"},
+    };
+    for (const auto& [title, path] : cases)
+        EXPECT_EQ(script::filePath(files, title), path);
+}
+
+TEST_F(ScriptStore, aCandidateTitleCanOnlyDisableTheButton) {
+    put("a.zvscript", "");
+    loadWithScripts();
+    struct Case {
+        std::optional<std::string> title;
+        bool enabledBefore;
+        bool enabledAfter;
+    };
+    const Case cases[] = {{"new", false, false},
+                          {"new", true, true},
+                          {"a", true, false},
+                          {std::nullopt, true, false},
+                          {"", true, true}};
+    for (const auto& [title, before, after] : cases) {
+        pane.createNewScript.setEnabled(before);
+        pane.setNewScriptTitleVal(title);
+        EXPECT_EQ(pane.newScriptTitleVal(), title);
+        EXPECT_EQ(pane.createNewScript.isEnabled(), after) << title.value_or("(nil)");
+    }
+}
+
+TEST_F(ScriptStore, theSwitchLoadsAndEmptiesTheListAndTellsTheAgent) {
+    put("a.zvscript", "x");
+    loadWithAgent();
+    pane.useScriptsButton.setAction("useScripts:");
+    pane.useScriptsButton.performClick();
+    EXPECT_THAT(titles(), ElementsAre("a"));
+    EXPECT_EQ(pane.scriptsCollection.alphaValue(), alpha::active);
+    EXPECT_TRUE(pane.scriptsTitle.isEnabled());
+    EXPECT_FALSE(pane.createNewScript.isEnabled());
+    EXPECT_THAT(takeSent(), ElementsAre(settingChange("UseScripts", true)));
+
+    pane.scriptsTitle.userDidEdit("half typed");
+    pane.useScriptsButton.performClick();
+    EXPECT_EQ(count(), 0U);
+    EXPECT_EQ(pane.scriptsCollection.alphaValue(), alpha::dimmed);
+    EXPECT_FALSE(pane.scriptsTitle.isEnabled());
+    EXPECT_EQ(pane.scriptsTitle.stringValue(), "");
+    EXPECT_FALSE(pane.createNewScript.isEnabled());
+    EXPECT_THAT(takeSent(), ElementsAre(settingChange("UseScripts", false)));
+    EXPECT_THAT(files.log, IsEmpty());
+}
+
+TEST_F(ScriptStore, typingAUserKeyHidesTheVerdictAndReadiesTheCheck) {
+    load();
+    for (const std::string_view typed : {"key", ""}) {
+        pane.pushValidationStatus.setHidden(false);
+        pane.createNewScript.setEnabled(true);
+        pane.pushUserName.userDidEdit(typed);
+        EXPECT_TRUE(pane.pushValidationStatus.isHidden());
+        EXPECT_EQ(pane.pushValidate.isEnabled(), !typed.empty());
+        EXPECT_TRUE(pane.createNewScript.isEnabled());
+    }
+    TextField other;
+    pane.scriptsTitleChanged(other);
+    EXPECT_TRUE(pane.createNewScript.isEnabled());
+}
+
+} // namespace
+} // namespace zarvil

@@ -1,0 +1,222 @@
+"""A desktop session of its own for whole-system tests: display, window manager, bus, agent and
+preferences application, all real. The pane is operated and read through the accessibility bus, as
+an assistive program would. Whatever a session started it ends, by process identifier."""
+
+import contextlib
+import json
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, Gio, GLib  # noqa: E402
+
+AGENT_NAME = "com.Tessrow.Zarvil"
+HOST_NAME = "com.Tessrow.Preferences"
+PATH = "/com/Tessrow/Zarvil"
+BUILD = pathlib.Path(os.environ["ZARVIL_BUILD"])
+PATIENCE = 60  # seconds, for a loaded machine under sanitizers
+
+
+def turn_main_loop():
+    """Handles what has arrived and waits a moment for more."""
+    context = GLib.MainContext.default()
+    GLib.timeout_add(20, lambda: False)
+    context.iteration(True)
+
+
+def wait_until(condition, what, patience=PATIENCE):
+    deadline = time.monotonic() + patience
+    while time.monotonic() < deadline:
+        with contextlib.suppress(GLib.Error):
+            result = condition()
+            if result:
+                return result
+        turn_main_loop()
+    raise AssertionError(f"waited {patience} s in vain: {what}")
+
+
+class Session:
+    """Folders and processes of one test."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="zarvil-system-"))
+        self.home = self.folder / "home"
+        self.root = self.folder / "root"
+        self.home.mkdir()
+        self.processes = []
+        os.environ.update(HOME=str(self.home), XDG_CONFIG_HOME=str(self.home / ".config"),
+                          XDG_CACHE_HOME=str(self.home / ".cache"),
+                          XDG_DATA_HOME=str(self.home / ".local/share"))
+        self.install_agent()
+        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+
+    def close(self):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.kill()
+            process.wait()
+            for pipe in (process.stdin, process.stdout):
+                if pipe:
+                    pipe.close()
+        self.kill_owner(AGENT_NAME)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def install_agent(self):
+        subprocess.run([BUILD / "../../tools/trial-root", self.root, BUILD], check=True)
+
+    def start(self, *command, **options):
+        process = subprocess.Popen([str(word) for word in command], text=True, **options)
+        self.processes.append(process)
+        return process
+
+    # The agent.
+
+    def start_agent(self, *options):
+        devices = self.folder / "devices.json"
+        if not devices.exists():
+            devices.write_text("[]")
+        agent = self.start(BUILD / "bin/zarvil-agent", "--root", self.root, "--devices", devices,
+                           *options, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        wait_until(lambda: self.owner(AGENT_NAME), "the agent owns its name")
+        return agent
+
+    @staticmethod
+    def tell(agent, command):
+        agent.stdin.write(command + "\n")
+        agent.stdin.flush()
+
+    @property
+    def settings_file(self):
+        return self.home / "Library/Preferences/com.Tessrow.Zarvil.plist"
+
+    def stored(self, key):
+        """What the agent has stored under a key, as text; None when it has not."""
+        import plistlib
+
+        if not self.settings_file.exists():
+            return None
+        with open(self.settings_file, "rb") as file:
+            return plistlib.load(file).get(key)
+
+    # The bus.
+
+    def owner(self, name):
+        has = self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                 "org.freedesktop.DBus", "NameHasOwner",
+                                 GLib.Variant("(s)", (name,)), None, 0, 2000, None)
+        if not has.unpack()[0]:
+            return None
+        pid = self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                 "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                                 GLib.Variant("(s)", (name,)), None, 0, 2000, None)
+        return pid.unpack()[0]
+
+    def kill_owner(self, name):
+        """Ends an agent that the pane itself has launched in this session."""
+        with contextlib.suppress(GLib.Error, ProcessLookupError):
+            if pid := self.owner(name):
+                os.kill(pid, signal.SIGKILL)
+
+    def broadcast(self, message, info=None):
+        """Sends a message from a connection that is nobody's agent."""
+        payload = GLib.Variant("(a{sv})", (info or {},))
+        self.bus.emit_signal(None, PATH, AGENT_NAME, message, payload)
+        self.bus.flush_sync()
+
+    # The pane.
+
+    def start_host(self, *options, bundle=None):
+        bundle = bundle or BUILD / "bin/Zarvil Preferences.prefPane"
+        host = self.start(BUILD / "bin/zarvil-preferences", "--root", self.root, bundle, *options,
+                          env=dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1"))
+        wait_until(lambda: self.application(host.pid), "the window is on the accessibility bus")
+        return host
+
+    @staticmethod
+    def application(pid):
+        desktop = Atspi.get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(index)
+            if application and application.get_process_id() == pid:
+                return application
+        return None
+
+
+def clear(text):
+    """A name without its mnemonic's mark."""
+    return (text or "").replace("&", "")
+
+
+def descendants(node):
+    for index in range(node.get_child_count()):
+        with contextlib.suppress(GLib.Error):
+            child = node.get_child_at_index(index)
+            if child is None:
+                continue
+            child.clear_cache()
+            yield child
+            yield from descendants(child)
+
+
+class Pane:
+    """The pane of a running preferences application, as the user meets it."""
+
+    def __init__(self, session, pid):
+        self.session = session
+        self.pid = pid
+
+    def find(self, name, role=None):
+        application = self.session.application(self.pid)
+        if application is None:
+            return None
+        for node in descendants(application):
+            with contextlib.suppress(GLib.Error):
+                if clear(node.get_name()) == name and role in (None, node.get_role_name()):
+                    return node
+        return None
+
+    def get(self, name, role=None):
+        return wait_until(lambda: self.find(name, role), f"there is a {role or 'thing'} {name!r}")
+
+    def has(self, name, state, role=None):
+        node = self.find(name, role)
+        return node is not None and node.get_state_set().contains(state)
+
+    def checked(self, name):
+        return self.has(name, Atspi.StateType.CHECKED)
+
+    def enabled(self, name):
+        return self.has(name, Atspi.StateType.SENSITIVE)
+
+    def showing(self, name):
+        return self.has(name, Atspi.StateType.SHOWING)
+
+    def press(self, name, role=None):
+        node = self.get(name, role)
+        wait_until(lambda: self.enabled(name), f"{name!r} can be pressed")
+        assert node.get_action_iface().do_action(0)
+
+    def type(self, name, text):
+        field = self.get(name, "text")
+        assert field.get_editable_text_iface().set_text_contents(text)
+
+    def choose_tab(self, name):
+        """Presses a tab and waits until its page shows."""
+        tabs = [tab for tab in descendants(self.session.application(self.pid))
+                if tab.get_role_name() == "page tab"]
+        index = [clear(tab.get_name()) for tab in tabs].index(name)
+        tabs[index].get_action_iface().do_action(0)
+        wait_until(lambda: self.page_shows(index), f"the page {name} shows")
+
+    def page_shows(self, index):
+        application = self.session.application(self.pid)
+        pages = next(node for node in descendants(application)
+                     if node.get_role_name() == "layered pane")
+        return pages.get_child_at_index(index).get_state_set().contains(Atspi.StateType.SHOWING)

@@ -1,0 +1,105 @@
+"""The pane in a real window, on a real bus, with a real agent process."""
+
+import os
+import signal
+import unittest
+
+import desktop
+from desktop import AGENT_NAME, HOST_NAME, Pane, Session, wait_until
+from gi.repository import GLib
+
+
+class SystemTest(unittest.TestCase):
+    def setUp(self):
+        self.session = Session()
+        self.addCleanup(self.session.close)
+
+    def start(self, *agent_options):
+        self.agent = self.session.start_agent(*agent_options)
+        self.start_host()
+
+    def start_host(self):
+        self.host = self.session.start_host()
+        self.pane = Pane(self.session, self.host.pid)
+
+    def end(self, process):
+        process.terminate()
+        process.wait(desktop.PATIENCE)
+
+
+class Settings(SystemTest):
+    def test_a_change_reaches_the_agent_and_survives_a_restart_of_both(self):
+        self.start()
+        self.pane.choose_tab("General")
+        for box, key in (("Launch Zarvil at login", "LaunchAtLogin"),
+                         ("Quit applications by force", "UseForce"),
+                         ("Notify me when the power fails", "ShowFailNotifi")):
+            before = self.pane.checked(box)
+            self.pane.press(box)
+            wait_until(lambda: self.session.stored(key) == (not before), f"{key} is stored")
+        self.pane.press("Notify me when the power fails")
+        wait_until(lambda: self.session.stored("ShowFailNotifi") == before, "it is taken back")
+        shown = {box: self.pane.checked(box) for box in
+                 ("Launch Zarvil at login", "Quit applications by force")}
+        self.end(self.host)
+        self.end(self.agent)
+        self.start()
+        self.pane.choose_tab("General")
+        for box, on in shown.items():
+            wait_until(lambda: self.pane.checked(box) == on, f"{box} shows {on} again")
+
+    def test_a_delay_is_stored_in_seconds_and_nonsense_as_zero(self):
+        self.start()
+        self.pane.choose_tab("General")
+        wait_until(lambda: self.pane.enabled("Shutdown delay"), "the delay can be edited")
+        for typed, seconds in (("75", 75), ("-1", -1), ("letters", 0)):
+            field = self.pane.get("Shutdown delay", "text")
+            field.get_component_iface().grab_focus()
+            length = field.get_character_count()
+            field.get_editable_text_iface().delete_text(0, length)
+            field.get_editable_text_iface().insert_text(0, typed, len(typed))
+            self.pane.get("General", "page tab").get_component_iface().grab_focus()
+            wait_until(lambda: self.session.stored("ShutdownDelay") == seconds, f"{typed} is stored")
+
+
+class Presence(SystemTest):
+    def test_a_killed_agent_greys_the_pane_and_the_launch_button_brings_it_back(self):
+        self.start()
+        self.pane.choose_tab("General")
+        wait_until(lambda: self.pane.enabled("Launch Zarvil at login"), "the pane is alive")
+        self.pane.press("Launch Zarvil at login")
+        wait_until(lambda: self.session.stored("LaunchAtLogin"), "a setting is stored")
+        self.agent.kill()
+        self.agent.wait()
+        wait_until(lambda: self.pane.showing("Zarvil is not running"), "it is said in words")
+        self.assertFalse(self.pane.enabled("Launch Zarvil at login"))
+        self.pane.press("Launch Zarvil", "push button")
+        wait_until(lambda: self.session.owner(AGENT_NAME), "the agent is launched")
+        wait_until(lambda: self.pane.showing("Zarvil is running"), "the pane is back")
+        wait_until(lambda: self.pane.enabled("Launch Zarvil at login"), "the controls too")
+        self.assertTrue(self.pane.checked("Launch Zarvil at login"))
+
+    def test_only_the_agent_can_close_the_host(self):
+        self.start()
+        wait_until(lambda: self.pane.showing("Zarvil is running"), "the pane is alive")
+        self.session.broadcast("ZVQuitPrefs")
+        self.session.broadcast("ZVState2", {"state": GLib.Variant("b", True)})
+        self.session.tell(self.agent, "state on")
+        wait_until(lambda: self.pane.checked("Power protection"), "what the agent said arrived")
+        self.assertIsNone(self.host.poll())
+        self.session.tell(self.agent, "quitprefs")
+        self.assertEqual(self.host.wait(desktop.PATIENCE), -signal.SIGKILL)
+        self.assertIsNone(self.agent.poll())
+
+    def test_a_second_start_raises_the_first_and_ends(self):
+        self.start()
+        wait_until(lambda: self.session.owner(HOST_NAME) == self.host.pid, "the name is owned")
+        second = self.session.start(desktop.BUILD / "bin/zarvil-preferences", "--root",
+                                    self.session.root,
+                                    desktop.BUILD / "bin/Zarvil Preferences.prefPane")
+        self.assertEqual(second.wait(desktop.PATIENCE), 0)
+        self.assertIsNone(self.host.poll())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
