@@ -13,7 +13,6 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 
-
 } // namespace
 
 /// The application's font in the size of the style, which counts the view's points and not those

@@ -63,8 +63,11 @@ const PlacedImage& ShadowCache::shadow(const ShadowKey& key,
         return entries_.front().shadow;
     }
     entries_.push_front({key, make()});
-    if (entries_.size() > capacity)
+    bytes_ += entries_.front().shadow.image.sizeInBytes();
+    while (bytes_ > capacity && entries_.size() > 1) {
+        bytes_ -= entries_.back().shadow.image.sizeInBytes();
         entries_.pop_back();
+    }
     return entries_.front().shadow;
 }
 

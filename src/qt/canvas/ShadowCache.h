@@ -34,14 +34,15 @@ public:
     const PlacedImage& shadow(const ShadowKey& key, const std::function<PlacedImage()>& make);
 
 private:
-    /// Enough for every switch of a pane in every state, and for a drag across a track.
-    static constexpr std::size_t capacity = 128;
+    /// In bytes: enough for every switch of a pane in every state, and for a drag across a track.
+    static constexpr qsizetype capacity = 8 << 20;
 
     struct Entry {
         ShadowKey key;
         PlacedImage shadow;
     };
     std::list<Entry> entries_; ///< the latest first
+    qsizetype bytes_ = 0;      ///< of their pixels
 };
 
 } // namespace zarvil::qt

@@ -57,7 +57,7 @@ public:
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         const QString given = QAccessibleWidget::text(kind);
         return kind == QAccessible::Name && shown()->accessibleName().isEmpty() ? shown()->text()
-                                                                               : given;
+                                                                                : given;
     }
     [[nodiscard]] QStringList actionNames() const override {
         return QStringList(shown()->isEnabled() ? pressAction() : QString()) +

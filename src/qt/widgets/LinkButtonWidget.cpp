@@ -70,12 +70,14 @@ QSize LinkButtonWidget::sizeHint() const {
     return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 2 * focusMargin);
 }
 
-/// The given colour where it can be read on the window, else the desktop's colour of links.
-QColor LinkButtonWidget::readable(const Color& color) const {
-    const QColor wanted = qt::toQt(color);
+/// The given colour where it can be read on the window, else the desktop's colour of links, else
+/// that of text.
+QColor LinkButtonWidget::readable(const QColor& wanted) const {
     const QColor background = palette().color(QPalette::Window);
-    return contrastRatio(wanted, background) >= readableContrast ? wanted
-                                                                 : palette().color(QPalette::Link);
+    for (const QColor& color : {wanted, palette().color(QPalette::Link)})
+        if (contrastRatio(color, background) >= readableContrast)
+            return color;
+    return palette().color(QPalette::WindowText);
 }
 
 /// A title has one look from end to end; without a styled one it is underlined, as links are.
@@ -91,11 +93,10 @@ void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QFont styled = font();
     styled.setUnderline(look.underlineStyle == UnderlineStyle::Single);
     painter.setFont(styled);
-    QColor color =
-        look.foregroundColor ? readable(*look.foregroundColor) : palette().color(QPalette::Link);
-    if (!isEnabled())
-        color = palette().color(QPalette::Disabled, QPalette::WindowText);
-    painter.setPen(color);
+    const QColor color =
+        look.foregroundColor ? qt::toQt(*look.foregroundColor) : palette().color(QPalette::Link);
+    painter.setPen(isEnabled() ? readable(color)
+                               : palette().color(QPalette::Disabled, QPalette::WindowText));
     const TextAlignment alignment = look.alignment.value_or(TextAlignment::Left);
     painter.drawText(rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin),
                      toQt(alignment) | Qt::AlignVCenter | Qt::TextSingleLine, text());

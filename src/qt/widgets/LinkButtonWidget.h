@@ -40,7 +40,7 @@ private:
     void followPointer(std::optional<QPointF> position);
     void showTitle();
     [[nodiscard]] TextAttributes titleLook() const;
-    [[nodiscard]] QColor readable(const Color& color) const;
+    [[nodiscard]] QColor readable(const QColor& wanted) const;
 
     Button* model_ = nullptr;
     std::vector<Subscription> subscriptions_;

@@ -1,7 +1,9 @@
 #include "qt/widgets/MessageButtonWidget.h"
 
 #include "qt/canvas/QtCanvas.h"
+#include "qt/widgets/Contrast.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -52,7 +54,11 @@ QSize MessageButtonWidget::sizeHint() const {
     return {std::max(standardSize.width(), title + 2 * titleMargin), standardSize.height()};
 }
 
-void MessageButtonWidget::paintEvent(QPaintEvent* /*event*/) {
+void MessageButtonWidget::paintEvent(QPaintEvent* event) {
+    if (isHighContrast(QGuiApplication::palette())) {
+        QPushButton::paintEvent(event);
+        return;
+    }
     cell_.setHighlighted(isDown());
     cell_.setTitle(withoutMnemonic(text()).toStdString());
     QPainter painter(this);

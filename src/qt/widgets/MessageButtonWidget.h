@@ -10,7 +10,7 @@
 namespace zarvil::qt {
 
 /// A button of a message panel. It is a push button in all but its look: keys, the default of a
-/// dialog, focus and what assistive technologies are told.
+/// dialog, focus and what assistive technologies are told. High-contrast themes get a plain one.
 class MessageButtonWidget : public QPushButton {
     Q_OBJECT
 

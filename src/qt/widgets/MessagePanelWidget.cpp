@@ -1,7 +1,9 @@
 #include "qt/widgets/MessagePanelWidget.h"
 
 #include "qt/canvas/QtCanvas.h"
+#include "qt/widgets/Contrast.h"
 
+#include <QGuiApplication>
 #include <QHoverEvent>
 #include <QPainter>
 
@@ -9,16 +11,29 @@ namespace zarvil::qt {
 
 MessagePanelWidget::MessagePanelWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_Hover);
-    QPalette readable = palette();
-    readable.setColor(QPalette::WindowText, Qt::white);
-    readable.setColor(QPalette::Link, Qt::white);
-    // What stands on the panel takes this for what is behind it.
-    readable.setColor(QPalette::Window, QColor::fromRgbF(0.35F, 0.35F, 0.35F));
-    setPalette(readable);
+    adoptColors();
+}
+
+void MessagePanelWidget::adoptColors() {
+    highContrast_ = isHighContrast(QGuiApplication::palette());
+    QPalette colors;
+    if (!highContrast_) {
+        colors.setColor(QPalette::WindowText, Qt::white);
+        colors.setColor(QPalette::Link, Qt::white);
+        // What stands on the panel takes this for what is behind it.
+        colors.setColor(QPalette::Window, QColor::fromRgbF(0.35F, 0.35F, 0.35F));
+    }
+    setPalette(colors);
 }
 
 void MessagePanelWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    if (highContrast_) {
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.setBrush(palette().window());
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        return;
+    }
     QtCanvas canvas(painter, size(), Orientation::YUp);
     view_.drawRect(canvas);
 }
@@ -37,6 +52,9 @@ bool MessagePanelWidget::event(QEvent* event) {
         followPointer(static_cast<QHoverEvent*>(event)->position());
     else if (event->type() == QEvent::HoverLeave)
         followPointer(std::nullopt);
+    else if ((event->type() == QEvent::PaletteChange || event->type() == QEvent::Show) &&
+             highContrast_ != isHighContrast(QGuiApplication::palette()))
+        adoptColors();
     return QWidget::event(event);
 }
 

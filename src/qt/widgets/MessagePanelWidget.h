@@ -9,7 +9,7 @@
 namespace zarvil::qt {
 
 /// A bevelled dark panel that other widgets stand on. The colours of text are set to be read on
-/// it, in light and dark themes alike.
+/// it, in light and dark themes alike. High-contrast themes get a plain panel in their colours.
 class MessagePanelWidget : public QWidget {
     Q_OBJECT
 
@@ -29,12 +29,14 @@ protected:
     void moveEvent(QMoveEvent* event) override;
 
 private:
+    void adoptColors();
     void tellFrame();
     void followPointer(std::optional<QPointF> position);
 
     QtImageRenderer renderer_;
     ZVMessageView view_{renderer_};
     PointerTracker tracker_{view_};
+    bool highContrast_ = false; ///< the theme is, and so the colours are its own
 };
 
 } // namespace zarvil::qt

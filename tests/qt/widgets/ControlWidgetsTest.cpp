@@ -86,7 +86,7 @@ TEST_F(ControlWidgets, aLinkIsPressedByMouseKeysAndAssistiveTechnologies) {
     EXPECT_EQ(target.actions.size(), 4U);
 }
 
-/// Text colours that are found in what a widget paints, by their most frequent pixel.
+/// Whether a colour stands in what a widget paints.
 bool paints(QWidget& widget, const QColor& color) {
     const QImage image = widget.grab().toImage();
     for (int y = 0; y < image.height(); ++y)
@@ -110,6 +110,10 @@ TEST_F(ControlWidgets, aLinkIsBlueWhereBlueCanBeRead) {
     link.setPalette(palette);
     EXPECT_FALSE(paints(link, QColor(Qt::blue)));
     EXPECT_TRUE(paints(link, QColor(120, 180, 255)));
+    palette.setColor(QPalette::Link, QColor(0, 0, 160));
+    palette.setColor(QPalette::WindowText, QColor(250, 250, 240));
+    link.setPalette(palette);
+    EXPECT_TRUE(paints(link, QColor(250, 250, 240)));
 }
 
 TEST_F(ControlWidgets, aMessageButtonIsAPushButtonInAllButItsLook) {
@@ -153,6 +157,35 @@ TEST_F(ControlWidgets, aMessageButtonDarkensWhilePressedAndKeepsWhatIsBehindItsC
     EXPECT_LT(pixel(30, 24).red(), pixel(30, 44).red());
     QTest::mouseRelease(&button, Qt::LeftButton);
     EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
+}
+
+TEST_F(ControlWidgets, aPanelAndItsButtonsAreReadableInHighContrast) {
+    const QPalette before = QApplication::palette();
+    MessagePanelWidget panel(&window);
+    MessageButtonWidget button(&panel);
+    button.setText("Remove");
+    button.setAutoDefault(false);
+    panel.setGeometry(0, 0, 300, 160);
+    button.setGeometry(100, 100, 90, 28);
+    show();
+    EXPECT_EQ(panel.palette().color(QPalette::WindowText), QColor(Qt::white));
+    QPalette contrast = before;
+    contrast.setColor(QPalette::Window, Qt::white);
+    contrast.setColor(QPalette::WindowText, Qt::black);
+    contrast.setColor(QPalette::Button, Qt::white);
+    contrast.setColor(QPalette::ButtonText, Qt::black);
+    const auto textIs = [&](const QColor& color) {
+        return QTest::qWaitFor(
+            [&] { return panel.palette().color(QPalette::WindowText) == color; });
+    };
+    QApplication::setPalette(contrast);
+    EXPECT_TRUE(textIs(Qt::black));
+    const QImage image = panel.grab().toImage();
+    EXPECT_EQ(image.pixelColor(20, 80), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(0, 80), QColor(Qt::black));
+    EXPECT_GT(image.pixelColor(110, 105).lightness(), 200);
+    QApplication::setPalette(before);
+    EXPECT_TRUE(textIs(Qt::white));
 }
 
 struct Countdown final : TrackingDelegate, TimerPausing, TimerResuming {
