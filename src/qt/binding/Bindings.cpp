@@ -71,8 +71,15 @@ void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept) {
         widget.setFocusPolicy(Qt::NoFocus);
         return;
     }
-    QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&model, &widget, showState] {
-        model.performClick();
+    if (!widget.isCheckable()) {
+        QObject::connect(&widget, &QAbstractButton::clicked, &widget,
+                         [&model] { model.performClick(); });
+        return;
+    }
+    // Not `clicked`: assistive programs toggle a check box without clicking it.
+    QObject::connect(&widget, &QAbstractButton::toggled, &widget, [&model, showState](bool on) {
+        if (on != (model.state() == buttonState::on))
+            model.performClick();
         showState(model.state(), Transition::Immediate);
     });
 }
