@@ -55,6 +55,8 @@ class Session:
                           XDG_CACHE_HOME=str(self.home / ".cache"),
                           XDG_DATA_HOME=str(self.home / ".local/share"))
         self.install_agent()
+        # Without a window manager no window has the keyboard.
+        self.start("openbox", stderr=subprocess.DEVNULL)
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
 
     def close(self):
@@ -203,9 +205,21 @@ class Pane:
         wait_until(lambda: self.enabled(name), f"{name!r} can be pressed")
         assert node.get_action_iface().do_action(0)
 
-    def type(self, name, text):
+    def enter(self, name, text):
+        """Replaces a field's text by typing on the keyboard and ends the edit with Return."""
         field = self.get(name, "text")
-        assert field.get_editable_text_iface().set_text_contents(text)
+        wait_until(lambda: self.enabled(name), f"{name!r} can be edited")
+        field.get_component_iface().grab_focus()
+        wait_until(lambda: self.has(name, Atspi.StateType.FOCUSED, "text"), f"{name!r} has focus")
+        subprocess.run(["xdotool", "key", "ctrl+a", "key", "BackSpace"], check=True)
+        if text:
+            subprocess.run(["xdotool", "type", "--delay", "20", "--", text], check=True)
+        wait_until(lambda: self.text(name) == text, f"{text!r} is typed")
+        subprocess.run(["xdotool", "key", "Return"], check=True)
+
+    def text(self, name):
+        field = self.find(name, "text")
+        return field and field.get_text_iface().get_text(0, -1)
 
     def choose_tab(self, name):
         """Presses a tab and waits until its page shows."""

@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <memory>
+
 namespace zarvil::qt {
 
 namespace {
@@ -36,13 +38,6 @@ void showAttributes(QLabel& label, const AttributedString& text) {
     label.setPalette(palette);
     if (attributes.alignment)
         label.setAlignment(toQt(*attributes.alignment) | Qt::AlignVCenter);
-}
-
-/// Ends an edit: what the field holds is sent as it stands.
-void commit(TextField& model, QLineEdit& widget) {
-    widget.setModified(false);
-    model.userDidEdit(fromQt(widget.text()));
-    model.sendAction();
 }
 
 } // namespace
@@ -103,16 +98,24 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
         if (widget.text() != shown)
             widget.setText(shown);
     }));
-    QObject::connect(&widget, &QLineEdit::textEdited, &widget,
-                     [&model](const QString& text) { model.userDidEdit(fromQt(text)); });
-    QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
-                     [&model, &widget] { commit(model, widget); });
+    const auto unsent = std::make_shared<bool>(false);
+    // Not `textEdited`: assistive programs set the text without typing it.
+    QObject::connect(&widget, &QLineEdit::textChanged, &widget,
+                     [&model, unsent](const QString& text) {
+                         *unsent = fromQt(text) != model.stringValue();
+                         model.userDidEdit(fromQt(text));
+                     });
+    const auto send = [&model, unsent] {
+        *unsent = false;
+        model.sendAction();
+    };
+    QObject::connect(&widget, &QLineEdit::returnPressed, &widget, send);
     if (widget.property("commitsOnReturnOnly").toBool())
         return;
     // Leaving the field ends an edit as well, but only one that has not been sent yet.
-    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&model, &widget] {
-        if (widget.isModified() && widget.isEnabled())
-            commit(model, widget);
+    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&widget, unsent, send] {
+        if (*unsent && widget.isEnabled())
+            send();
     });
 }
 
