@@ -30,7 +30,7 @@ inline double redAt(const QImage& image, int x, int y) {
     return static_cast<double>(image.pixelColor(x, y).redF());
 }
 
-/// Half a level of 255 and what coverage in 256 steps may add.
+/// One step of eight bits, as coverage is counted in steps no finer.
 inline constexpr double level = 1.0 / 255;
 
 } // namespace zarvil::qt
