@@ -19,6 +19,13 @@ void makeHeading(QLabel& label, double scale) {
     label.setFont(font);
 }
 
+/// Nothing moves when the widget comes and goes.
+void keepRoomWhileHidden(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
 } // namespace
 
 PaneView::PaneView(QWidget* parent) : QWidget(parent), uninstallPanel_(new QDialog(this)) {
@@ -27,7 +34,9 @@ PaneView::PaneView(QWidget* parent) : QWidget(parent), uninstallPanel_(new QDial
     makeHeading(*frame.ProtectionHeading, 1.15);
     Ui::DevicesTab().setupUi(frame.DevicesTab);
     Ui::GeneralTab().setupUi(frame.GeneralTab);
-    Ui::AlertsTab().setupUi(frame.AlertsTab);
+    Ui::AlertsTab alerts;
+    alerts.setupUi(frame.AlertsTab);
+    keepRoomWhileHidden(*alerts.pushValidationStatus);
     Ui::ScriptsTab().setupUi(frame.ScriptsTab);
     Ui::AboutTab().setupUi(frame.AboutTab);
 
