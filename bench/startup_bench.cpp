@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <string>
 #include <thread>
@@ -116,12 +117,13 @@ double median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-long contextSwitches(const Process& process) {
-    long switches = 0;
+/// Context switches of each thread that lives now, by thread identifier.
+std::map<std::string, long> contextSwitches(const Process& process) {
+    std::map<std::string, long> switches;
     for (const auto& task : std::filesystem::directory_iterator(process.folder() + "/task")) {
         const std::string status = task.path() / "status";
-        switches += numberAfter(status, "voluntary_ctxt_switches:") +
-                    numberAfter(status, "nonvoluntary_ctxt_switches:");
+        switches[task.path().filename()] = numberAfter(status, "voluntary_ctxt_switches:") +
+                                           numberAfter(status, "nonvoluntary_ctxt_switches:");
     }
     return switches;
 }
@@ -131,9 +133,12 @@ double switchesPerPing(Display& display, const Command& command) {
     const Process process(command);
     display.waitForMappedWindow();
     std::this_thread::sleep_for(settleTime * 3);
-    const long before = contextSwitches(process);
+    auto before = contextSwitches(process);
     std::this_thread::sleep_for(std::chrono::seconds(pingPeriod * idlePings));
-    return static_cast<double>(contextSwitches(process) - before) / idlePings;
+    long switches = 0;
+    for (const auto& [thread, count] : contextSwitches(process))
+        switches += count - before[thread];
+    return static_cast<double>(switches) / idlePings;
 }
 
 void compare(const char* what, const char* unit, double pane, double bare, double allowed) {
