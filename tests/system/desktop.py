@@ -55,9 +55,17 @@ class Session:
                           XDG_CACHE_HOME=str(self.home / ".cache"),
                           XDG_DATA_HOME=str(self.home / ".local/share"))
         self.install_agent()
-        # Without a window manager no window has the keyboard.
+        # Without a window manager no window has the keyboard, and one that is mapped while the
+        # manager starts is managed by nobody.
         self.start("openbox", stderr=subprocess.DEVNULL)
+        wait_until(self.windows_are_managed, "the window manager is up")
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+
+    @staticmethod
+    def windows_are_managed():
+        check = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], text=True,
+                               capture_output=True, check=True)
+        return "window id" in check.stdout
 
     def close(self):
         for process in reversed(self.processes):
