@@ -120,7 +120,7 @@ Panes are looked for in
 
 Environment: ZARVIL_APPEARANCE is the same as --appearance.
 Exit status: 0 success, 64 wrong usage, 65 broken pane, 66 no pane found,
-69 no display.
+69 no display, or no answer from the window of an earlier start.
 )")
         .arg(folders.at(0), folders.at(1));
 }

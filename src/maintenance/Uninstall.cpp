@@ -14,6 +14,9 @@ void removeQuietly(FileManager& files, const std::string& path) {
 } // namespace
 
 void Zarvil_Preferences::unistallAction(Control* /*sender*/) {
+    // An assistive program can press the button behind the panel; one question is enough.
+    if (uninstallModal.isOnScreen())
+        return;
     // Only what the panel's content draws is to be seen.
     uninstallModal.setOpaque(false);
     uninstallModal.setBackgroundColor(color::clear);

@@ -59,6 +59,17 @@ int writeDirectly(const std::string& path, std::string_view text) {
     return failure;
 }
 
+/// 0 or the error number. Asked before a folder is emptied that could then not be removed itself.
+int refusalToRemove(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0)
+        return errno;
+    const std::string item = path.substr(0, path.find_last_not_of('/') + 1);
+    const auto parent = std::filesystem::path(item).parent_path();
+    const char* folder = parent.empty() ? "." : parent.c_str();
+    return ::faccessat(AT_FDCWD, folder, W_OK | X_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
 struct CloseDirectory {
     void operator()(DIR* directory) const { ::closedir(directory); }
 };
@@ -140,13 +151,9 @@ std::optional<Error> PosixFileManager::createDirectory(std::string_view path) {
 }
 
 std::optional<Error> PosixFileManager::removeItem(std::string_view path) {
-    std::error_code failure;
-    struct stat status {};
-    if (hasNul(path))
-        failure = {EINVAL, std::generic_category()};
-    else if (::lstat(std::string(path).c_str(), &status) != 0)
-        failure = {errno, std::generic_category()};
-    else
+    std::error_code failure(hasNul(path) ? EINVAL : refusalToRemove(std::string(path)),
+                            std::generic_category());
+    if (!failure)
         std::filesystem::remove_all(path, failure);
     if (!failure)
         return std::nullopt;

@@ -60,6 +60,8 @@ TEST_F(Uninstall, thePanelWaitsAndCancellingChangesNothing) {
         EXPECT_TRUE(pane.uninstallModal.isOnScreen());
         EXPECT_FALSE(pane.uninstallModal.isOpaque());
         EXPECT_EQ(pane.uninstallModal.backgroundColor(), color::clear);
+        // Pressed again behind the panel, it asks no second time.
+        pane.performAction("unistallAction:", &pane.uninstallButton);
         pane.performAction("uninstallSheetFinished:", nullptr);
     };
     for (int round = 0; round < 2; ++round) {

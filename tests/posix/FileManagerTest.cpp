@@ -171,6 +171,10 @@ TEST_F(FileManagerTest, removalTakesALinkItselfAndAFolderWithItsContents) {
 
 TEST_F(FileManagerTest, aReadOnlyFolderRefusesEveryChangeAndLosesNothing) {
     put(script("x"), "old");
+    fs::create_directory(script("folder"));
+    put(script("folder/kept"), "");
+    // Who may empty a folder but not remove it leaves it whole.
+    fs::permissions(script("folder"), fs::perms::all);
     ASSERT_EQ(::chmod(scripts().c_str(), 0555), 0);
     EXPECT_TRUE(holdsInChild([&] {
         if (!becomeOrdinaryUser())
@@ -182,10 +186,13 @@ TEST_F(FileManagerTest, aReadOnlyFolderRefusesEveryChangeAndLosesNothing) {
         return refused(files.writeText("new", script("x").string(), atomic)) &&
                refused(files.writeText("", script("y").string(), direct)) &&
                refused(files.removeItem(script("x").string())) &&
+               refused(files.removeItem(script("folder").string())) &&
+               refused(files.removeItem(script("folder").string() + "//")) &&
                refused(files.createDirectory(script("z").string()));
     }));
     EXPECT_EQ(get(script("x")), "old");
-    EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
+    EXPECT_THAT(namesIn(scripts()), UnorderedElementsAre("x", "folder"));
+    EXPECT_TRUE(fs::exists(script("folder/kept")));
     ::chmod(scripts().c_str(), 0755);
 }
 

@@ -21,6 +21,7 @@ AGENT_NAME = "com.Tessrow.Zarvil"
 HOST_NAME = "com.Tessrow.Preferences"
 PATH = "/com/Tessrow/Zarvil"
 BUILD = pathlib.Path(os.environ["ZARVIL_BUILD"])
+BUNDLE = BUILD / "bin/Zarvil Preferences.prefPane"
 PATIENCE = 60  # seconds, for a loaded machine under sanitizers
 
 
@@ -81,6 +82,23 @@ class Session:
     def install_agent(self):
         subprocess.run([BUILD / "../../tools/trial-root", self.root, BUILD], check=True)
 
+    def install_pane(self, folder=None):
+        """Copies the pane's bundle, by default to where the user's own panes are looked for."""
+        bundle = (folder or self.home / "Library/PreferencePanes") / BUNDLE.name
+        shutil.copytree(BUNDLE, bundle)
+        return bundle
+
+    def install_opener(self):
+        """Puts a program first in the path that records what it is to open, and opens nothing."""
+        record = self.folder / "opened"
+        record.touch()
+        opener = self.folder / "bin/xdg-open"
+        opener.parent.mkdir()
+        opener.write_text(f"#!/bin/sh\nprintf '%s\\n' \"$*\" >>'{record}'\n")
+        opener.chmod(0o755)
+        os.environ["PATH"] = f"{opener.parent}:{os.environ['PATH']}"
+        return record
+
     def start(self, *command, **options):
         process = subprocess.Popen([str(word) for word in command], text=True, **options)
         self.processes.append(process)
@@ -101,6 +119,10 @@ class Session:
     def tell(agent, command):
         agent.stdin.write(command + "\n")
         agent.stdin.flush()
+
+    @property
+    def agent_log(self):
+        return self.home / ".local/state/zarvil/agent.log"
 
     @property
     def settings_file(self):
@@ -142,9 +164,10 @@ class Session:
 
     # The pane.
 
-    def start_host(self, *options, bundle=None):
-        bundle = bundle or BUILD / "bin/Zarvil Preferences.prefPane"
-        host = self.start(BUILD / "bin/zarvil-preferences", "--root", self.root, bundle, *options,
+    def start_host(self, *panes, wrapper=()):
+        """With the pane of the build, or the given one; with `None` the host looks for panes."""
+        panes = [pane for pane in panes or (BUNDLE,) if pane]
+        host = self.start(*wrapper, BUILD / "bin/zarvil-preferences", "--root", self.root, *panes,
                           env=dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1"))
         wait_until(lambda: self.application(host.pid), "the window is on the accessibility bus")
         return host

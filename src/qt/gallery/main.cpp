@@ -47,12 +47,15 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: zarvil-controls-gallery OUTDIR\n"
-                             "Writes a picture of each control in its states to OUTDIR.\n");
-        return 2;
+    const QString argument = argc == 2 ? QString::fromLocal8Bit(argv[1]) : QString();
+    const bool wantsHelp = argument == QLatin1String("--help") || argument == QLatin1String("-h");
+    if (wantsHelp || argument.isEmpty() || argument.startsWith('-')) {
+        std::fprintf(wantsHelp ? stdout : stderr,
+                     "Usage: zarvil-controls-gallery OUTDIR\n"
+                     "Writes a picture of each control in its states to OUTDIR.\n");
+        return wantsHelp ? 0 : 2;
     }
-    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    const QDir folder(argument);
     if (!folder.mkpath(QStringLiteral("."))) {
         std::fprintf(stderr, "cannot make the folder %s\n", argv[1]);
         return 1;

@@ -26,9 +26,23 @@ void keepRoomWhileHidden(QWidget& widget) {
     widget.setSizePolicy(policy);
 }
 
+/// Starts every time with the keyboard at the harmless button, wherever it was left.
+class ConfirmationPanel final : public QDialog {
+public:
+    using QDialog::QDialog;
+
+protected:
+    void showEvent(QShowEvent* event) override {
+        if (auto* button = findChild<QPushButton*>("CancelUninstall"))
+            button->setFocus();
+        QDialog::showEvent(event);
+    }
+};
+
 } // namespace
 
-PaneView::PaneView(QWidget* parent) : QWidget(parent), uninstallPanel_(new QDialog(this)) {
+PaneView::PaneView(QWidget* parent)
+    : QWidget(parent), uninstallPanel_(new ConfirmationPanel(this)) {
     Ui::PaneView frame;
     frame.setupUi(this);
     makeHeading(*frame.ProtectionHeading, 1.15);
