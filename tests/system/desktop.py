@@ -11,6 +11,7 @@ import signal
 import subprocess
 import tempfile
 import time
+import unittest
 
 import gi
 
@@ -109,11 +110,17 @@ class Session:
     def start_agent(self, *options):
         devices = self.folder / "devices.json"
         if not devices.exists():
-            devices.write_text("[]")
+            self.set_devices()
         agent = self.start(BUILD / "bin/zarvil-agent", "--root", self.root, "--devices", devices,
                            *options, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         wait_until(lambda: self.owner(AGENT_NAME), "the agent owns its name")
         return agent
+
+    def set_devices(self, *texts):
+        """What is connected when an agent starts, each as NAME|VENDOR|SERIAL."""
+        keys = ("DeviceName", "DeviceVendor", "DeviceSerial")
+        records = [dict(zip(keys, text.split("|"))) for text in texts]
+        (self.folder / "devices.json").write_text(json.dumps(records))
 
     @staticmethod
     def tell(agent, command):
@@ -236,21 +243,61 @@ class Pane:
         wait_until(lambda: self.enabled(name), f"{name!r} can be pressed")
         assert node.get_action_iface().do_action(0)
 
+    @staticmethod
+    def strike(*keys):
+        """Strikes keys, by their X names, in the widget that has the keyboard."""
+        subprocess.run(["xdotool", "key", *keys], check=True)
+
     def enter(self, name, text):
         """Replaces a field's text by typing on the keyboard and ends the edit with Return."""
+        self.type(name, text)
+        self.strike("Return")
+
+    def type(self, name, text):
+        """Replaces a field's text by typing on the keyboard."""
         field = self.get(name, "text")
         wait_until(lambda: self.enabled(name), f"{name!r} can be edited")
         field.get_component_iface().grab_focus()
         wait_until(lambda: self.has(name, Atspi.StateType.FOCUSED, "text"), f"{name!r} has focus")
-        subprocess.run(["xdotool", "key", "ctrl+a", "key", "BackSpace"], check=True)
+        self.strike("ctrl+a", "BackSpace")
         if text:
             subprocess.run(["xdotool", "type", "--delay", "20", "--", text], check=True)
         wait_until(lambda: self.text(name) == text, f"{text!r} is typed")
-        subprocess.run(["xdotool", "key", "Return"], check=True)
 
     def text(self, name):
         field = self.find(name, "text")
         return field and field.get_text_iface().get_text(0, -1)
+
+    def shown_things(self):
+        for node in descendants(self.session.application(self.pid)):
+            if node.get_state_set().contains(Atspi.StateType.SHOWING):
+                yield node
+
+    def rows(self, name):
+        """The rows of a list by name, each with whether it is ticked."""
+        return [(row.get_name(), row.get_state_set().contains(Atspi.StateType.CHECKED))
+                for row in descendants(self.find(name, "list"))]
+
+    def alert(self):
+        """The text of the alert on the screen, if there is one."""
+        for node in self.shown_things():
+            if node.get_role_name() == "alert":
+                return next(part.get_name() for part in descendants(node)
+                            if part.get_role_name() == "label" and part.get_name())
+        return None
+
+    def dismiss_alert(self):
+        self.press("OK", "push button")
+        wait_until(lambda: self.alert() is None, "the alert is gone")
+
+    def pixels(self, name):
+        """The colours that a thing has on the screen, as red, green and blue of 0 to 255."""
+        area = self.get(name).get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        picture = subprocess.run(
+            ["import", "-silent", "-window", "root", "-crop",
+             f"{area.width}x{area.height}+{area.x}+{area.y}", "-depth", "8", "rgb:-"],
+            check=True, stdout=subprocess.PIPE).stdout
+        return set(zip(picture[0::3], picture[1::3], picture[2::3]))
 
     def choose_tab(self, name):
         """Presses a tab and waits until its page shows."""
@@ -265,3 +312,26 @@ class Pane:
         pages = next(node for node in descendants(application)
                      if node.get_role_name() == "layered pane")
         return pages.get_child_at_index(index).get_state_set().contains(Atspi.StateType.SHOWING)
+
+
+class SystemTest(unittest.TestCase):
+    """A test with a session of its own; `start` brings up the agent and the window."""
+
+    def setUp(self):
+        self.session = Session()
+        self.addCleanup(self.session.close)
+
+    def start(self, *agent_options):
+        self.agent = self.session.start_agent(*agent_options)
+        self.start_host()
+
+    def start_host(self):
+        self.host = self.session.start_host()
+        self.pane = Pane(self.session, self.host.pid)
+
+    def end(self, process):
+        process.terminate()
+        process.wait(PATIENCE)
+
+    def tell(self, command):
+        self.session.tell(self.agent, command)

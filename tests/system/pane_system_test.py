@@ -5,26 +5,8 @@ import signal
 import unittest
 
 import desktop
-from desktop import AGENT_NAME, HOST_NAME, Pane, Session, wait_until
+from desktop import AGENT_NAME, HOST_NAME, SystemTest, wait_until
 from gi.repository import GLib
-
-
-class SystemTest(unittest.TestCase):
-    def setUp(self):
-        self.session = Session()
-        self.addCleanup(self.session.close)
-
-    def start(self, *agent_options):
-        self.agent = self.session.start_agent(*agent_options)
-        self.start_host()
-
-    def start_host(self):
-        self.host = self.session.start_host()
-        self.pane = Pane(self.session, self.host.pid)
-
-    def end(self, process):
-        process.terminate()
-        process.wait(desktop.PATIENCE)
 
 
 class Settings(SystemTest):

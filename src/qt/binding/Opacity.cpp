@@ -1,8 +1,13 @@
 #include "qt/binding/Opacity.h"
 
+#include <QEvent>
 #include <QGraphicsOpacityEffect>
+#include <QPainter>
+#include <QPointer>
 #include <QVariantAnimation>
 #include <QWidget>
+
+#include <vector>
 
 namespace zarvil::qt {
 
@@ -10,6 +15,59 @@ namespace {
 
 constexpr int fadeDuration = 250; // milliseconds, the original animator's default
 constexpr auto fadeName = "Fade";
+constexpr auto glassName = "Glass";
+
+/// Makes a widget and what is in it let shine through what is behind, for as long as this lives.
+/// Behind a descendant that says that it is opaque, as the sheet of a list does, nothing is drawn
+/// anew, whatever the effect on its ancestor: former pictures would show through.
+class Glass final : public QObject {
+public:
+    explicit Glass(QWidget& widget) : QObject(&widget) {
+        setObjectName(glassName);
+        for (QWidget* pane : widget.findChildren<QWidget*>()) {
+            if (pane->autoFillBackground()) {
+                pane->setAutoFillBackground(false);
+                pane->installEventFilter(this);
+                filled_.emplace_back(pane);
+            }
+            if (pane->testAttribute(Qt::WA_OpaquePaintEvent)) {
+                pane->setAttribute(Qt::WA_OpaquePaintEvent, false);
+                painted_.emplace_back(pane);
+            }
+        }
+    }
+
+    ~Glass() override {
+        for (const auto& pane : filled_) {
+            if (pane)
+                pane->setAutoFillBackground(true);
+        }
+        for (const auto& pane : painted_) {
+            if (pane)
+                pane->setAttribute(Qt::WA_OpaquePaintEvent);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            auto& pane = *static_cast<QWidget*>(watched);
+            QPainter(&pane).fillRect(pane.rect(), pane.palette().brush(pane.backgroundRole()));
+        }
+        return false;
+    }
+
+private:
+    std::vector<QPointer<QWidget>> filled_;
+    std::vector<QPointer<QWidget>> painted_;
+};
+
+void showThrough(QWidget& widget, bool through) {
+    auto* glass = widget.findChild<QObject*>(glassName, Qt::FindDirectChildrenOnly);
+    if (!through)
+        delete glass;
+    else if (!glass)
+        new Glass(widget);
+}
 
 /// The effect is made when it is first needed and idle at full opacity, where it would only cost.
 void applyOpacity(QWidget& widget, double opacity) {
@@ -20,6 +78,7 @@ void applyOpacity(QWidget& widget, double opacity) {
         effect = new QGraphicsOpacityEffect(&widget);
         widget.setGraphicsEffect(effect);
     }
+    showThrough(widget, opacity < 1);
     effect->setOpacity(opacity);
     effect->setEnabled(opacity < 1);
 }

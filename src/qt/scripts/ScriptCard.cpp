@@ -66,6 +66,8 @@ ScriptCard::ScriptCard(QWidget* parent)
       remove_(addButton(tr("Remove"), tr("Delete this script and its file at once. This cannot be "
                                          "undone."))) {
     setMinimumSize(minimumCardSize());
+    // Not that of the sheet and of the edit fields, which stand out against it.
+    setBackgroundRole(QPalette::Window);
     for (QLabel* label : {title_, text_})
         label->setTextFormat(Qt::PlainText);
     text_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -137,7 +139,7 @@ void ScriptCard::showText(std::string_view text) {
     QStringList lines = firstLines(text, std::max(1, text_->height() / metrics.lineSpacing()));
     for (QString& line : lines)
         line = metrics.elidedText(line, Qt::ElideRight, text_->width());
-    text_->setForegroundRole(text.empty() ? QPalette::PlaceholderText : QPalette::Text);
+    text_->setForegroundRole(text.empty() ? QPalette::PlaceholderText : QPalette::WindowText);
     text_->setText(text.empty() ? tr("This script is empty.") : lines.join(u'\n'));
 }
 
@@ -218,7 +220,7 @@ void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(QPalette::Base));
+    painter.setBrush(palette().color(backgroundRole()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
                             cornerRadius);
 }

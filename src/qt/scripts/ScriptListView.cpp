@@ -28,7 +28,6 @@ ScriptListView::ScriptListView(QWidget* parent)
     : QAbstractScrollArea(parent), emptyState_(new QLabel(viewport())) {
     setAccessibleName(tr("Scripts"));
     setFocusPolicy(Qt::StrongFocus);
-    viewport()->setBackgroundRole(QPalette::Window);
     emptyState_->setAlignment(Qt::AlignCenter);
     emptyState_->setWordWrap(true);
     emptyState_->setForegroundRole(QPalette::PlaceholderText);
@@ -123,10 +122,17 @@ void ScriptListView::updateScrollBars() {
         0, rowCount_ == 0 ? 0 : std::max(0, contentWidth() - sight.width()));
 }
 
+void ScriptListView::setSwitchedOn(bool on) {
+    switchedOn_ = on;
+    updateEmptyState();
+}
+
 void ScriptListView::updateEmptyState() {
     const bool dimmed = model_ && model_->alphaValue() < alpha::active;
-    emptyState_->setText(dimmed ? tr("Your scripts are listed here while scripts are switched on.")
-                                : tr("No scripts yet. Type a title and create your first one."));
+    emptyState_->setText(
+        switchedOn_ && !dimmed
+            ? tr("No scripts yet. Type a title and create your first one.")
+            : tr("Your scripts are listed here while Zarvil runs and scripts are switched on."));
     emptyState_->setVisible(rowCount_ == 0);
     emptyState_->setGeometry(viewport()->rect().adjusted(spacing, spacing, -spacing, -spacing));
 }

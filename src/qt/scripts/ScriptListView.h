@@ -30,6 +30,8 @@ public:
     void setModel(CollectionView& model);
     [[nodiscard]] int rowCount() const { return rowCount_; }
     void scrollToRow(int row);
+    /// Whether scripts are in use; only then does an empty list mean that there are none.
+    Q_SLOT void setSwitchedOn(bool on);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -58,6 +60,7 @@ private:
     void makeSpare(ScriptCard* card);
 
     CollectionView* model_ = nullptr;
+    bool switchedOn_ = false;
     int rowCount_ = 0;
     int addedSinceLayout_ = 0;
     std::map<int, ScriptCard*> cards_; ///< by row

@@ -1,0 +1,146 @@
+"""Scripts in a real window, with their files in a real folder."""
+
+import random
+import time
+import unittest
+
+from desktop import SystemTest, wait_until
+
+SWITCH = "Run these scripts when the power fails"
+NEW, CREATE = "Title of the new script", "Create"
+TITLE, TEXT = "Title of the script", "Text of the script"
+
+
+class Scripts(SystemTest):
+    def setUp(self):
+        super().setUp()
+        self.folder = self.session.home / "Library/Zarvil Scripts"
+
+    def start(self):
+        super().start()
+        self.show_scripts()
+
+    def show_scripts(self):
+        wait_until(lambda: self.pane.showing("Zarvil is running"), "the pane is alive")
+        self.pane.choose_tab("Scripts")
+
+    def restart_host(self):
+        self.start_host()
+        self.show_scripts()
+
+    def switch(self, on):
+        self.pane.press(SWITCH, "check box")
+        wait_until(lambda: self.session.stored("UseScripts") == on, "the switch is stored")
+
+    def files(self):
+        """Everything in the folder, hidden or not, with its bytes."""
+        return {file.name: file.read_bytes() for file in self.folder.iterdir()}
+
+    def put(self, title, text):
+        self.folder.mkdir(parents=True, exist_ok=True)
+        (self.folder / f"{title}.zvscript").write_bytes(text.encode())
+
+    def titles(self):
+        buttons = (node for node in self.pane.shown_things() if node.get_role_name() == "push button")
+        return {button.get_name().removeprefix("Edit “").removesuffix("”")
+                for button in buttons if button.get_name().startswith("Edit “")}
+
+    def expect_alert(self, words):
+        text = wait_until(self.pane.alert, f"an alert says {words}")
+        self.assertIn(words, text)
+        self.pane.dismiss_alert()
+
+    def run_and_expect_alert(self, title, words):
+        self.pane.press(f"Run “{title}”")
+        self.expect_alert(words)
+
+    def change(self, title, new_title, text):
+        """Edits a script in place, and leaves the fields open."""
+        self.pane.press(f"Edit “{title}”")
+        self.pane.type(TEXT, text)
+        self.pane.type(TITLE, new_title)
+
+    def test_a_script_is_created_edited_run_and_removed(self):
+        self.start()
+        self.assertFalse(self.pane.enabled(NEW))
+        self.switch(True)
+        wait_until(self.folder.is_dir, "the folder is there")
+        self.assertFalse(self.pane.enabled(CREATE))
+        self.pane.type(NEW, "x.y")
+        self.pane.press(CREATE, "push button")
+        wait_until(lambda: self.titles() == {"x.y"}, "it is listed")
+        self.assertEqual(self.files(), {"x.y.zvscript": b""})
+        self.assertEqual(self.pane.text(NEW), "")
+        self.assertFalse(self.pane.enabled(CREATE))
+        self.run_and_expect_alert("x.y", "Can't execute empty script!")
+
+        failing = "echo out\necho first >&2\necho the last word >&2\nexit 3"
+        self.change("x.y", "other title", failing)
+        self.assertEqual(self.files(), {"x.y.zvscript": b""})
+        self.pane.press("Save “x.y”")
+        wait_until(lambda: self.titles() == {"other title"}, "it is renamed")
+        self.assertEqual(self.files(), {"other title.zvscript": failing.encode()})
+        self.run_and_expect_alert("other title", "the last word")
+
+        # Running ends the edit, and what was just typed is what runs.
+        mark = self.session.folder / "mark"
+        good = f"echo ran >{mark}"
+        self.change("other title", "other title", good)
+        self.pane.press("Run “other title”")
+        wait_until(mark.exists, "it ran")
+        wait_until(lambda: self.titles() == {"other title"}, "the window goes on")
+        self.assertIsNone(self.pane.alert())
+        self.assertEqual(self.files(), {"other title.zvscript": good.encode()})
+
+        self.pane.press("Remove “other title”")
+        wait_until(lambda: not self.titles(), "it is gone from the list")
+        self.assertEqual(self.files(), {})
+        self.assertIsNone(self.pane.alert())
+
+    def test_scripts_are_there_again_after_a_restart_and_a_switch(self):
+        for title in ("a", "ü and 漢字"):
+            self.put(title, f"echo {title}\n")
+        before = self.files()
+        self.start()
+        self.switch(True)
+        both = {"a", "ü and 漢字"}
+        wait_until(lambda: self.titles() == both, "they are listed")
+        self.pane.type(NEW, "a")
+        self.assertFalse(self.pane.enabled(CREATE))
+        self.end(self.host)
+        self.restart_host()
+        wait_until(lambda: self.titles() == both, "they are listed again")
+        self.switch(False)
+        wait_until(lambda: not self.titles(), "the list is empty")
+        self.assertEqual(self.files(), before)
+        self.switch(True)
+        wait_until(lambda: self.titles() == both, "they are listed once more")
+
+    def test_a_host_killed_while_it_saves_leaves_whole_files(self):
+        old, added = "#" + "o" * 400_000, "n"
+        self.put("big", old)
+        self.start()
+        self.switch(True)
+        # A button acts a tenth of a second after an assistive program has pressed it.
+        for delay in random.Random(5).choices(range(80, 140, 2), k=6):
+            self.pane.press("Edit “big”")
+            field = self.pane.get(TEXT, "text")
+            field.get_component_iface().grab_focus()
+            self.pane.strike("ctrl+Home", added)
+            self.pane.press("Save “big”")
+            time.sleep(delay / 1000)  # not a wait: the moment of the kill
+            self.host.kill()
+            self.host.wait()
+            visible = {name: content.decode() for name, content in self.files().items()
+                       if not name.startswith(".")}
+            self.assertLessEqual(set(visible), {"big.zvscript"})
+            # The old file goes before the new one comes, so there may be none.
+            for content in visible.values():
+                self.assertIn(content, (old, added + old))
+            self.put("big", old)
+            self.restart_host()
+            wait_until(lambda: self.titles() == {"big"}, "the window is back")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
