@@ -6,6 +6,7 @@
 #include "qt/adapters/BusProbe.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -174,6 +175,9 @@ int runHost(int argc, char** argv) {
         logFailure(QStringLiteral("There is no display to show a window on."));
         return exitCode::unavailable;
     }
+    // Panes keep files under it and count on it, though nothing else here makes it. Without it a
+    // pane tells of the failure itself.
+    QDir::home().mkpath(QStringLiteral("Library"));
     return runOnDisplay(commandLine, argv);
 }
 

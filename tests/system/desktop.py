@@ -260,8 +260,12 @@ class Pane:
         field.get_component_iface().grab_focus()
         wait_until(lambda: self.has(name, Atspi.StateType.FOCUSED, "text"), f"{name!r} has focus")
         self.strike("ctrl+a", "BackSpace")
-        if text:
-            subprocess.run(["xdotool", "type", "--delay", "20", "--", text], check=True)
+        for number, line in enumerate(text.split("\n")):
+            # Typed as a character, a line feed is a key that fields ignore.
+            if number:
+                self.strike("Return")
+            if line:
+                subprocess.run(["xdotool", "type", "--delay", "20", "--", line], check=True)
         wait_until(lambda: self.text(name) == text, f"{text!r} is typed")
 
     def text(self, name):

@@ -216,6 +216,8 @@ TEST_F(ScriptListViewTest, anEmptyListSaysWhy) {
     show();
     const auto* hint = view.viewport()->findChild<QLabel*>();
     EXPECT_TRUE(hint->isVisible());
+    EXPECT_TRUE(hint->text().contains("switched on"));
+    view.setSwitchedOn(true);
     EXPECT_TRUE(hint->text().startsWith("No scripts yet."));
     pane.scriptsCollection.setAlphaValue(alpha::dimmed);
     EXPECT_TRUE(hint->text().contains("switched on"));
