@@ -106,6 +106,8 @@ bool Zarvil_Preferences::staysConnected(const Dictionary& device) const {
 }
 
 void Zarvil_Preferences::stateDidChange(ZVCollectionItem& item) {
+    // A copy, for the item goes with its row in the course of this.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const Record record = item.representedObject();
     if (!record)
         return;
