@@ -26,22 +26,35 @@ void DeviceListView::setModel(zarvil::CollectionView& view) {
     connect(devices, &QAbstractItemModel::rowsInserted, this, refresh);
     connect(devices, &QAbstractItemModel::rowsRemoved, this, refresh);
     connect(devices, &QAbstractItemModel::modelReset, this, refresh);
+    dimming_ = view.alphaProperty().observe([this](double opacity, Transition) {
+        dimmed_ = opacity < alpha::active;
+        showWhetherEmpty();
+    });
     showWhetherEmpty();
 }
 
 void DeviceListView::setEmptyText(const QString& text) {
     emptyText_ = text;
-    shownAsEmpty_ = false;
     showWhetherEmpty();
+}
+
+void DeviceListView::setUnknownText(const QString& text) {
+    unknownText_ = text;
+    showWhetherEmpty();
+}
+
+QString DeviceListView::placeholder() const {
+    if (!isEmpty())
+        return {};
+    return dimmed_ ? unknownText_ : emptyText_;
 }
 
 bool DeviceListView::isEmpty() const { return !model() || model()->rowCount() == 0; }
 
 void DeviceListView::showWhetherEmpty() {
-    if (isEmpty() == shownAsEmpty_)
+    if (accessibleDescription() == placeholder())
         return;
-    shownAsEmpty_ = isEmpty();
-    setAccessibleDescription(shownAsEmpty_ ? emptyText_ : QString());
+    setAccessibleDescription(placeholder());
     viewport()->update();
 }
 
@@ -60,7 +73,7 @@ void DeviceListView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
+                     Qt::AlignCenter | Qt::TextWordWrap, placeholder());
 }
 
 } // namespace zarvil::qt

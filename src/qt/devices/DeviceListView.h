@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/Subscription.h"
+
 #include <QListView>
 
 namespace zarvil {
@@ -15,6 +17,7 @@ class DeviceListModel;
 class DeviceListView final : public QListView {
     Q_OBJECT
     Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+    Q_PROPERTY(QString unknownText READ unknownText WRITE setUnknownText)
 
 public:
     explicit DeviceListView(QWidget* parent = nullptr);
@@ -25,6 +28,9 @@ public:
     /// What stands in a list without devices; tells the user what to do.
     [[nodiscard]] QString emptyText() const { return emptyText_; }
     void setEmptyText(const QString& text);
+    /// The same while the list is dimmed: then nobody tells which devices there are.
+    [[nodiscard]] QString unknownText() const { return unknownText_; }
+    void setUnknownText(const QString& text);
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
@@ -35,9 +41,13 @@ private:
 
     void showWhetherEmpty();
     [[nodiscard]] bool isEmpty() const;
+    /// What stands in place of devices; empty when there are some.
+    [[nodiscard]] QString placeholder() const;
 
     QString emptyText_;
-    bool shownAsEmpty_ = false;
+    QString unknownText_;
+    bool dimmed_ = false;
+    Subscription dimming_;
 };
 
 } // namespace zarvil::qt

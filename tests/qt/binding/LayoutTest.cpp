@@ -198,6 +198,16 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
     EXPECT_EQ(widget<LockWidget>("authView").reason(), "polkit is not there.");
 }
 
+TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
+    load();
+    const auto& list = widget<QWidget>("connectedDevices");
+    EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
+    agentSends(Message(message::pingAnswer));
+    EXPECT_TRUE(list.accessibleDescription().contains("No power devices"));
+    pane.appDidNotAnswer();
+    EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
+}
+
 TEST_F(Layout, theConfirmationPanelFollowsItsModel) {
     load();
     auto& panel = widget<QDialog>("uninstallModal");
