@@ -30,7 +30,7 @@ std::string attribute(udev_device* device, const char* name) {
     return value ? QString::fromUtf8(value).trimmed().toStdString() : std::string();
 }
 
-std::string orElse(std::string text, std::string_view fallback) {
+std::string orElse(const std::string& text, std::string_view fallback) {
     return text.empty() ? std::string(fallback) : text;
 }
 

@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <unistd.h>
 
@@ -20,10 +22,9 @@ bool hasScreenOfUser() {
 } // namespace
 
 bool hasDisplay() {
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        if (!qEnvironmentVariableIsEmpty(name))
-            return true;
-    return false;
+    constexpr std::array names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::ranges::any_of(names,
+                               [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
 }
 
 void logFailure(const QString& message) {
