@@ -99,7 +99,8 @@ void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
                                : palette().color(QPalette::Disabled, QPalette::WindowText));
     const TextAlignment alignment = look.alignment.value_or(TextAlignment::Left);
     painter.drawText(rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin),
-                     toQt(alignment) | Qt::AlignVCenter | Qt::TextSingleLine, text());
+                     static_cast<int>(toQt(alignment) | Qt::AlignVCenter) | Qt::TextSingleLine,
+                     text());
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
