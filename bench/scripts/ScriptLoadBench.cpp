@@ -1,7 +1,5 @@
-#include "Fakes.h"
-#include "pane/Zarvil_Preferences.h"
+#include "PaneOnFakes.h"
 #include "posix/PosixFileManager.h"
-#include "protocol/InProcessMessageCenter.h"
 
 #include <algorithm>
 #include <chrono>
@@ -67,23 +65,10 @@ double leastSeconds(Zarvil_Preferences& pane) {
 void measure(std::size_t count) {
     const TemporaryHome home;
     posix::PosixFileManager files(home.path());
-    InProcessMessageCenter bus;
-    fake::VirtualTime time;
-    fake::Workspace workspace;
-    fake::UserDefaults defaults;
-    fake::ErrorPresenter errors;
-    fake::ScriptRunner scripts;
-    fake::Authorization authorization;
-    fake::StringTable strings;
-    fake::MouseParameters mouse;
-    fake::ModalLoop modal;
-    fake::ProcessControl processes;
-    Platform platform{bus,     time,          time,    workspace, files, defaults,  errors,
-                      scripts, authorization, strings, mouse,     modal, processes, ""};
-    Zarvil_Preferences pane(platform);
+    PaneOnFakes fakes(&files);
     fill(files, count);
-    const double seconds = leastSeconds(pane);
-    const std::size_t loaded = pane.scriptsArrayController.arrangedObjects().size();
+    const double seconds = leastSeconds(fakes.pane);
+    const std::size_t loaded = fakes.pane.scriptsArrayController.arrangedObjects().size();
     std::printf("%6zu scripts of %zu bytes: %8.2f ms, %6.2f us per script\n", loaded, scriptSize,
                 seconds * 1e3, seconds * 1e6 / static_cast<double>(count));
 }

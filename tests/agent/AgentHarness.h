@@ -29,9 +29,8 @@ protected:
 
     void start() {
         settings = std::make_unique<AgentSettings>(settingsFile(), log);
-        agent = std::make_unique<Agent>(Agent::Parts{
-            bus, *settings, log, [this](const QString& path) { opened.push_back(path); },
-            [this] { ++quits; }});
+        agent = std::make_unique<Agent>(
+            Agent::Parts{bus, *settings, log, [](const QString&) {}, [this] { ++quits; }});
     }
     void restart() {
         agent.reset();
@@ -76,7 +75,6 @@ protected:
     std::unique_ptr<AgentSettings> settings;
     std::unique_ptr<Agent> agent;
     std::vector<Message> sent;
-    std::vector<QString> opened;
     int quits = 0;
 
 private:

@@ -67,39 +67,15 @@ TEST_F(AgentAnswers, savedDevicesKeepEveryKeyOverARestart) {
     EXPECT_TRUE(reportedDevices(message::allSavedDevices).empty());
 }
 
-TEST_F(AgentAnswers, aRecordWithoutItsKeysIsForgottenByItsContents) {
-    const Dictionary odd{{"Colour", "red"}};
-    const Dictionary other{{"Colour", "blue"}};
-    for (const Dictionary& device : {odd, other})
-        answersTo({message::addedSaveItem, Dictionary{{"device", device}}});
-    answersTo({message::saveItemRemoved, Dictionary{{"device", other}}});
-    EXPECT_EQ(reportedDevices(message::allSavedDevices), Array{odd});
-}
-
-TEST_F(AgentAnswers, oneOfTwoEqualDevicesGoes) {
-    const Dictionary device = deviceRecord("UPS", "Maker", "");
-    EXPECT_EQ(*device.stringForKey("DeviceSerial"), "N/A");
-    agent->deviceAppeared(device);
-    agent->deviceAppeared(device);
-    EXPECT_TRUE(agent->deviceWent(device));
-    EXPECT_EQ(reportedDevices(message::allConnectedDevices).size(), 1U);
-    EXPECT_TRUE(agent->deviceWent(device));
-    EXPECT_FALSE(agent->deviceWent(device));
-}
-
 TEST_F(AgentAnswers, judgesAPushoverCheckByFormOrAsTold) {
     const std::string user(30, 'a');
     const std::vector<std::pair<Dictionary, int>> cases{
         {{{"userId", user}}, 0},
         {{{"userId", user}, {"deviceId", "my_phone-2"}}, 0},
-        {{{"userId", user}, {"deviceId", std::string(25, 'x')}}, 0},
         {{{"userId", user}, {"deviceId", std::string(26, 'x')}}, 2},
-        {{{"userId", user}, {"deviceId", ""}}, 2},
         {{{"userId", user}, {"deviceId", "my phone"}}, 2},
-        {{{"userId", user}, {"deviceId", 5}}, 2},
         {{{"userId", user + "a"}}, 2},
         {{{"userId", user.substr(1)}}, 2},
-        {{{"userId", user.substr(2) + "é"}}, 2},
         {{{"userId", 7}}, 2},
         {{}, 2},
     };
@@ -122,15 +98,6 @@ TEST_F(AgentAnswers, lateAnswersKeepTheirOrderWhenTheLatenessChanges) {
         return sent.size() >= 2;
     }));
     EXPECT_EQ(namesOf(sent), (std::vector<std::string>{"ZVPingTest", "ZVPushValidationFinished"}));
-}
-
-TEST_F(AgentAnswers, showsItsLogNotesTheUpdateCheckAndQuits) {
-    answersTo(message::checkForUpdates);
-    EXPECT_TRUE(logText().contains("updates"));
-    answersTo(message::viewLog);
-    EXPECT_EQ(opened, std::vector{log.path()});
-    answersTo(message::quit);
-    EXPECT_EQ(quits, 1);
 }
 
 TEST_F(AgentAnswers, aLineBreakInANameMakesNoLineOfTheLog) {

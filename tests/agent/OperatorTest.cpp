@@ -19,13 +19,10 @@ TEST_F(Operator, commandsSendTheirMessages) {
         {"plug A||", Message(message::deviceConnected, deviceRecord("A", "", "N/A"))},
         {"save UPS 1|Maker|s 1", Message(message::newSavedDevice, Dictionary{{"device", ups}})},
         {"state on", Message(message::stateChanged, Dictionary{{"state", true}})},
-        {"state off", Message(message::stateChanged, Dictionary{{"state", false}})},
         {"quitprefs", Message(message::quitPrefs)},
         {"mute on", std::nullopt},
         {"push -1", std::nullopt},
-        {"push auto", std::nullopt},
         {"late 5", std::nullopt},
-        {"late 0", std::nullopt},
     };
     for (const Case& one : cases) {
         sent.clear();

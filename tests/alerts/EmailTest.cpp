@@ -16,30 +16,13 @@ TEST_F(Email, anAddressIsSentExactlyWhenItPassesTheRule) {
         bool sent;
     };
     const std::vector<Case> cases{
-        {"user@host.com", true},
-        {"USER@HOST.COM", true},
-        {"first.last+tag%x_y-z@mail.sub-1.example.org", true},
-        {"a@b.museum", false},
-        {"a@b.info", true},
-        {"a@b.c", false},
-        {"a@b.co1", false},
-        {"a@b", false},
-        {"a.b@c", false},
-        {"@b.com", false},
-        {"a@.com", false},
-        {"a@..com", true},
-        {"a@-.com", true},
-        {"a@@b.com", false},
-        {"a@b@c.com", false},
-        {"a@b.com\n", false},
-        {"a@b.com ", false},
-        {" a@b.com", false},
-        {" ", false},
-        {"  ", false},
-        {"", false},
-        {"ä@b.com", false},
-        {"a@b.çom", false},
-        {std::string("a\0@b.com", 8), false},
+        {"USER@HOST.COM", true}, {"first.last+tag%x_y-z@mail.sub-1.example.org", true},
+        {"a@b.museum", false},   {"a@b.c", false},
+        {"a@b", false},          {"@b.com", false},
+        {"a@.com", false},       {"a@..com", true},
+        {"a@@b.com", false},     {"a@b.com\n", false},
+        {" a@b.com", false},     {"", false},
+        {"ä@b.com", false},      {std::string("a\0@b.com", 8), false},
     };
     for (const Case& one : cases) {
         SCOPED_TRACE(one.address);
@@ -83,15 +66,6 @@ TEST_F(Email, anAddressOfTenMegabytesIsJudgedLikeAShortOne) {
     EXPECT_FALSE(Zarvil_Preferences::validEmail("a@" + dots));
     EXPECT_FALSE(Zarvil_Preferences::validEmail("a@b." + std::string(size, 'c')));
     EXPECT_FALSE(Zarvil_Preferences::validEmail(std::string(size, '@')));
-}
-
-TEST_F(Email, theSwitchIsSentWhateverTheAddressHolds) {
-    loadWithAgent();
-    pane.sendEmail.setAction("useEmailNotifications:");
-    pane.sendEmail.performClick();
-    pane.sendEmail.performClick();
-    EXPECT_EQ(takeSent(), (std::vector<Message>{settingChange("UseEmailNotifi", true),
-                                                settingChange("UseEmailNotifi", false)}));
 }
 
 TEST_F(Email, savedSettingsTouchTheSwitchOnlyTogetherWithAnAddress) {

@@ -58,10 +58,15 @@ TEST_F(SwitchDrawing, drawsTheStepsInOrderWithTheirSinglePrecisionColors) {
                             "restore", "end layer"));
 }
 
-TEST_F(SwitchDrawing, drawsNeitherBackgroundNorTitlesNorWashUnlessAsked) {
+TEST_F(SwitchDrawing, drawsNoImagesAndOthersOnlyWhenAsked) {
     cell.setOnTitle("Min");
     cell.setOffTitle("Sec");
+    fake::ImageRenderer renderer;
+    cell.setOnImage(renderer.render({8, 8}, [](Canvas&) {}));
+    cell.setOffImage(renderer.render({9, 9}, [](Canvas&) {}));
     drawn();
+    EXPECT_TRUE(canvas.lines("image").empty());
+    EXPECT_EQ(cell.onImage()->size(), (Size{8, 8}));
     EXPECT_THAT(canvas.lines("fill"), ElementsAre("fill oval(2, 2, 22, 22) 1/1"));
     EXPECT_TRUE(canvas.lines("text").empty());
     EXPECT_TRUE(canvas.lines("blend").empty());
@@ -132,17 +137,6 @@ TEST_F(SwitchDrawing, writesTitlesInTheirColorBeforeTheShadowComesBack) {
     EXPECT_THAT(canvas.lines("text").front(), HasSubstr(" 1,0.5,0/1"));
     const auto at = std::ranges::find(log, canvas.lines("text").front());
     EXPECT_EQ(*std::next(at), glow);
-}
-
-TEST_F(SwitchDrawing, keepsItsImagesAndNeverDrawsThem) {
-    fake::ImageRenderer renderer;
-    cell.setOnImage(renderer.render({8, 8}, [](Canvas&) {}));
-    cell.setOffImage(renderer.render({9, 9}, [](Canvas&) {}));
-    cell.setShowStateExtras(true);
-    drawn();
-    EXPECT_TRUE(canvas.lines("image").empty());
-    EXPECT_EQ(cell.onImage()->size(), (Size{8, 8}));
-    EXPECT_EQ(cell.offImage()->size(), (Size{9, 9}));
 }
 
 TEST_F(SwitchDrawing, computesTinyFramesWithoutAGuard) {

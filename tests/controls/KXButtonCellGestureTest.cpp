@@ -58,10 +58,7 @@ TEST_F(SwitchGesture, endsInTheStateThatTheGestureTells) {
         {"fast flick to lower y over any distance", {40, 13}, {40, -300}, 0.1, std::nullopt},
         {"fast flick to the right", {10, 13}, {40, 13}, 0.1, 1},
         {"travel of just the bias is a drag", {10, 13}, {16, 13}, 0.1, 0},
-        {"travel of just the bias in y is a drag", {10, 13}, {10, 19}, 0.1, 0},
         {"slow press at the left", {10, 13}, {10, 13}, 1, 0},
-        {"slow press at the right", {40, 13}, {40, 13}, 1, 1},
-        {"slow drag to the left", {50, 13}, {5, 13}, 1, 0},
         {"released far outside", {10, 13}, {900, -400}, 1, 1},
         // 18 + (26 - 2) / 2 is the middle of 60.
         {"released exactly in the middle", {50, 13}, {18, 13}, 1, std::nullopt},
@@ -144,15 +141,6 @@ TEST_F(SwitchGesture, redrawsAtOnceWhereTheControlViewCan) {
     EXPECT_EQ(redrawn, 2);
     loop.release({500, -90});
     EXPECT_EQ(redrawn, 2);
-
-    View plain;
-    plain.setFrame({0, 0, 60, 26});
-    auto& cell = button.cell();
-    cell.startTrackingAt({10, 13}, &plain);
-    EXPECT_TRUE(cell.continueTracking({10, 13}, {40, 13}, &plain));
-    time.advance(1);
-    cell.stopTracking({40, 13}, {40, 13}, &plain, true);
-    EXPECT_EQ(cell.state(), buttonState::off);
 }
 
 TEST_F(SwitchGesture, hitsContentAndTrackInsideTheFrameOnly) {

@@ -106,20 +106,6 @@ TEST_F(HostWindowTest, aPaneMayDecideLaterAndTheLastWishCounts) {
     EXPECT_EQ(calls(), QStringList({"A: willUnselect", "A: didUnselect"}));
 }
 
-TEST_F(HostWindowTest, beingToldToEndWhileAPaneDecidesDoesNotAskAgain) {
-    makeBundle("A");
-    openWindow();
-    setReply("A", 2);
-    QWidget* pane = view("A");
-    calls();
-    window->close();
-    window->closeRegardless();
-    window->closeRegardless();
-    decide(pane, true);
-    EXPECT_EQ(closed->count(), 1);
-    EXPECT_EQ(calls(), QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect"}));
-}
-
 TEST_F(HostWindowTest, aBrokenPaneAmongOthersShowsItsFault) {
     write("panes/A.prefPane/Contents/Info.json", "{");
     makeBundle("B");

@@ -84,21 +84,6 @@ TEST_F(Lists, findTheEarlierOfTwoRecordsThatAnEditMadeEqual) {
     EXPECT_FALSE(list.indexOfObject(early->contents()));
 }
 
-TEST_F(Lists, keepItemsBesideTheirRecords) {
-    struct Item : CollectionViewItem {};
-    list.addObject(record("a"));
-    CollectionView view(list, [] { return std::make_shared<Item>(); });
-    list.addObject(record("b"));
-    const auto b = view.itemAtIndex(1);
-    EXPECT_EQ(b->collectionView(), &view);
-    list.removeObject(record("a"));
-    EXPECT_EQ(view.itemAtIndex(0), b);
-    EXPECT_EQ(b->representedObject(), list.arrangedObjects()[0]);
-    list.removeAllArrangedObjects();
-    EXPECT_EQ(b->collectionView(), nullptr);
-    EXPECT_EQ(view.itemAtIndex(0), nullptr);
-}
-
 struct Log : ActionTarget {
     void performAction(std::string_view action, Control* /*sender*/) override {
         sent.emplace_back(action);

@@ -8,17 +8,16 @@ namespace zarvil {
 
 namespace {
 
-/// Logs how it is tracked; like the standard cell it does not track outside its frame, unless told.
+/// Logs how it is tracked; like the standard cell it does not track outside its frame.
 struct LoggingCell final : ButtonCell {
-    bool prefersTrackingUntilMouseUp() const override { return everywhere; }
     bool startTrackingAt(Point, View* view) override {
         log += view ? "start " : "start without view ";
-        return goesOn;
+        return true;
     }
     bool continueTracking(Point last, Point current, View*) override {
         log += "move" + std::to_string(static_cast<int>(last.x)) + "-" +
                std::to_string(static_cast<int>(current.x)) + " ";
-        return goesOn;
+        return true;
     }
     void stopTracking(Point, Point, View*, bool mouseIsUp) override {
         log += mouseIsUp ? "up " : "stop ";
@@ -26,8 +25,6 @@ struct LoggingCell final : ButtonCell {
     }
 
     std::string log;
-    bool everywhere = false;
-    bool goesOn = true;
 };
 
 struct Target final : ActionTarget {
@@ -76,25 +73,6 @@ TEST_F(MouseLoopTest, followsAStandardCellOnlyInside) {
     EXPECT_TRUE(target.states.empty()) << "let go outside";
 }
 
-TEST_F(MouseLoopTest, followsACellThatWantsItEverywhere) {
-    cell.everywhere = true;
-    loop.press({10, 10});
-    loop.drag({200, -900});
-    EXPECT_TRUE(cell.isHighlighted());
-    loop.release({200, -900});
-    EXPECT_EQ(cell.log, "start move10-200 up ");
-    EXPECT_EQ(target.states.size(), 1U);
-}
-
-TEST_F(MouseLoopTest, tellsNoMoreToACellThatHasSeenEnough) {
-    cell.goesOn = false;
-    loop.press({10, 10});
-    loop.drag({20, 10});
-    loop.release({20, 10});
-    EXPECT_EQ(cell.log, "start ");
-    EXPECT_EQ(target.states, std::vector{1});
-}
-
 TEST_F(MouseLoopTest, doesNotBeginWhereNothingIsHit) {
     EXPECT_FALSE(loop.press({100, 10})) << "the far edge is outside";
     button.setEnabled(false);
@@ -119,17 +97,6 @@ TEST_F(MouseLoopTest, endsWithoutOutcomeWhenCancelledOrDisabledMeanwhile) {
     EXPECT_EQ(button.state(), 0);
     EXPECT_TRUE(target.states.empty());
     EXPECT_FALSE(cell.isHighlighted());
-}
-
-TEST_F(MouseLoopTest, pressesAMomentaryButtonWithoutAState) {
-    Button momentary;
-    momentary.setFrame({0, 0, 10, 10});
-    momentary.setTarget(&target);
-    momentary.setAction("press:");
-    MouseLoop pressing(momentary);
-    pressing.press({1, 1});
-    pressing.release({1, 1});
-    EXPECT_EQ(target.states, std::vector{0});
 }
 
 /// Destroys what it was sent from.

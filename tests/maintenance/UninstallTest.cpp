@@ -48,12 +48,6 @@ TEST_F(Uninstall, endsTheProcessWhenTheSessionDoesNotListTheHost) {
     EXPECT_EQ(processes.log, std::vector<std::string>{"exit 0"});
 }
 
-TEST_F(Uninstall, takesTheAgentFromBelowTheRoot) {
-    platform.root = "/mnt/trial";
-    pane.unistall(nullptr);
-    EXPECT_EQ(files.log.front(), "remove /mnt/trial" + agent);
-}
-
 TEST_F(Uninstall, thePanelWaitsAndCancellingChangesNothing) {
     load();
     modal.duringModal = [this] {

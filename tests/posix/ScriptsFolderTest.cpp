@@ -1,4 +1,4 @@
-#include "PaneHarness.h"
+#include "PaneOnFakes.h"
 #include "PosixHarness.h"
 
 #include <gmock/gmock.h>
@@ -17,10 +17,8 @@ using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 /// A pane over fakes, but for the file system.
-struct PaneOnDisk {
-    explicit PaneOnDisk(FileManager& manager)
-        : platform{bus,     time,          time,    workspace, manager, defaults,  errors,
-                   scripts, authorization, strings, mouse,     modal,   processes, ""} {}
+struct PaneOnDisk : PaneOnFakes {
+    using PaneOnFakes::PaneOnFakes;
 
     std::shared_ptr<ZVScriptCollectionItem> item(std::string_view title) {
         const auto& records = pane.scriptsArrayController.arrangedObjects();
@@ -51,42 +49,12 @@ struct PaneOnDisk {
         script->eText()->userDidEdit(text);
         script->edit();
     }
-
-    InProcessMessageCenter bus;
-    fake::VirtualTime time;
-    fake::Workspace workspace;
-    fake::UserDefaults defaults;
-    fake::ErrorPresenter errors;
-    fake::ScriptRunner scripts;
-    fake::Authorization authorization;
-    fake::StringTable strings;
-    fake::MouseParameters mouse;
-    fake::ModalLoop modal;
-    fake::ProcessControl processes;
-    Platform platform;
-    Zarvil_Preferences pane{platform};
 };
 
 class ScriptsFolder : public PosixHarness {
 protected:
-    PaneOnDisk disk{files};
+    PaneOnDisk disk{&files};
 };
-
-TEST_F(ScriptsFolder, goesThroughALifeOfAScript) {
-    fs::remove(scripts());
-    disk.reload();
-    EXPECT_TRUE(fs::is_directory(scripts()));
-    disk.create("a");
-    EXPECT_EQ(fs::file_size(script("a.zvscript")), 0U);
-    disk.edit("a", "b", "echo \U0001F50C\n");
-    EXPECT_THAT(namesIn(scripts()), ElementsAre("b.zvscript"));
-    EXPECT_EQ(get(script("b.zvscript")), "echo \U0001F50C\n");
-    disk.reload();
-    EXPECT_THAT(disk.titles(), ElementsAre("b"));
-    disk.item("b")->remove();
-    EXPECT_THAT(namesIn(scripts()), IsEmpty());
-    EXPECT_THAT(disk.errors.presented, IsEmpty());
-}
 
 TEST_F(ScriptsFolder, titlesOfEveryKindAreCreatedOrRefusedWithAReason) {
     struct Case {
@@ -190,21 +158,18 @@ protected:
     inline static const std::string first = std::string(300000, 'a');
     inline static const std::string second = std::string(200000, 'b');
 
-    /// `saveOnce` saves a whole text at each call. `check` judges the folder after each kill.
-    void killRepeatedly(const std::function<void(const std::string&)>& saveOnce,
-                        const std::function<void()>& check) {
+    void killRepeatedly() {
         const auto start = std::chrono::steady_clock::now();
-        saveOnce(first);
+        disk.edit("a", "a", first);
         const std::chrono::duration<double> oneSave = std::chrono::steady_clock::now() - start;
         std::mt19937 random(20260);
         std::uniform_real_distribution<double> moments(0, 2 * oneSave.count());
         int leftovers = 0;
         for (int round = 0; round < rounds && !HasFailure(); ++round) {
-            killOneAfter(std::chrono::duration<double>(moments(random)), saveOnce);
+            killOneAfter(std::chrono::duration<double>(moments(random)));
             leftovers += fs::exists(script(".zarvil-save")) ? 1 : 0;
-            check();
+            expectOnlyWholeTexts();
         }
-        std::cerr << leftovers << " left\n";
         EXPECT_GT(leftovers, 0) << "no process was killed in the middle of a save";
     }
     void expectOnlyWholeTexts() {
@@ -215,10 +180,7 @@ protected:
         }
         EXPECT_LE(namesIn(scripts()).size(), 2U) << "leftovers pile up";
     }
-
-private:
-    static void killOneAfter(std::chrono::duration<double> moment,
-                             const std::function<void(const std::string&)>& saveOnce) {
+    void killOneAfter(std::chrono::duration<double> moment) {
         int started[2];
         ASSERT_EQ(::pipe(started), 0);
         const pid_t child = ::fork();
@@ -226,8 +188,8 @@ private:
             ::prctl(PR_SET_PDEATHSIG, SIGKILL);
             static_cast<void>(!::write(started[1], "s", 1));
             while (true) {
-                saveOnce(second);
-                saveOnce(first);
+                disk.edit("a", "a", second);
+                disk.edit("a", "a", first);
             }
         }
         char byte = 0;
@@ -242,25 +204,10 @@ private:
     }
 };
 
-TEST_F(KilledWhileSaving, anAtomicWriteLeavesTheOldContentOrTheNew) {
-    const std::string path = script("a.zvscript").string();
-    killRepeatedly(
-        [&](const std::string& text) {
-            static_cast<void>(files.writeText(text, path, Atomicity::Atomic));
-        },
-        [&] {
-            EXPECT_TRUE(fs::exists(path));
-            expectOnlyWholeTexts();
-        });
-    EXPECT_EQ(files.writeText(first, path, Atomicity::Atomic), std::nullopt);
-    EXPECT_THAT(namesIn(scripts()), ElementsAre("a.zvscript"));
-}
-
 TEST_F(KilledWhileSaving, thePaneNeverLeavesAHalfWrittenScript) {
     put(script("a.zvscript"), first);
     disk.reload();
-    killRepeatedly([&](const std::string& text) { disk.edit("a", "a", text); },
-                   [&] { expectOnlyWholeTexts(); });
+    killRepeatedly();
     disk.edit("a", "a", first);
     EXPECT_THAT(namesIn(scripts()), ElementsAre("a.zvscript"));
 }

@@ -113,20 +113,6 @@ TEST_F(ScriptItem, aFailedWriteIsNotReportedAndTheRecordKeepsWhatWasTyped) {
     EXPECT_FALSE(item(0)->editing());
 }
 
-TEST_F(ScriptItem, endingAnEditThatHasNoFieldsOnlyTurnsTheFlag) {
-    item(0)->setEditing(true);
-    item(0)->edit();
-    EXPECT_FALSE(item(0)->editing());
-    EXPECT_THAT(files.log, IsEmpty());
-}
-
-TEST_F(ScriptItem, aWorkingScriptRunsSilently) {
-    item(1)->execute();
-    EXPECT_THAT(scriptRunner.ran, ElementsAre("echo b"));
-    EXPECT_THAT(errors.presented, IsEmpty());
-    EXPECT_THAT(files.log, IsEmpty());
-}
-
 TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {
     scriptRunner.outcome = ScriptError{-2741, "Expected end of line."};
     item(0)->execute();
@@ -144,15 +130,6 @@ TEST_F(ScriptItem, anEmptyScriptIsRefusedInTheUsersLanguage) {
     EXPECT_THAT(scriptRunner.ran, IsEmpty());
 }
 
-TEST_F(ScriptItem, runningWhileEditingSavesFirstAndRunsWhatWasJustTyped) {
-    item(0)->edit();
-    item(0)->eText()->userDidEdit("echo typed");
-    item(0)->execute();
-    EXPECT_FALSE(item(0)->editing());
-    EXPECT_THAT(scriptRunner.ran, ElementsAre("echo typed"));
-    EXPECT_EQ(files.files[pathOf("a.zvscript")], "echo typed");
-}
-
 TEST_F(ScriptItem, removingDeletesTheFileAndLeavesTheOthersTheirItems) {
     const auto second = item(1);
     item(0)->remove();
@@ -166,14 +143,6 @@ TEST_F(ScriptItem, removingAScriptWhoseFileIsGoneShowsTheErrorAndDropsItAnyway) 
     item(0)->remove();
     EXPECT_EQ(errors.presented.size(), 1U);
     EXPECT_THAT(titles(), ElementsAre("b"));
-}
-
-TEST_F(ScriptItem, anOwnerThatCannotDropRecordsIsLeftAlone) {
-    CollectionViewDelegate other;
-    item(0)->setOwner(&other);
-    item(0)->remove();
-    EXPECT_FALSE(files.files.contains(pathOf("a.zvscript")));
-    EXPECT_EQ(count(), 2U);
 }
 
 /// An alert runs the event loop: the agent may vanish while the user reads it.

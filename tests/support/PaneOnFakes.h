@@ -8,6 +8,13 @@ namespace zarvil {
 
 /// One pane on fake ports and an in-process bus, not yet loaded.
 struct PaneOnFakes {
+    /// On the caller's file system, if there is one.
+    explicit PaneOnFakes(FileManager* onDisk = nullptr)
+        : disk(onDisk ? *onDisk : files), platform{bus,           time,     time,   workspace,
+                                                   disk,          defaults, errors, scriptRunner,
+                                                   authorization, strings,  mouse,  modal,
+                                                   processes,     ""} {}
+
     InProcessMessageCenter bus;
     fake::VirtualTime time;
     fake::Workspace workspace;
@@ -20,8 +27,8 @@ struct PaneOnFakes {
     fake::MouseParameters mouse;
     fake::ModalLoop modal;
     fake::ProcessControl processes;
-    Platform platform{bus,          time,          time,    workspace, files, defaults,  errors,
-                      scriptRunner, authorization, strings, mouse,     modal, processes, ""};
+    FileManager& disk;
+    Platform platform;
     Zarvil_Preferences pane{platform};
 };
 
