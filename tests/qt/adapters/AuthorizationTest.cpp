@@ -54,15 +54,11 @@ public:
         return QVariant::fromValue(out);
     }
 
-    bool authorized = false;
-    bool challenge = false;
-    bool dismissed = false;
+    bool authorized = false, challenge = false, dismissed = false;
     QString error;
 
-    QString signature;
-    QString kind;
+    QString signature, kind, action;
     QVariantMap subjectDetails;
-    QString action;
     uint flags = 99;
 };
 
@@ -93,7 +89,6 @@ constexpr const char* unavailable = "Administrator rights cannot be checked: the
 TEST(PolkitAuthorizationTest, withoutABusOrAnAuthorityNothingIsGranted) {
     PrivateBus bus;
     const BusConnection::Connect connects[] = {
-        [] { return QDBusConnection("not connected"); },
         [] { return QDBusConnection::connectToBus("unix:path=/nonexistent/bus", "absent"); },
         [&bus] { return bus.connect("system"); }};
     for (const auto& connect : connects) {
@@ -131,6 +126,8 @@ TEST(PolkitAuthorizationTest, theAuthoritysAnswerDecides) {
     const auto quiet = Interaction::None;
     const auto asking = Interaction::MayAskUser;
     const QString prefix = "org.freedesktop.PolicyKit1.Error.";
+    const char* noAgent =
+        "No authentication agent is running that could ask for an administrator's password.";
     const struct {
         Interaction interaction;
         bool authorized, challenge, dismissed;
@@ -140,12 +137,7 @@ TEST(PolkitAuthorizationTest, theAuthoritysAnswerDecides) {
         {asking, true, false, false, {}, ""},
         {quiet, true, true, false, {}, ""},
         {quiet, false, true, false, {}, "An administrator's password is needed."},
-        {asking,
-         false,
-         true,
-         false,
-         {},
-         "No authentication agent is running that could ask for an administrator's password."},
+        {asking, false, true, false, {}, noAgent},
         {asking, false, false, false, {}, "You do not have administrator rights."},
         {asking, false, true, true, {}, "The authentication was cancelled."},
         {asking, true, false, false, prefix + "Cancelled", "The authentication was cancelled."},
@@ -175,24 +167,11 @@ TEST(BusProbeTest, onlySilenceCountsAsHanging) {
     constexpr std::chrono::milliseconds limit{500};
     for (const QByteArray& address :
          {bus.address().toUtf8(), bus.address().toUtf8() + ";unix:path=/nowhere",
-          QByteArray("unix:path=/nonexistent/bus"), QByteArray("unix:abstract=zarvil%20nobody"),
-          QByteArray("disabled:"), QByteArray("tcp:host=localhost"), QByteArray("unix:"),
+          QByteArray("unix:path=/nonexistent/bus"), QByteArray("tcp:host=localhost"),
           QByteArray("unix:path=" + QByteArray(300, 'x')), QByteArray()})
         EXPECT_TRUE(busAnswers(address, limit)) << address.toStdString();
     EXPECT_FALSE(busAnswers(hung.address().toUtf8(), limit));
     EXPECT_FALSE(busAnswers(hung.address().toUtf8() + ",guid=00", limit));
-}
-
-TEST(PolkitAuthorizationTest, repliesToNobodyOnceItIsGone) {
-    PrivateBus bus;
-    bool replied = false;
-    {
-        PolkitAuthorization authorization([&bus] { return bus.connect("system"); });
-        authorization.check("x", Interaction::None, [&](const auto&) { replied = true; });
-    }
-    PolkitAuthorization later([&bus] { return bus.connect("later"); });
-    ask(later, Interaction::None);
-    EXPECT_FALSE(replied);
 }
 
 } // namespace

@@ -36,11 +36,9 @@ TEST_F(QtUserDefaultsTest, valuesAreOnDiskAsSoonAsTheyAreSet) {
 }
 
 TEST_F(QtUserDefaultsTest, editedTextsReadAsTheForgivingReadersDo) {
-    const struct {
-        const char* text;
-        bool value;
-    } cases[] = {{"true", true},   {"YES", true}, {"1", true},      {"-3", true}, {"no", false},
-                 {"false", false}, {"0", false},  {"maybe", false}, {"", false},  {"1, 2", false}};
+    const std::pair<const char*, bool> cases[] = {{"YES", true},  {"-3", true},     {"no", false},
+                                                  {"0", false},   {"maybe", false}, {"", false},
+                                                  {"1, 2", false}};
     int number = 0;
     for (const auto& [text, value] : cases) {
         // A file of its own: one of equal size in the same millisecond would count as unchanged.
@@ -59,14 +57,6 @@ TEST_F(QtUserDefaultsTest, aCorruptFileKeepsItsGoodLinesAndACopy) {
     EXPECT_TRUE(QtUserDefaults(path).boolForKey("another"));
     EXPECT_TRUE(QtUserDefaults(path).boolForKey("key"));
     EXPECT_EQ(contentOf(path + ".corrupt"), broken);
-}
-
-TEST_F(QtUserDefaultsTest, aFileThatCannotBeWrittenStillHoldsForThisRun) {
-    write("a file where a folder should be");
-    QtUserDefaults defaults(path + "/below/defaults.ini");
-    defaults.setBool(true, "key");
-    EXPECT_TRUE(defaults.boolForKey("key"));
-    EXPECT_EQ(contentOf(path), "a file where a folder should be");
 }
 
 } // namespace

@@ -45,17 +45,12 @@ TEST(QtTimersTest, repeatingTimersGoOnAndOthersFireOnce) {
 }
 
 TEST(QtTimersTest, intervalsOutOfRangeAreSoonOrNever) {
-    const struct {
-        double interval;
-        bool soon;
-    } cases[] = {
-        {std::numeric_limits<double>::quiet_NaN(), true},
-        {-5, true},
-        {-std::numeric_limits<double>::infinity(), true},
-        {0, true},
-        {1e300, false},
-        {std::numeric_limits<double>::infinity(), false},
-    };
+    using Limits = std::numeric_limits<double>;
+    const std::pair<double, bool> cases[] = {{Limits::quiet_NaN(), true},
+                                             {-5, true},
+                                             {-Limits::infinity(), true},
+                                             {1e300, false},
+                                             {Limits::infinity(), false}};
     for (const auto& [interval, soon] : cases) {
         QtTimers timers;
         bool fired = false;

@@ -6,15 +6,15 @@
 #include "qt/pane/PaneView.h"
 
 #include <QCheckBox>
-#include <QDialog>
 #include <QGraphicsOpacityEffect>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
-#include <set>
+#include <algorithm>
 
 namespace zarvil::qt {
 namespace {
@@ -61,38 +61,30 @@ TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
     unknown->setProperty("action", "nobody:");
     Subscriptions none;
     const Faults found = bindOutlets(pane, broken, none);
-    const std::set<std::string> all(found.begin(), found.end());
     for (const char* fault :
          {"no widget for the outlet email", "the widget of showIcon is of the wrong kind",
           "no outlet for the widget nobodyKnowsThis", "no action nobody:"})
-        EXPECT_TRUE(all.contains(fault)) << fault;
-}
-
-/// The letter after a single "&"; nothing without one.
-QChar mnemonic(const QString& text) {
-    for (qsizetype at = text.indexOf('&'); at >= 0 && at + 1 < text.size();
-         at = text.indexOf('&', at + 2)) {
-        if (text[at + 1] != '&')
-            return text[at + 1].toLower();
-    }
-    return {};
+        EXPECT_EQ(std::ranges::count(found, fault), 1) << fault;
 }
 
 TEST_F(Layout, givesNoMnemonicTwiceOnOnePage) {
     auto& tabs = widget<QTabWidget>("tabView");
     for (int page = 0; page < tabs.count(); ++page) {
-        std::multiset<QChar> letters;
+        QStringList letters;
+        const auto add = [&](const QString& text) {
+            letters += QKeySequence::mnemonic(text).toString();
+        };
         for (int tab = 0; tab < tabs.count(); ++tab)
-            letters.insert(mnemonic(tabs.tabText(tab)));
+            add(tabs.tabText(tab));
         for (const auto* button : tabs.widget(page)->findChildren<QAbstractButton*>())
-            letters.insert(mnemonic(button->text()));
+            add(button->text());
         for (const auto* label : tabs.widget(page)->findChildren<QLabel*>())
             if (label->buddy())
-                letters.insert(mnemonic(label->text()));
-        letters.erase(QChar());
-        for (const QChar letter : letters)
-            EXPECT_EQ(letters.count(letter), 1U)
-                << fromQt(letter) << " on " << fromQt(tabs.tabText(page));
+                add(label->text());
+        letters.removeAll(QString());
+        EXPECT_FALSE(letters.isEmpty());
+        EXPECT_EQ(letters.removeDuplicates(), 0)
+            << fromQt(letters.join(' ') + " on " + tabs.tabText(page));
     }
 }
 
@@ -107,17 +99,6 @@ TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
         EXPECT_FALSE(shown->toolTip().isEmpty()) << name;
         EXPECT_TRUE(shown->focusPolicy() & Qt::TabFocus) << name;
     });
-}
-
-TEST_F(Layout, aClickSendsTheSettingAndTheModelDecidesWhatIsShown) {
-    loadWithAgent();
-    auto& box = widget<QCheckBox>("launchAtLogin");
-    box.click();
-    EXPECT_EQ(takeSent(), std::vector{settingChange("LaunchAtLogin", true)});
-    agentSends(Message(message::savedPrefs));
-    EXPECT_FALSE(box.isChecked());
-    widget<QCheckBox>("hideShutdownMessageButton").click();
-    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_F(Layout, aFieldSendsOnReturnAndOnLeavingAnEditButNeverTwice) {
@@ -148,20 +129,6 @@ TEST_F(Layout, leavingAnUnfinishedScriptTitleCreatesNothing) {
     title.setFocus();
     QTest::keyClick(&title, Qt::Key_Return);
     EXPECT_EQ(files.files.count("/home/user/Library/Zarvil Scripts/half.zvscript"), 1U);
-}
-
-TEST_F(Layout, showsPresenceInWordsBesideTheLaunchButton) {
-    load();
-    view.show();
-    EXPECT_TRUE(widget<QLabel>("notLaunchedDesc").isVisible());
-    EXPECT_EQ(widget<QPushButton>("launchButton").text(), "Launch Zarvil");
-    agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
-    EXPECT_FALSE(widget<QLabel>("notLaunchedDesc").isVisible());
-    EXPECT_TRUE(widget<QLabel>("launchedDesc").isVisible());
-    EXPECT_TRUE(widget<QLabel>("onDesc").isVisible());
-    EXPECT_EQ(widget<QPushButton>("launchButton").text(), "Quit Zarvil");
-    widget<QPushButton>("launchButton").click();
-    EXPECT_EQ(takeSentNames().back(), "ZVQuit");
 }
 
 TEST_F(Layout, anAnimatedChangeGlidesAndAnImmediateOneDoesNot) {
@@ -206,15 +173,6 @@ TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     EXPECT_TRUE(list.accessibleDescription().contains("No power devices"));
     pane.appDidNotAnswer();
     EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
-}
-
-TEST_F(Layout, theConfirmationPanelFollowsItsModel) {
-    load();
-    auto& panel = widget<QDialog>("uninstallModal");
-    pane.uninstallModal.beginSheet();
-    EXPECT_TRUE(panel.isVisible());
-    pane.uninstallModal.orderOut();
-    EXPECT_FALSE(panel.isVisible());
 }
 
 } // namespace

@@ -30,36 +30,9 @@ TEST_F(Sender, whoDoesNotOwnTheAgentsNameChangesNothing) {
     EXPECT_EQ(recorder.received, std::vector{Message(message::pingAnswer)});
 }
 
-TEST_F(Sender, anAgentThatWasThereFirstIsKnown) {
-    const QDBusConnection agent = peer(Owns::AgentName);
-    DBusMessageCenter pane(paneOptions());
-    const Recorder recorder(pane);
-    ASSERT_TRUE(waitUntilConnected(pane));
-    // Sent long before the pane's question about the owner can be answered in its main thread.
-    ASSERT_TRUE(agent.send(signal(message::pingAnswer, noInfo)));
-    ASSERT_TRUE(recorder.waitForCount(1));
-}
-
-TEST_F(Sender, followsTheNameToAnotherConnection) {
-    DBusMessageCenter pane(paneOptions());
-    const Recorder recorder(pane);
-    ASSERT_TRUE(waitUntilConnected(pane));
-    QDBusConnection first = peer(Owns::AgentName);
-    ASSERT_TRUE(first.send(signal(message::pingAnswer, noInfo)));
-    ASSERT_TRUE(first.unregisterService(bus::agentName));
-    ASSERT_TRUE(first.send(signal(message::quitPrefs, noInfo)));
-    const QDBusConnection second = peer(Owns::AgentName);
-    ASSERT_TRUE(second.send(signal(message::testFinished, noInfo)));
-
-    ASSERT_TRUE(recorder.waitForCount(2));
-    EXPECT_EQ(recorder.received,
-              (std::vector{Message(message::pingAnswer), Message(message::testFinished)}));
-}
-
 QDBusMessage from(const QString& sender, const QString& member) {
     // Only a received message has a sender; this one is marked by its destination instead.
-    QDBusMessage message = QDBusMessage::createMethodCall(sender, "/", "a.b", member);
-    return message;
+    return QDBusMessage::createMethodCall(sender, "/", "a.b", member);
 }
 
 /// What passes of a mixture of signals and reports about the owner, in the order of the bus.

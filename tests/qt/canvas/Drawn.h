@@ -12,9 +12,8 @@ namespace zarvil::qt {
 
 /// What a drawing leaves on transparent pixels, seen pixel by pixel.
 inline QImage drawn(QSizeF size, double scale, Orientation orientation,
-                    const std::function<void(Canvas&)>& drawing,
-                    QImage::Format format = QImage::Format_RGBA64_Premultiplied) {
-    QImage image((size * scale).toSize(), format);
+                    const std::function<void(Canvas&)>& drawing) {
+    QImage image((size * scale).toSize(), QImage::Format_RGBA64_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.scale(scale, scale);

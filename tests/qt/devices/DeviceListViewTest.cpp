@@ -4,7 +4,6 @@
 #include "qt/devices/DeviceListModel.h"
 #include "qt/devices/DisplayText.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -21,7 +20,6 @@ Dictionary device(std::string_view name, std::string_view serial = "S") {
 class DeviceListViews : public PaneHarness {
 protected:
     DeviceListViews() {
-        QAccessible::setActive(true);
         loadWithAgent();
         connected.setModel(pane.connectedDevices);
         saved.setModel(pane.selectedDevices);
@@ -113,16 +111,15 @@ TEST_F(DeviceListViews, aTickFromElsewhereIsShownAtOnce) {
     plug(2);
     EXPECT_EQ(checkState(connected, 1), Qt::Unchecked);
     const auto item = pane.connectedDevices.itemAtIndexAs<ZVCollectionItem>(1);
-    QStringList namesMeanwhile;
-    std::vector<Qt::CheckState> ticksMeanwhile;
     item->setState(1);
+    bool asked = false;
     QObject::connect(connected.model(), &QAbstractItemModel::rowsAboutToBeRemoved, &connected, [&] {
-        namesMeanwhile = names(connected);
-        ticksMeanwhile = {checkState(connected, 0), checkState(connected, 1)};
+        asked = true;
+        EXPECT_EQ(names(connected), (QStringList{"N0", "N1"})) << "the list is ahead of its rows";
+        EXPECT_EQ(checkState(connected, 0), Qt::Unchecked) << "not that of N1";
     });
     agentSends({message::deviceDisconnected, device("N0", "0")});
-    EXPECT_EQ(namesMeanwhile, (QStringList{"N0", "N1"})) << "the list is ahead of its rows";
-    EXPECT_EQ(ticksMeanwhile.front(), Qt::Unchecked) << "not that of N1";
+    EXPECT_TRUE(asked);
     item->setState(0);
     const QSignalSpy changes(connected.model(), &QAbstractItemModel::dataChanged);
     item->setState(1);
@@ -156,39 +153,10 @@ TEST_F(DeviceListViews, anEmptyListTellsWhatToDo) {
     EXPECT_EQ(connected.accessibleDescription(), "No power devices connected");
 }
 
-TEST_F(DeviceListViews, cardsLookTheSameInLightAndDark) {
-    plug(1);
-    const auto card = [this] {
-        const QRect row = connected.visualRect(connected.model()->index(0, 0));
-        return connected.viewport()->grab(row.adjusted(12, 12, -12, -12)).toImage();
-    };
-    const QImage light = card();
-    QPalette dark(QColor(50, 50, 50), QColor(40, 40, 40));
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::Text, Qt::white);
-    connected.setPalette(dark);
-    EXPECT_EQ(card(), light);
-}
-
-TEST_F(DeviceListViews, screenReadersLearnTheTextsAndTheTick) {
-    plug(1);
-    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&connected);
-    ASSERT_EQ(list->childCount(), 1);
-    EXPECT_EQ(list->child(0)->text(QAccessible::Name), "N0, Maker, 0");
-    EXPECT_TRUE(list->child(0)->state().checkable);
-    EXPECT_FALSE(list->child(0)->state().checked);
-    click(connected, checkBox(connected, 0));
-    QAccessibleInterface* ticked = QAccessible::queryAccessibleInterface(&saved);
-    ASSERT_EQ(ticked->childCount(), 1);
-    EXPECT_TRUE(ticked->child(0)->state().checked);
-}
-
 TEST_F(DeviceListViews, oddRecordsGetReadableRows) {
     struct Case {
         Dictionary record;
-        QString name;
-        QString vendor;
-        QString serial;
+        QString name, vendor, serial;
     };
     const std::vector<Case> cases{
         {{}, "Unnamed device", "", "No serial number"},
@@ -206,33 +174,15 @@ TEST_F(DeviceListViews, oddRecordsGetReadableRows) {
         EXPECT_EQ(row.data(DeviceListModel::VendorRole).toString(), one.vendor);
         EXPECT_EQ(row.data(DeviceListModel::SerialRole).toString(), one.serial);
     }
-    EXPECT_FALSE(connected.grab().isNull());
-}
-
-TEST_F(DeviceListViews, toolTipsShowMarkupAsTextAndStayOfUsefulSize) {
     agentSends({message::deviceConnected, device("<b>bold</b>", std::string(1 << 20, 'x'))});
-    const QString tip = connected.model()->index(0, 0).data(Qt::ToolTipRole).toString();
+    const QString tip = connected.model()->index(4, 0).data(Qt::ToolTipRole).toString();
     EXPECT_TRUE(tip.contains("&lt;b&gt;bold&lt;/b&gt;"));
     EXPECT_LT(tip.size(), 10'000);
     EXPECT_FALSE(connected.grab().isNull());
 }
 
-TEST_F(DeviceListViews, anotherCollectionViewReplacesTheFormer) {
-    plug(1);
-    connected.setModel(pane.selectedDevices);
-    EXPECT_EQ(names(connected), QStringList{});
-    plug(1);
-    agentSends({message::newSavedDevice, Dictionary{{"device", device("other")}}});
-    EXPECT_EQ(names(connected), QStringList{"other"});
-}
-
 TEST(DisplayText, showsWhatWouldBeInvisibleAndDefusesWhatWouldReorder) {
-    struct Case {
-        std::string text;
-        QString shown;
-    };
-    const std::vector<Case> cases{
-        {"plain", "plain"},
+    const std::vector<std::pair<std::string, QString>> cases{
         {std::string("\0\t\x1b", 3), "\u2400\u2409\u241B"},
         {"a\u0085b\u2028c", "a\uFFFDb\uFFFDc"},
         {"\u202Eabc\u202C \u2066x\u2069", "\uFFFDabc\uFFFD \uFFFDx\uFFFD"},
@@ -240,10 +190,9 @@ TEST(DisplayText, showsWhatWouldBeInvisibleAndDefusesWhatWouldReorder) {
         {"e\u0301", "e\u0301"},
         {"\xff", "\uFFFD"},
         {"🔌", "🔌"},
-        {"", ""},
     };
-    for (const Case& one : cases)
-        EXPECT_EQ(displayText(one.text, 100), one.shown) << one.text;
+    for (const auto& [text, shown] : cases)
+        EXPECT_EQ(displayText(text, 100), shown) << text;
 }
 
 TEST(DisplayText, shortensBetweenWholeCharacters) {

