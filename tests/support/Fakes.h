@@ -74,7 +74,7 @@ class Workspace final : public zarvil::Workspace {
 public:
     bool launchApplication(std::string_view path) override {
         launched.emplace_back(path);
-        return launchSucceeds;
+        return true;
     }
     std::vector<RunningApplication> runningApplications() const override { return running; }
     std::string mainBundleIdentifier() const override { return "com.Tessrow.Preferences"; }
@@ -86,7 +86,6 @@ public:
     std::vector<std::string> launched;
     std::vector<std::string> opened;
     std::vector<RunningApplication> running;
-    bool launchSucceeds = true;
 };
 
 class UserDefaults final : public zarvil::UserDefaults {
