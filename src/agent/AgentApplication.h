@@ -3,7 +3,7 @@
 #include "agent/Agent.h"
 #include "agent/LineReader.h"
 #include "agent/UsbDevices.h"
-#include "qt/bus/DBusMessageCenter.h"
+#include "bus/DBusMessageCenter.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "host/Appearance.h"
 
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
 #include <QApplication>
 #include <QDBusMessage>

@@ -3,7 +3,7 @@
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "qt/adapters/BusProbe.h"
+#include "bus/BusProbe.h"
 
 #include <QApplication>
 #include <QDir>

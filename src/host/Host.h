@@ -5,7 +5,7 @@
 #include "host/HostWindow.h"
 #include "host/SingleInstance.h"
 #include "host/UnixSignals.h"
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
 #include <QSettings>
 

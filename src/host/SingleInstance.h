@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
 #include <QObject>
 #include <QVariantMap>

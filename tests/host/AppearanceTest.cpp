@@ -1,7 +1,7 @@
 #include "host/Appearance.h"
 #include "Bundles.h"
 #include "PrivateBus.h"
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
 #include <QApplication>
 #include <QDBusMessage>

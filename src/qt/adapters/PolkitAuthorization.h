@@ -2,7 +2,7 @@
 
 #include "platform/Authorization.h"
 
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
 #include <QObject>
 

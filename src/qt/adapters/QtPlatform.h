@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pane/Platform.h"
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 #include "qt/adapters/PolkitAuthorization.h"
 #include "qt/adapters/QtClock.h"
 #include "qt/adapters/QtErrorPresenter.h"

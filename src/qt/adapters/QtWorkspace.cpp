@@ -2,7 +2,7 @@
 
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>

@@ -7,7 +7,7 @@
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
 #include "qt/binding/OutletBinder.h"
-#include "qt/bus/DBusMessageCenter.h"
+#include "bus/DBusMessageCenter.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 

@@ -1,6 +1,6 @@
 #include "HungBus.h"
 #include "PrivateBus.h"
-#include "qt/adapters/BusProbe.h"
+#include "bus/BusProbe.h"
 #include "qt/adapters/PolkitAuthorization.h"
 
 #include <QCoreApplication>

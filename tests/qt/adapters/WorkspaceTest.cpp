@@ -1,6 +1,6 @@
 #include "HungBus.h"
 #include "PrivateBus.h"
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 #include "qt/adapters/QtWorkspace.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 #include "qt/scripts/ScriptListView.h"
-#include "../scripts/ScriptsHarness.h"
+#include "../core/scripts/ScriptsHarness.h"
 #include "qt/scripts/ScriptCard.h"
 
 #include <QApplication>

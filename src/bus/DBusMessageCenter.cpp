@@ -1,7 +1,7 @@
-#include "qt/bus/DBusMessageCenter.h"
+#include "bus/DBusMessageCenter.h"
 
 #include "protocol/BusNames.h"
-#include "qt/bus/DBusValues.h"
+#include "bus/DBusValues.h"
 
 #include <QDBusError>
 #include <QDBusMessage>

@@ -2,7 +2,7 @@
 
 #include "protocol/MessageCenter.h"
 #include "protocol/ObserverList.h"
-#include "qt/bus/SenderGate.h"
+#include "bus/SenderGate.h"
 
 #include <QDBusConnection>
 #include <QObject>

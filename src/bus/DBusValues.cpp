@@ -1,4 +1,4 @@
-#include "qt/bus/DBusValues.h"
+#include "bus/DBusValues.h"
 
 #include <QDBusArgument>
 #include <QDBusUnixFileDescriptor>

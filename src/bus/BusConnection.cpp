@@ -1,6 +1,6 @@
-#include "qt/adapters/BusConnection.h"
+#include "bus/BusConnection.h"
 
-#include "qt/adapters/BusProbe.h"
+#include "bus/BusProbe.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -4,7 +4,7 @@
 #include "PrivateBus.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
-#include "qt/bus/DBusMessageCenter.h"
+#include "bus/DBusMessageCenter.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

@@ -1,6 +1,6 @@
-#include "qt/bus/SenderGate.h"
+#include "bus/SenderGate.h"
 
-#include "qt/bus/DBusValues.h"
+#include "bus/DBusValues.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "qt/adapters/BusProbe.h"
+#include "bus/BusProbe.h"
 
 #include <QByteArrayList>
 
