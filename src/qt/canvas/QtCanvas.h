@@ -13,7 +13,6 @@
 #include <vector>
 
 QT_FORWARD_DECLARE_CLASS(QBrush)
-QT_FORWARD_DECLARE_CLASS(QFont)
 QT_FORWARD_DECLARE_CLASS(QPainter)
 
 namespace zarvil::qt {
@@ -69,7 +68,6 @@ private:
     [[nodiscard]] ShadowKey shadowKey(const Path& path, double strokeWidth, const QPoint& phase,
                                       double alpha) const;
     [[nodiscard]] double shadowDeviation() const;
-    [[nodiscard]] QFont font(const TextStyle& style) const;
 
     QPainter& base_;
     Orientation orientation_;

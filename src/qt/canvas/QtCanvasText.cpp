@@ -11,25 +11,27 @@ namespace zarvil::qt {
 
 namespace {
 
-constexpr double pointsPerInch = 72;
+/// Qt sets fonts in whole pixels alone. Text of any size is therefore measured and drawn in this
+/// one, large enough for its own rounding not to count, and scaled to the size that is wanted.
+constexpr int layoutSize = 512;
 
-} // namespace
-
-/// The application's font in the size of the style, which counts the view's points and not those
-/// of print. Without hinting, so that measures hold at every scale.
-QFont QtCanvas::font(const TextStyle& style) const {
+/// Without hinting, so that measures hold at every scale.
+QFont layoutFont() {
     QFont font = QGuiApplication::font();
-    font.setPointSizeF(style.fontSize * pointsPerInch / base_.device()->logicalDpiY());
+    font.setPixelSize(layoutSize);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     return font;
 }
 
+} // namespace
+
 Size QtCanvas::sizeOfText(std::string_view text, const TextStyle& style) const {
     if (style.fontSize <= 0)
         return {};
-    const QFontMetricsF metrics(font(style), base_.device());
-    return {metrics.horizontalAdvance(toQt(text)), metrics.height()};
+    const QFontMetricsF metrics(layoutFont());
+    const double scale = style.fontSize / layoutSize;
+    return {metrics.horizontalAdvance(toQt(text)) * scale, metrics.height() * scale};
 }
 
 void QtCanvas::drawText(std::string_view text, const Rect& rect, const TextStyle& style) {
@@ -38,11 +40,13 @@ void QtCanvas::drawText(std::string_view text, const Rect& rect, const TextStyle
     QPainter& target = painter();
     target.save();
     const QPointF corner = toDevice_.mapRect(qt::toQt(rect)).topLeft();
-    target.setWorldTransform(QTransform(scale_, 0, 0, scale_, corner.x(), corner.y()), true);
-    target.setFont(font(style));
+    const double textScale = style.fontSize / layoutSize;
+    target.setWorldTransform(
+        QTransform(scale_ * textScale, 0, 0, scale_ * textScale, corner.x(), corner.y()), true);
+    target.setFont(layoutFont());
     target.setPen(qt::toQt(style.color));
     target.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    const QRectF box({}, qt::toQt(rect.size()));
+    const QRectF box({}, qt::toQt(rect.size()) / textScale);
     const bool fits = sizeOfText(text, style).width <= rect.width;
     if (!fits)
         target.setClipRect(box, Qt::IntersectClip);

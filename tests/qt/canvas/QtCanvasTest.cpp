@@ -119,6 +119,9 @@ TEST(QtCanvas, measuresTextAlikeAtEveryScaleAndCutsWhatDoesNotFit) {
           [&](Canvas& canvas) { at1 = canvas.sizeOfText("Minutes", style); });
     QImage image = drawn({80, 30}, 2, Orientation::YDown, [&](Canvas& canvas) {
         at2 = canvas.sizeOfText("Minutes", style);
+        const Size tenfold = canvas.sizeOfText("Minutes", {144, color::white, TextAlignment::Left});
+        EXPECT_NEAR(tenfold.width, 10 * at2.width, 0.01) << "a size that is no whole number";
+        EXPECT_NEAR(tenfold.height, 10 * at2.height, 0.01);
         canvas.drawText("Minutes", {2, 2, 20, at2.height}, style);
         canvas.drawText("Never", {40, 0, 0, 30}, style);
     });
