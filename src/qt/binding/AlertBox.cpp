@@ -24,6 +24,7 @@ AlertBox::~AlertBox() { close(); }
 void AlertBox::open(const std::string& text) {
     box_ = new QMessageBox(&pane_);
     box_->setObjectName("errorAlert");
+    box_->setWindowTitle(pane_.window()->windowTitle());
     box_->setIcon(QMessageBox::Warning);
     box_->setTextFormat(Qt::PlainText);
     box_->setText(toQt(text));

@@ -101,6 +101,7 @@ void ScriptWindow::show(bool shown) {
         window_->hide();
         return;
     }
+    window_->setWindowTitle(window_->parentWidget()->window()->windowTitle());
     text_->setText(toQt(progress_.textProperty().get()));
     stop_->setVisible(progress_.canStop());
     window_->show();
