@@ -28,6 +28,12 @@ struct Message {
     friend bool operator==(const Message&, const Message&) = default;
 };
 
+/// The payload of a handler's message, empty when there is no message either.
+[[nodiscard]] inline const Dictionary& infoOf(const Message* message) {
+    static const Message none{""};
+    return (message ? *message : none).info();
+}
+
 /// Posts and observes named messages system-wide. Posting is fire-and-forget: without a receiver
 /// a message is lost without error. Handlers run on the main thread, never inside `post`, in the
 /// order in which the messages were sent. Used on the main thread only.

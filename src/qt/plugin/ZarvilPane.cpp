@@ -1,16 +1,19 @@
 #include "qt/plugin/ZarvilPane.h"
 
+#include "bus/DBusMessageCenter.h"
 #include "pane/Zarvil_Preferences.h"
 #include "posix/PosixFileManager.h"
 #include "posix/PosixProcessControl.h"
 #include "posix/PosixScriptRunner.h"
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
+#include "qt/binding/AlertBox.h"
 #include "qt/binding/OutletBinder.h"
-#include "bus/DBusMessageCenter.h"
+#include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QtDebug>
 
@@ -44,7 +47,10 @@ QtPlatform::Parts partsOfThePlatform() {
     auto messages = std::make_unique<DBusMessageCenter>(options);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
     return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
-            std::make_unique<posix::PosixScriptRunner>(), std::move(processes)};
+            std::make_unique<posix::PosixScriptRunner>([](const std::function<void()>& call) {
+                QMetaObject::invokeMethod(qApp, call, Qt::QueuedConnection);
+            }),
+            std::move(processes)};
 }
 
 } // namespace
@@ -54,7 +60,9 @@ struct ZarvilPane::Loaded {
     explicit Loaded(const QString& root)
         : platform(partsOfThePlatform(), qt::fromQt(root)),
           controller(platform.platform()),
-          view(std::make_unique<qt::PaneView>()) {
+          view(std::make_unique<qt::PaneView>()),
+          alerts(platform.alerts(), *view),
+          scriptWindow(controller.scriptProgress, *view) {
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
             qWarning().noquote() << "Layout:" << qt::toQt(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
@@ -65,6 +73,8 @@ struct ZarvilPane::Loaded {
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;
+    qt::AlertBox alerts;
+    qt::ScriptWindow scriptWindow;
     qt::Subscriptions bindings;
 };
 
