@@ -93,6 +93,7 @@ void Zarvil_Preferences::registerForAgentMessages() {
                 (this->*method)(&message);
             }));
     }
+    link_ = platform_.messages.observeLink([this](LinkEvent event) { linkChanged(event); });
 }
 
 void Zarvil_Preferences::post(std::string_view name) { platform_.messages.post(Message(name)); }

@@ -150,7 +150,9 @@ private:
     static const std::vector<NamedHandler>& handlers();
 
     void registerForAgentMessages();
+    void linkChanged(LinkEvent event);
     void setUpAuthorization();
+    void clickLock();
     void checkAuthorization(Interaction interaction);
     void closeTip();
     [[nodiscard]] std::string agentApplicationPath() const;
@@ -199,6 +201,8 @@ private:
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
     std::vector<Subscription> agentMessages_;
+    Subscription link_;
+    std::shared_ptr<char> lifetime_ = std::make_shared<char>();
 };
 
 } // namespace zarvil
