@@ -77,7 +77,7 @@ public:
         return true;
     }
     std::vector<RunningApplication> runningApplications() const override { return running; }
-    std::string mainBundleIdentifier() const override { return "com.Tessrow.Preferences"; }
+    std::string mainBundleIdentifier() const override { return hostIdentifier; }
     bool openURL(std::string_view url) override {
         opened.emplace_back(url);
         return true;
@@ -86,6 +86,7 @@ public:
     std::vector<std::string> launched;
     std::vector<std::string> opened;
     std::vector<RunningApplication> running;
+    std::string hostIdentifier = "com.Tessrow.Preferences";
 };
 
 class UserDefaults final : public zarvil::UserDefaults {
@@ -162,8 +163,10 @@ public:
     void check(std::string_view right, Interaction interaction, Reply reply) override {
         questions.push_back({std::string(right), interaction, std::move(reply)});
     }
+    void release(std::string_view right) override { released.emplace_back(right); }
 
     std::vector<Question> questions;
+    std::vector<std::string> released;
 };
 
 /// Runs `duringModal` where the user would be operating the panel.

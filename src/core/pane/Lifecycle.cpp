@@ -53,23 +53,35 @@ void Zarvil_Preferences::mainViewDidLoad() {
 }
 
 void Zarvil_Preferences::setUpAuthorization() {
-    authView.onClick = [this] { checkAuthorization(Interaction::MayAskUser); };
+    authView.onClick = [this] { clickLock(); };
     authView.onUpdateStatus = [this] { checkAuthorization(Interaction::None); };
     authView.setAuthorizationRights({{std::string(product::adminRight)}});
     authView.setDelegate(this);
     authView.updateStatus();
 }
 
+void Zarvil_Preferences::clickLock() {
+    if (!isUnlocked()) {
+        checkAuthorization(Interaction::MayAskUser);
+        return;
+    }
+    platform_.authorization.release(product::adminRight);
+    authView.show(authorizationState::locked, {});
+}
+
 void Zarvil_Preferences::checkAuthorization(Interaction interaction) {
     if (authView.authorizationState() == authorizationState::inProgress)
         return;
     authView.show(authorizationState::inProgress, {});
-    platform_.authorization.check(product::adminRight, interaction,
-                                  [this](const AuthorizationOutcome& outcome) {
-                                      authView.show(outcome.granted ? authorizationState::unlocked
-                                                                    : authorizationState::locked,
-                                                    outcome.reason);
-                                  });
+    platform_.authorization.check(
+        product::adminRight, interaction,
+        [this, alive = std::weak_ptr<char>(lifetime_)](const AuthorizationOutcome& outcome) {
+            // The user may take minutes to answer, and the pane may be gone by then.
+            if (!alive.expired())
+                authView.show(outcome.granted ? authorizationState::unlocked
+                                              : authorizationState::locked,
+                              outcome.reason);
+        });
 }
 
 bool Zarvil_Preferences::isUnlocked() const {

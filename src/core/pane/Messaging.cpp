@@ -96,6 +96,9 @@ void Zarvil_Preferences::registerForAgentMessages() {
             handler.message,
             [this, method = handler.method](const Message& message) { handle(method, message); }));
     }
+    link_ = platform_.messages.observeLink([this](LinkEvent event) {
+        platform_.handlers.run([this](LinkEvent handled) { linkChanged(handled); }, event);
+    });
 }
 
 void Zarvil_Preferences::handle(MessageHandler method, const Message& message) {

@@ -30,6 +30,9 @@ Outlets::Outlets(Platform& platform)
     showAgentAsAbsent();
     greyWhatNeedsTheAgent();
     pushValidationStatus.setHidden(true);
+    noBusDesc.setStringValue(platform.strings.localizedString(
+        "There is no session bus, so Zarvil cannot be reached. Trying again…"));
+    noBusDesc.setHidden(true);
 }
 
 void Outlets::showAgentAsAbsent() {

@@ -26,6 +26,8 @@ public:
     Button launchButton;
     TextField launchedDesc;
     TextField notLaunchedDesc;
+    /// Shown while there is nothing that carries messages to the agent.
+    TextField noBusDesc;
 
     // Devices.
     ArrayController arrayController;
@@ -94,6 +96,7 @@ void visitOutlets(Outlets& outlets, Visitor&& visitor) {
     visitor("launchButton", outlets.launchButton);
     visitor("launchedDesc", outlets.launchedDesc);
     visitor("notLaunchedDesc", outlets.notLaunchedDesc);
+    visitor("noBusDesc", outlets.noBusDesc);
 
     visitor("connectedDevices", outlets.connectedDevices);
     visitor("selectedDevices", outlets.selectedDevices);

@@ -116,11 +116,30 @@ void Zarvil_Preferences::quitePrefs(const Message* /*message*/) {
     platform_.processes.exit(0);
 }
 
+void Zarvil_Preferences::linkChanged(LinkEvent event) {
+    switch (event) {
+    case LinkEvent::Up:
+        noBusDesc.setHidden(true);
+        break;
+    case LinkEvent::Down:
+        // No need to wait for an answer: what the user changed meanwhile would be lost.
+        noBusDesc.setHidden(false);
+        appDidNotAnswer();
+        break;
+    case LinkEvent::NewPeer:
+        // What is on screen is the former agent's. The new one's first answer asks for its own.
+        lostConnection = true;
+        appStatus();
+        break;
+    }
+}
+
 bool Zarvil_Preferences::killHost() {
+    const std::string identifier = platform_.workspace.mainBundleIdentifier();
     const auto running = platform_.workspace.runningApplications();
-    const auto host = std::ranges::find(running, platform_.workspace.mainBundleIdentifier(),
-                                        &RunningApplication::bundleIdentifier);
-    if (host == running.end())
+    const auto host = std::ranges::find(running, identifier, &RunningApplication::bundleIdentifier);
+    // Without an identifier of its own the host cannot be told from others without one.
+    if (identifier.empty() || host == running.end())
         return false;
     platform_.processes.kill(host->processIdentifier);
     return true;

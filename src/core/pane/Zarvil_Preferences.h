@@ -151,7 +151,9 @@ private:
 
     void registerForAgentMessages();
     void handle(MessageHandler method, const Message& message);
+    void linkChanged(LinkEvent event);
     void setUpAuthorization();
+    void clickLock();
     void checkAuthorization(Interaction interaction);
     void closeTip();
     [[nodiscard]] std::string agentApplicationPath() const;
@@ -201,6 +203,8 @@ private:
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
     std::vector<Subscription> agentMessages_;
+    Subscription link_;
+    std::shared_ptr<char> lifetime_ = std::make_shared<char>();
 };
 
 } // namespace zarvil

@@ -27,6 +27,8 @@ public:
 
     /// Never waits: the reply comes later on the main thread, once, unless this object goes first.
     virtual void check(std::string_view right, Interaction interaction, Reply reply) = 0;
+    /// Gives back what the user has been granted by authenticating; without that, nothing.
+    virtual void release(std::string_view right) = 0;
 };
 
 } // namespace zarvil

@@ -19,8 +19,9 @@ StickyClick stickyClick() {
 
 } // namespace
 
-QtPlatform::QtPlatform(Parts parts, std::string root)
+QtPlatform::QtPlatform(Parts parts, MessageBus& session, std::string root)
     : parts_(std::move(parts)),
+      workspace_(session),
       platform_{handlers_,       *parts_.messages,
                 timers_,         clock_,
                 workspace_,      *parts_.files,

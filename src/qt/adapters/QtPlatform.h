@@ -1,6 +1,5 @@
 #pragma once
 
-#include "bus/BusConnection.h"
 #include "pane/Platform.h"
 #include "platform/AlertQueue.h"
 #include "qt/adapters/PolkitAuthorization.h"
@@ -27,8 +26,8 @@ public:
         std::unique_ptr<ProcessControl> processes;
     };
 
-    /// `root` is put before the absolute product paths.
-    QtPlatform(Parts parts, std::string root);
+    /// `root` is put before the absolute product paths. The bus must outlive this.
+    QtPlatform(Parts parts, MessageBus& session, std::string root);
     QtPlatform(const QtPlatform&) = delete;
     QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() = default;
@@ -40,10 +39,9 @@ public:
 private:
     HandlerQueue handlers_;
     Parts parts_;
-    BusConnection session_{BusConnection::sessionBus()};
     QtTimers timers_;
     QtClock clock_;
-    QtWorkspace workspace_{session_};
+    QtWorkspace workspace_;
     QtUserDefaults defaults_;
     PolkitAuthorization authorization_;
     QtStringTable strings_;

@@ -1,12 +1,10 @@
 #include "qt/adapters/QtWorkspace.h"
 
+#include "bus/BusDaemon.h"
+#include "bus/MessageBus.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "bus/BusConnection.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingReply>
-#include <QDBusReply>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -15,7 +13,6 @@
 #include <QtDebug>
 
 #include <chrono>
-#include <utility>
 
 namespace zarvil {
 
@@ -44,17 +41,6 @@ QString identifierOf(const QString& bundle) {
     return isAgent ? text(product::agentIdentifier) : QString();
 }
 
-QDBusMessage busCall(const QString& method, const QVariantList& arguments = {}) {
-    auto call = QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                               "org.freedesktop.DBus", method);
-    call.setArguments(arguments);
-    return call;
-}
-
-bool isApplicationName(const QString& name) {
-    return !name.startsWith(':') && name != QLatin1String("org.freedesktop.DBus");
-}
-
 } // namespace
 
 bool QtWorkspace::launchApplication(std::string_view path) {
@@ -70,28 +56,17 @@ bool QtWorkspace::launchApplication(std::string_view path) {
 }
 
 bool QtWorkspace::activate(const QString& identifier) {
-    const auto bus = identifier.isEmpty() ? std::nullopt : session_.wait(connectLimit);
+    if (identifier.isEmpty())
+        return false;
+    const auto& bus = session_.wait(connectLimit);
     return bus && bus->send(busCall("StartServiceByName", {identifier, 0U}));
 }
 
 std::vector<RunningApplication> QtWorkspace::runningApplications() const {
-    const auto bus = session_.wait(connectLimit);
-    if (!bus)
-        return {};
-    const QDBusReply<QStringList> names =
-        bus->call(busCall("ListNames"), QDBus::Block, answerLimit);
-    // All questions go out before the first answer is waited for, so that the limits do not add up.
-    std::vector<std::pair<QString, QDBusPendingReply<uint>>> answers;
-    for (const QString& name : names.value())
-        if (isApplicationName(name))
-            answers.emplace_back(
-                name, bus->asyncCall(busCall("GetConnectionUnixProcessID", {name}), answerLimit));
     std::vector<RunningApplication> running;
-    for (auto& [name, processIdentifier] : answers) {
-        processIdentifier.waitForFinished();
-        if (processIdentifier.isValid())
-            running.push_back({name.toStdString(), processIdentifier.value()});
-    }
+    if (const auto& bus = session_.wait(connectLimit))
+        for (const auto& [name, process] : ownedNames(*bus, answerLimit))
+            running.push_back({name.toStdString(), process});
     return running;
 }
 

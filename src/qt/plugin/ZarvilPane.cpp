@@ -41,10 +41,8 @@ private:
     posix::PosixProcessControl processes_;
 };
 
-QtPlatform::Parts partsOfThePlatform() {
-    DBusOptions options;
-    options.acceptFrom = QString::fromLatin1(bus::agentName);
-    auto messages = std::make_unique<DBusMessageCenter>(options);
+QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
+    auto messages = std::make_unique<DBusMessageCenter>(session, bus::agentName);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
     return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
             std::make_unique<posix::PosixScriptRunner>([](const std::function<void()>& call) {
@@ -57,8 +55,9 @@ QtPlatform::Parts partsOfThePlatform() {
 
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
-    explicit Loaded(const QString& root)
-        : platform(partsOfThePlatform(), qt::fromQt(root)),
+    explicit Loaded(const PaneOptions& options)
+        : platform(partsOfThePlatform(*options.session), *options.session,
+                   qt::fromQt(options.root)),
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
@@ -92,7 +91,7 @@ QIcon ZarvilPane::icon() const { return {}; }
 
 QWidget* ZarvilPane::mainView() {
     if (!loaded_)
-        loaded_ = std::make_unique<Loaded>(options_.root);
+        loaded_ = std::make_unique<Loaded>(options_);
     return loaded_->view.get();
 }
 
