@@ -26,6 +26,7 @@ Outlets::Outlets(Platform& platform)
       selectedDevices(savedArrayController, deviceItem),
       toggleMinSec(ButtonKind::Toggle, switchCell(platform)),
       scriptsCollection(scriptsArrayController, scriptItem(platform)) {
+    toggleMinSec.setTitle(platform.strings.localizedString("seconds"));
     showAgentAsAbsent();
     greyWhatNeedsTheAgent();
     pushValidationStatus.setHidden(true);

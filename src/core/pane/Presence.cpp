@@ -24,6 +24,7 @@ void Zarvil_Preferences::appStatus() {
 }
 
 void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
+    guidance.agentDidAnswer();
     if (lostConnection) {
         lostConnection = false;
         emptyDeviceLists();
@@ -45,6 +46,7 @@ void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
 }
 
 void Zarvil_Preferences::appDidNotAnswer() {
+    guidance.agentDidNotAnswer();
     lostConnection = true;
     launchButton.setEnabled(true);
     appOfflineTimer.reset();
@@ -80,7 +82,7 @@ void Zarvil_Preferences::emptyDeviceLists() {
 
 void Zarvil_Preferences::launchApp(Control* /*sender*/) {
     launchButton.setEnabled(false);
-    platform_.workspace.launchApplication(agentApplicationPath());
+    guidance.launchDidBegin(platform_.workspace.launchApplication(agentApplicationPath()));
 }
 
 void Zarvil_Preferences::quitApp(Control* sender) {
