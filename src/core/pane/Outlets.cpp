@@ -27,12 +27,10 @@ Outlets::Outlets(Platform& platform)
       toggleMinSec(ButtonKind::Toggle, switchCell(platform)),
       scriptProgress(platform),
       scriptsCollection(scriptsArrayController, scriptItem(platform, scriptProgress)) {
+    toggleMinSec.setTitle(platform.strings.localizedString("seconds"));
     showAgentAsAbsent();
     greyWhatNeedsTheAgent();
     pushValidationStatus.setHidden(true);
-    noBusDesc.setStringValue(platform.strings.localizedString(
-        "There is no session bus, so Zarvil cannot be reached. Trying again…"));
-    noBusDesc.setHidden(true);
 }
 
 void Outlets::showAgentAsAbsent() {

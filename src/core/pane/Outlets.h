@@ -26,8 +26,6 @@ public:
     Button launchButton;
     TextField launchedDesc;
     TextField notLaunchedDesc;
-    /// Shown while there is nothing that carries messages to the agent.
-    TextField noBusDesc;
 
     // Devices.
     ArrayController arrayController;
@@ -96,7 +94,6 @@ void visitOutlets(Outlets& outlets, Visitor&& visitor) {
     visitor("launchButton", outlets.launchButton);
     visitor("launchedDesc", outlets.launchedDesc);
     visitor("notLaunchedDesc", outlets.notLaunchedDesc);
-    visitor("noBusDesc", outlets.noBusDesc);
 
     visitor("connectedDevices", outlets.connectedDevices);
     visitor("selectedDevices", outlets.selectedDevices);

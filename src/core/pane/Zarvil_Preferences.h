@@ -3,6 +3,7 @@
 #include "devices/DeviceList.h"
 #include "devices/ZVCollectionItem.h"
 #include "interface/NotificationCenter.h"
+#include "pane/Guidance.h"
 #include "pane/Outlets.h"
 #include "pane/Platform.h"
 #include "scripts/ZVScriptCollectionItem.h"
@@ -120,6 +121,9 @@ public:
     void fbLike(Control* sender);
     void tweet(Control* sender);
     void feedback(Control* sender);
+
+    /// What is said of all this beside the outlets.
+    Guidance guidance;
 
     // State shared by the concerns.
     std::string appId;

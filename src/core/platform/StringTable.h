@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,16 @@ public:
 
     /// The translation, or the key itself, which is the English text.
     [[nodiscard]] virtual std::string localizedString(std::string_view key) const = 0;
+
+    /// A text that tells of a number, which stands for its "%n". A table that knows of more forms
+    /// than these two, the key being `many`, picks the one that its language asks for.
+    [[nodiscard]] virtual std::string localizedCount(std::string_view one, std::string_view many,
+                                                     std::int64_t count) const {
+        std::string text = localizedString(count == 1 ? one : many);
+        if (const auto place = text.find("%n"); place != std::string::npos)
+            text.replace(place, 2, std::to_string(count));
+        return text;
+    }
 };
 
 } // namespace zarvil

@@ -1,14 +1,18 @@
 #include "qt/binding/Bindings.h"
 
 #include "interface/AuthorizationView.h"
+#include "interface/Banner.h"
 #include "interface/Button.h"
 #include "interface/Panel.h"
 #include "interface/ProgressIndicator.h"
+#include "interface/Symbol.h"
 #include "interface/TextField.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/Opacity.h"
 #include "qt/binding/Spinner.h"
 #include "qt/canvas/Convert.h"
+#include "qt/widgets/Form.h"
+#include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -124,13 +128,21 @@ void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kep
 
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
-    const auto show = [&model, &widget] {
-        widget.showState(model.authorizationState(), toQt(model.reasonProperty().get()));
-    };
-    kept.push_back(model.stateProperty().observe([show](int, Transition) { show(); }));
-    kept.push_back(
-        model.reasonProperty().observe([show](const std::string&, Transition) { show(); }));
+    kept.push_back(model.reasonProperty().observe(
+        [&widget](const std::string& reason, Transition) { widget.setReason(toQt(reason)); }));
     QObject::connect(&widget, &LockWidget::clicked, &widget, [&model] { model.performClick(); });
+}
+
+void bindSymbol(SymbolView& model, SymbolWidget& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(model.symbolProperty().observe(
+        [&widget](Symbol symbol, Transition) { widget.setSymbol(symbol); }));
+}
+
+void bindBanner(Banner& model, BannerRow& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(model.prominentProperty().observe(
+        [&widget](bool prominent, Transition) { widget.setProminent(prominent); }));
 }
 
 void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept) {

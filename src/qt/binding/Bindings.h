@@ -12,9 +12,11 @@ class QWidget;
 
 namespace zarvil {
 class AuthorizationView;
+class Banner;
 class Button;
 class Panel;
 class ProgressIndicator;
+class SymbolView;
 class TextField;
 class View;
 } // namespace zarvil
@@ -24,8 +26,10 @@ class View;
 /// A binding lasts as long as its subscriptions and must end before widget or model goes.
 namespace zarvil::qt {
 
+class BannerRow;
 class LockWidget;
 class Spinner;
+class SymbolWidget;
 
 using Subscriptions = std::vector<Subscription>;
 
@@ -35,6 +39,8 @@ void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept);
 void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept);
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept);
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept);
+void bindSymbol(SymbolView& model, SymbolWidget& widget, Subscriptions& kept);
+void bindBanner(Banner& model, BannerRow& widget, Subscriptions& kept);
 void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept);
 
 } // namespace zarvil::qt

@@ -6,13 +6,16 @@
 #include "qt/canvas/Convert.h"
 #include "qt/devices/DeviceListView.h"
 #include "qt/scripts/ScriptListView.h"
+#include "qt/widgets/Form.h"
 #include "qt/widgets/LinkButtonWidget.h"
 #include "qt/widgets/SwitchWidget.h"
+#include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTabWidget>
 
 #include <algorithm>
 #include <map>
@@ -79,19 +82,41 @@ public:
             mismatch(name);
     }
 
+    void operator()(std::string_view name, SymbolView& model) {
+        if (auto* symbol = findAs<SymbolWidget>(name))
+            bindSymbol(model, *symbol, kept_);
+    }
+
+    void operator()(std::string_view name, Banner& model) {
+        if (auto* banner = findAs<BannerRow>(name))
+            bindBanner(model, *banner, kept_);
+    }
+
     void operator()(std::string_view name, View& model) {
         if (QWidget* widget = find(name))
             bindView(model, *widget, kept_);
     }
 
-    /// Actions of widgets that are no outlets, captions that show an outlet's title, and widgets
+    /// The pages stand in the order of `Tab`.
+    void bindTabs() {
+        auto* tabs = layout_.findChild<QTabWidget*>(QStringLiteral("tabView"));
+        if (!tabs)
+            return;
+        Guidance& guidance = pane_.guidance;
+        kept_.push_back(guidance.selectedTabProperty().observe(
+            [tabs](Tab tab, Transition) { tabs->setCurrentIndex(static_cast<int>(tab)); }));
+        QObject::connect(tabs, &QTabWidget::currentChanged, tabs,
+                         [&guidance](int index) { guidance.selectTab(static_cast<Tab>(index)); });
+    }
+
+    /// Actions of widgets that are no outlets, captions that tell of an outlet's fault, and widgets
     /// that claim a name that the pane does not know.
     void bindTheRest() {
         for (QWidget* widget : layout_.findChildren<QWidget*>()) {
             checkName(*widget);
             checkAction(*widget);
             if (auto* label = qobject_cast<QLabel*>(widget))
-                bindCaption(*label);
+                bindFault(*label);
         }
     }
 
@@ -156,31 +181,21 @@ private:
             faults_.push_back("the widget of the action " + action + " is no button");
     }
 
-    /// A label beside an outlet that shows the title of a button or the fault of a field.
-    void bindCaption(QLabel& label) {
-        const std::string titled = fromQt(label.property("titleOf").toString());
-        const std::string faulty = fromQt(label.property("faultOf").toString());
+    /// A label that shows the fault of a field.
+    void bindFault(QLabel& label) {
+        const std::string name = fromQt(label.property("faultOf").toString());
+        if (name.empty())
+            return;
         visitOutlets(pane_, [&](std::string_view outlet, View& view) {
-            if (auto* button = dynamic_cast<Button*>(&view); button && outlet == titled)
-                bindTitle(*button, label);
-            else if (auto* field = dynamic_cast<TextField*>(&view); field && outlet == faulty)
-                bindFault(*field, label);
+            const auto* field = dynamic_cast<TextField*>(&view);
+            if (!field || outlet != name)
+                return;
+            kept_.push_back(
+                field->faultProperty().observe([&label](const std::string& fault, Transition) {
+                    label.setText(toQt(fault));
+                    label.setHidden(fault.empty());
+                }));
         });
-    }
-
-    void bindTitle(Button& button, QLabel& label) {
-        if (button.title().empty())
-            button.setTitle(fromQt(label.text()));
-        kept_.push_back(button.titleProperty().observe(
-            [&label](const std::string& title, Transition) { label.setText(toQt(title)); }));
-    }
-
-    void bindFault(TextField& field, QLabel& label) {
-        kept_.push_back(
-            field.faultProperty().observe([&label](const std::string& fault, Transition) {
-                label.setText(toQt(fault));
-                label.setHidden(fault.empty());
-            }));
     }
 
     Zarvil_Preferences& pane_;
@@ -196,6 +211,8 @@ Faults bindOutlets(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kep
     Faults faults;
     Binder binder(pane, layout, kept, faults);
     visitOutlets(pane, binder);
+    visitGuidance(pane.guidance, binder);
+    binder.bindTabs();
     binder.bindTheRest();
     return faults;
 }
