@@ -20,11 +20,6 @@ namespace {
 
 using namespace zarvil;
 
-class UnknownMouse final : public MouseParameters {
-public:
-    [[nodiscard]] std::optional<StickyClick> stickyClick() const override { return std::nullopt; }
-};
-
 class StandingClock final : public Clock {
 public:
     [[nodiscard]] double timeIntervalSinceReferenceDate() const override { return 0; }
@@ -67,9 +62,8 @@ constexpr int runs = 5000;
 /// The knob goes to and fro below the pointer, from one end of the track to the other.
 template <typename CanvasType>
 void benchSwitch(const char* name, double step) {
-    const UnknownMouse mouse;
     const StandingClock clock;
-    KXButtonCell cell(mouse, clock);
+    KXButtonCell cell(std::nullopt, clock);
     cell.startTrackingAt({10, 13}, nullptr);
     QImage window = surface({60, 26}, 2);
     report(name, runs, [&](int index) {

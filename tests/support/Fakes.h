@@ -143,13 +143,6 @@ public:
     std::vector<Question> questions;
 };
 
-class MouseParameters final : public zarvil::MouseParameters {
-public:
-    std::optional<StickyClick> stickyClick() const override { return parameters; }
-
-    std::optional<StickyClick> parameters;
-};
-
 /// Runs `duringModal` where the user would be operating the panel.
 class ModalLoop final : public zarvil::ModalLoop {
 public:

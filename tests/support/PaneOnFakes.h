@@ -12,7 +12,7 @@ struct PaneOnFakes {
     explicit PaneOnFakes(FileManager* onDisk = nullptr)
         : disk(onDisk ? *onDisk : files), platform{bus,           time,     time,   workspace,
                                                    disk,          defaults, errors, scriptRunner,
-                                                   authorization, strings,  mouse,  modal,
+                                                   authorization, strings,  {},     modal,
                                                    processes,     ""} {}
 
     InProcessMessageCenter bus;
@@ -24,7 +24,6 @@ struct PaneOnFakes {
     fake::ScriptRunner scriptRunner;
     fake::Authorization authorization;
     fake::StringTable strings;
-    fake::MouseParameters mouse;
     fake::ModalLoop modal;
     fake::ProcessControl processes;
     FileManager& disk;

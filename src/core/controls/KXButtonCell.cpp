@@ -11,13 +11,9 @@ constexpr StickyClick fallbackClick{static_cast<double>(0.3F), {6, 6}};
 
 } // namespace
 
-KXButtonCell::KXButtonCell(const MouseParameters& mouse, const Clock& clock) : clock_(clock) {
-    setup(mouse);
-}
-
-void KXButtonCell::setup(const MouseParameters& mouse) {
+KXButtonCell::KXButtonCell(std::optional<StickyClick> desktop, const Clock& clock) : clock_(clock) {
     setFocusRingType(defaultFocusRingType());
-    const StickyClick click = mouse.stickyClick().value_or(fallbackClick);
+    const StickyClick click = desktop.value_or(fallbackClick);
     _clickTimeout = click.timeout;
     _clickBias = click.bias;
 }

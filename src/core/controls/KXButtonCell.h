@@ -3,7 +3,7 @@
 #include "interface/ButtonCell.h"
 #include "platform/Canvas.h"
 #include "platform/Clock.h"
-#include "platform/MouseParameters.h"
+#include "platform/StickyClick.h"
 
 #include <memory>
 #include <optional>
@@ -16,8 +16,8 @@ namespace zarvil {
 /// flips it as any toggle; after a drag the side where the knob was let go decides.
 class KXButtonCell final : public ButtonCell {
 public:
-    /// Reads the click thresholds once. The clock must outlive the cell.
-    KXButtonCell(const MouseParameters& mouse, const Clock& clock);
+    /// Without thresholds of the desktop it has its own. The clock must outlive the cell.
+    KXButtonCell(std::optional<StickyClick> desktop, const Clock& clock);
 
     [[nodiscard]] static FocusRingType defaultFocusRingType() { return FocusRingType::Exterior; }
 
@@ -64,7 +64,6 @@ public:
 private:
     struct Geometry;
 
-    void setup(const MouseParameters& mouse);
     [[nodiscard]] bool isClick(Point stop) const;
     [[nodiscard]] Geometry geometry(const Rect& frame) const;
     void drawTrack(const Geometry& geometry, Canvas& canvas) const;

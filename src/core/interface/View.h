@@ -35,8 +35,8 @@ public:
     }
     [[nodiscard]] double alphaValue() const { return alpha_.get(); }
     /// In the superview's coordinates, in points; the front end keeps it current.
-    void setFrame(Rect frame) { frame_.set(frame); }
-    [[nodiscard]] Rect frame() const { return frame_.get(); }
+    void setFrame(Rect frame) { frame_ = frame; }
+    [[nodiscard]] Rect frame() const { return frame_; }
     [[nodiscard]] Rect bounds() const { return {0, 0, frame().width, frame().height}; }
 
     void addTrackingArea(std::shared_ptr<const TrackingArea> area) {
@@ -54,12 +54,11 @@ public:
 
     [[nodiscard]] const Property<bool>& hiddenProperty() const { return hidden_; }
     [[nodiscard]] const Property<double>& alphaProperty() const { return alpha_; }
-    [[nodiscard]] const Property<Rect>& frameProperty() const { return frame_; }
 
 private:
     Property<bool> hidden_{false};
     Property<double> alpha_{alpha::active};
-    Property<Rect> frame_;
+    Rect frame_;
     std::vector<std::shared_ptr<const TrackingArea>> trackingAreas_;
 };
 

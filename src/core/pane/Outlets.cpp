@@ -9,7 +9,7 @@ namespace zarvil {
 namespace {
 
 std::unique_ptr<ButtonCell> switchCell(Platform& platform) {
-    return std::make_unique<KXButtonCell>(platform.mouse, platform.clock);
+    return std::make_unique<KXButtonCell>(platform.stickyClick, platform.clock);
 }
 
 std::shared_ptr<CollectionViewItem> deviceItem() { return std::make_shared<ZVCollectionItem>(); }

@@ -5,15 +5,16 @@
 #include "platform/ErrorPresenter.h"
 #include "platform/FileManager.h"
 #include "platform/ModalLoop.h"
-#include "platform/MouseParameters.h"
 #include "platform/ProcessControl.h"
 #include "platform/ScriptRunner.h"
+#include "platform/StickyClick.h"
 #include "platform/StringTable.h"
 #include "platform/Timers.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "protocol/MessageCenter.h"
 
+#include <optional>
 #include <string>
 
 namespace zarvil {
@@ -30,11 +31,14 @@ struct Platform {
     ScriptRunner& scripts;
     Authorization& authorization;
     StringTable& strings;
-    MouseParameters& mouse;
+    /// The desktop's; nothing where it does not tell.
+    std::optional<StickyClick> stickyClick;
     ModalLoop& modal;
     ProcessControl& processes;
     /// Put before the absolute product paths; empty for the real ones.
     std::string root;
+    /// Between the whole and the fraction of a number, as the user writes it; in UTF-8.
+    std::string decimalSeparator = ".";
 };
 
 } // namespace zarvil

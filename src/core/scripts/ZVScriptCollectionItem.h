@@ -76,10 +76,9 @@ public:
     void removeFile();
 
     // State.
-    [[nodiscard]] bool editing() const { return editing_.get(); }
+    [[nodiscard]] bool editing() const { return editing_; }
     /// The flag alone; `edit` brings the fields.
-    void setEditing(bool editing) { editing_.set(editing); }
-    [[nodiscard]] const Property<bool>& editingProperty() const { return editing_; }
+    void setEditing(bool editing) { editing_ = editing; }
 
     /// Null for an item that no record was handed to.
     [[nodiscard]] const Record& data() const { return data_; }
@@ -106,7 +105,7 @@ private:
     ScriptItemView view_;
     ScriptEditField* eTitle_ = nullptr;
     ScriptEditField* eText_ = nullptr;
-    Property<bool> editing_{false};
+    bool editing_ = false;
     Record data_;
     CollectionViewDelegate* owner_ = nullptr;
     TextField* text_ = nullptr;

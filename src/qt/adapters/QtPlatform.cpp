@@ -1,14 +1,30 @@
 #include "qt/adapters/QtPlatform.h"
 
+#include <QGuiApplication>
+#include <QLocale>
+#include <QStyleHints>
+
 #include <utility>
 
 namespace zarvil {
 
+namespace {
+
+/// The double-click interval and the drag distance.
+StickyClick stickyClick() {
+    const QStyleHints* hints = QGuiApplication::styleHints();
+    const double distance = hints->startDragDistance();
+    return {hints->mouseDoubleClickInterval() / 1000.0, {distance, distance}};
+}
+
+} // namespace
+
 QtPlatform::QtPlatform(Parts parts, std::string root)
-    : parts_(std::move(parts)), platform_{*parts_.messages,  timers_,         clock_,
-                                          workspace_,        *parts_.files,   defaults_,
-                                          errors_,           *parts_.scripts, authorization_,
-                                          strings_,          mouse_,          modal_,
-                                          *parts_.processes, std::move(root)} {}
+    : parts_(std::move(parts)),
+      platform_{*parts_.messages,  timers_,         clock_,
+                workspace_,        *parts_.files,   defaults_,
+                errors_,           *parts_.scripts, authorization_,
+                strings_,          stickyClick(),   modal_,
+                *parts_.processes, std::move(root), QLocale().decimalPoint().toStdString()} {}
 
 } // namespace zarvil

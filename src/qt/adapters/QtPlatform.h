@@ -1,12 +1,11 @@
 #pragma once
 
-#include "pane/Platform.h"
 #include "bus/BusConnection.h"
+#include "pane/Platform.h"
 #include "qt/adapters/PolkitAuthorization.h"
 #include "qt/adapters/QtClock.h"
 #include "qt/adapters/QtErrorPresenter.h"
 #include "qt/adapters/QtModalLoop.h"
-#include "qt/adapters/QtMouseParameters.h"
 #include "qt/adapters/QtStringTable.h"
 #include "qt/adapters/QtTimers.h"
 #include "qt/adapters/QtUserDefaults.h"
@@ -46,7 +45,6 @@ private:
     QtErrorPresenter errors_;
     PolkitAuthorization authorization_;
     QtStringTable strings_;
-    QtMouseParameters mouse_;
     QtModalLoop modal_;
     Platform platform_;
 };

@@ -12,11 +12,6 @@ namespace zarvil::gallery {
 
 namespace {
 
-class UnknownMouse final : public MouseParameters {
-public:
-    [[nodiscard]] std::optional<StickyClick> stickyClick() const override { return std::nullopt; }
-};
-
 class StandingClock final : public Clock {
 public:
     [[nodiscard]] double timeIntervalSinceReferenceDate() const override { return 0; }
@@ -39,9 +34,8 @@ struct SwitchCase {
 };
 
 void drawSwitch(const SwitchCase& shown, Canvas& canvas) {
-    const UnknownMouse mouse;
     const StandingClock clock;
-    KXButtonCell cell(mouse, clock);
+    KXButtonCell cell(std::nullopt, clock);
     cell.setState(shown.state);
     cell.setEnabled(shown.enabled);
     cell.setBackgroundColor(shown.background);

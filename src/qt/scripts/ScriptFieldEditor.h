@@ -32,7 +32,6 @@ public:
 
     [[nodiscard]] QWidget* widget() const { return widget_; }
     [[nodiscard]] const ScriptEditField* field() const { return field_.get(); }
-    [[nodiscard]] bool isMultiLine() const { return multiLine_; }
 
 private:
     QWidget* makeLine(QWidget* card);

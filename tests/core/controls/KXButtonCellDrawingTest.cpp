@@ -33,9 +33,8 @@ protected:
         return {};
     }
 
-    fake::MouseParameters mouse;
     fake::VirtualTime time;
-    KXButtonCell cell{mouse, time};
+    KXButtonCell cell{std::nullopt, time};
     fake::RecordingCanvas canvas;
 };
 

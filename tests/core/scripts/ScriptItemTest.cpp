@@ -163,7 +163,7 @@ TEST_F(ScriptItem, survivesAListThatIsEmptiedDuringItsOwnAlert) {
     for (const auto& [name, operate] : cases) {
         EmptyingPresenter presenter;
         Platform other{bus,          time,          time,    workspace, files, defaults,  presenter,
-                       scriptRunner, authorization, strings, mouse,     modal, processes, ""};
+                       scriptRunner, authorization, strings, {},        modal, processes, ""};
         Zarvil_Preferences owner(other);
         presenter.onPresent = [&owner] { owner.unloadScripts(); };
         files.files = {{pathOf("a.txt"), "echo a"}};

@@ -93,9 +93,8 @@ TEST(Shadow, ofALayerIsTheShadowOfItsPicture) {
 }
 
 QImage drawnSwitch(int state, bool enabled) {
-    const fake::MouseParameters mouse;
     const fake::VirtualTime time;
-    KXButtonCell cell(mouse, time);
+    KXButtonCell cell(std::nullopt, time);
     cell.setState(state);
     cell.setEnabled(enabled);
     return drawn({60, 26}, 2, Orientation::YDown, [&](Canvas& canvas) {

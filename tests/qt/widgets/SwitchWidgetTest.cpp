@@ -48,9 +48,8 @@ protected:
     QAccessibleInterface* accessible() { return QAccessible::queryAccessibleInterface(&widget); }
     QImage picture() { return window.grab().toImage(); }
 
-    fake::MouseParameters mouse;
     fake::VirtualTime time;
-    Button model{ButtonKind::Toggle, std::make_unique<KXButtonCell>(mouse, time)};
+    Button model{ButtonKind::Toggle, std::make_unique<KXButtonCell>(std::nullopt, time)};
     Target target;
     QWidget window;
     SwitchWidget widget{&window};
@@ -176,9 +175,8 @@ TEST_F(SwitchWidgetTest, tellsAssistiveTechnologiesWhatItIs) {
 }
 
 TEST(SwitchWidget, drawsInNoRoomAtAll) {
-    fake::MouseParameters mouse;
     fake::VirtualTime time;
-    Button model{ButtonKind::Toggle, std::make_unique<KXButtonCell>(mouse, time)};
+    Button model{ButtonKind::Toggle, std::make_unique<KXButtonCell>(std::nullopt, time)};
     SwitchWidget widget;
     widget.setModel(model);
     for (const QSize size : {QSize(1, 1), QSize(6, 6), QSize(8, 7), QSize(9, 30), QSize(200, 9)}) {
