@@ -7,8 +7,7 @@ namespace zarvil {
 void Zarvil_Preferences::showSavedEmail(const Dictionary& settings) {
     const std::string* address = settings.stringForKey(setting::emailAddress);
     if (address && !address->empty())
-        sendEmail.setState(settings.boolForKey(setting::useEmailNotifi) ? buttonState::on
-                                                                        : buttonState::off);
+        sendEmail.setOn(settings.boolForKey(setting::useEmailNotifi));
     email.setStringValue(address ? *address : std::string());
 }
 

@@ -49,7 +49,7 @@ Dictionary validationRequest(const std::string& userId, const std::string& devic
 } // namespace
 
 void Zarvil_Preferences::setPushoverEnabled(bool effective) {
-    if (!effective || usePushover.state() == buttonState::off) {
+    if (!effective || !usePushover.isOn()) {
         setPushoverFieldsEnabled(false);
         pushValidate.setEnabled(false);
         pushBox.setAlphaValue(alpha::dimmed);
@@ -70,7 +70,7 @@ void Zarvil_Preferences::showSavedPushover(const Dictionary& settings) {
     const std::string* userId = settings.stringForKey(setting::pushUserId);
     const std::string* deviceId = settings.stringForKey(setting::pushDeviceId);
     const bool on = settings.boolForKey(setting::usePushover);
-    usePushover.setState(on ? buttonState::on : buttonState::off);
+    usePushover.setOn(on);
     if (userId)
         pushUserName.setStringValue(*userId);
     if (deviceId)
@@ -85,7 +85,7 @@ void Zarvil_Preferences::usePushoverAction(Control* sender) {
     const auto* box = dynamic_cast<Button*>(sender);
     if (!box)
         return;
-    const bool on = box->state() != buttonState::off;
+    const bool on = box->isOn();
     postSetting(setting::usePushover, on);
     setPushoverFieldsEnabled(on);
     if (!on)

@@ -7,12 +7,15 @@ Button::Button(ButtonKind kind, std::unique_ptr<ButtonCell> cell)
 
 void Button::performClick() {
     if (isEnabled())
-        completePress();
+        completePress(state());
 }
 
-void Button::completePress() {
-    if (kind_ == ButtonKind::Toggle)
+void Button::completePress(int stateBefore) {
+    if (kind_ == ButtonKind::Toggle) {
         cell_->setNextState();
+        if (state() == stateBefore)
+            return;
+    }
     sendAction();
 }
 

@@ -21,13 +21,17 @@ public:
     // Events in.
     /// A click or its keyboard equivalent; a disabled button ignores it.
     void performClick();
-    /// Advances a toggle's state and sends the action, as a completed press does.
-    void completePress();
+    /// Advances a toggle's state and sends the action. A toggle that this leaves as it was before
+    /// the press ended sends nothing.
+    void completePress(int stateBefore);
 
     // State.
     void setEnabled(bool enabled) override;
     void setState(int state) { cell_->setState(state); }
     [[nodiscard]] int state() const { return cell_->state(); }
+    void setOn(bool on) { setState(on ? buttonState::on : buttonState::off); }
+    /// The state as a boolean: all but off is on, mixed included.
+    [[nodiscard]] bool isOn() const { return state() != buttonState::off; }
     void setTitle(std::string_view title) { cell_->setTitle(title); }
     [[nodiscard]] const std::string& title() const { return cell_->title(); }
     void setAttributedTitle(AttributedString title) { attributedTitle_.set(std::move(title)); }

@@ -60,10 +60,11 @@ void MouseLoop::release(Point point) {
     }
     pressed_ = false;
     const bool counts = button_.cell().prefersTrackingUntilMouseUp() || isHit(point);
+    const int stateBefore = button_.state();
     if (over_)
         leave(point, true);
     if (counts)
-        button_.completePress();
+        button_.completePress(stateBefore);
 }
 
 void MouseLoop::cancel() {

@@ -7,8 +7,9 @@ namespace zarvil {
 class Button;
 
 /// What a button does between mouse-down and mouse-up: its cell follows the pointer, and a press
-/// that ends well advances the state once and sends the action. A front end forwards press, drag
-/// and release; points are in the button's own coordinates, y growing downwards.
+/// that ends well advances the state once and sends the action, but for a toggle whose state comes
+/// out as it was just before the release. A front end forwards press, drag and release; points are
+/// in the button's own coordinates, y growing downwards.
 ///
 /// A cell that does not prefer tracking until mouse-up stops following the pointer that leaves the
 /// button, starts anew when it comes back, and does nothing when it is let go outside.

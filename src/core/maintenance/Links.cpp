@@ -47,7 +47,7 @@ void Zarvil_Preferences::setCheckForUpdatesAutomatically(Control* sender) {
     if (!box)
         return;
     // The delay field follows the update switch on purpose; `autoUpdates` leaves it alone.
-    shutdownDelayText.setEnabled(box->state() == buttonState::off);
+    shutdownDelayText.setEnabled(!box->isOn());
     postState(setting::enableAutomaticChecks, sender);
 }
 

@@ -106,7 +106,7 @@ void Zarvil_Preferences::postSetting(std::string_view key, Value value) {
 
 void Zarvil_Preferences::postState(std::string_view key, Control* sender) {
     if (const auto* button = dynamic_cast<Button*>(sender))
-        postSetting(key, button->state() != buttonState::off);
+        postSetting(key, button->isOn());
 }
 
 } // namespace zarvil

@@ -50,7 +50,7 @@ void Zarvil_Preferences::appDidNotAnswer() {
     appOfflineTimer.reset();
     if (!togglePowerButton.isEnabled())
         return;
-    togglePowerButton.setState(buttonState::off);
+    togglePowerButton.setOn(false);
     state = false;
     onDesc.setHidden(true);
     offDesc.setHidden(false);
@@ -97,7 +97,7 @@ void Zarvil_Preferences::toggleOnOff(Control* sender) {
     if (!testing)
         testSettingsButton.setEnabled(state);
     if (sender != &togglePowerButton)
-        togglePowerButton.setState(state ? buttonState::on : buttonState::off);
+        togglePowerButton.setOn(state);
     offDesc.setHidden(state);
     onDesc.setHidden(!state);
     platform_.messages.post(

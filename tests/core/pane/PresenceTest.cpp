@@ -1,5 +1,9 @@
 #include "PaneHarness.h"
+#include "interface/MouseLoop.h"
 #include "pane/Product.h"
+
+#include <algorithm>
+#include <random>
 
 namespace zarvil {
 namespace {
@@ -126,6 +130,80 @@ TEST_F(Presence, theLaunchButtonLaunchesQuitsAndLaunchesWhenProtectionIsOff) {
     EXPECT_TRUE(takeSent().empty());
     EXPECT_EQ(workspace.launched,
               (std::vector<std::string>{"/Applications/Zarvil.app", "/Applications/Zarvil.app"}));
+}
+
+/// A switch as a front end operates it, with a hand that does anything.
+struct Hand {
+    Button& button;
+    std::mt19937& random;
+    MouseLoop loop{button};
+
+    double upTo(double most) { return std::uniform_real_distribution<double>(0, most)(random); }
+    void move() {
+        // The middle of 60 points, too: 18 + (26 - 2) / 2.
+        const Point point{random() % 4 == 0 ? 18 : upTo(60), upTo(26)};
+        switch (random() % 6) {
+        case 0:
+            return button.performClick();
+        case 1:
+            return loop.cancel();
+        case 2:
+            loop.press(point);
+            return;
+        case 3:
+            return loop.drag(point);
+        default:
+            return loop.release(point);
+        }
+    }
+};
+
+TEST_F(Presence, switchTextsAndStateAgreeAfterEveryGestureClickAndReport) {
+    loadWithAgent({}, false);
+    std::mt19937 random(9);
+    Hand power{pane.togglePowerButton, random};
+    Hand unit{pane.toggleMinSec, random};
+    power.button.setAction("toggleOnOff:");
+    unit.button.setAction("toggleMinutesSeconds:");
+    for (Hand* hand : {&power, &unit})
+        hand->button.setFrame({0, 0, 60, 26});
+    int flips = 0;
+    for (int step = 0; step < 20000; ++step) {
+        time.advance(power.upTo(0.3));
+        if (step % 500 != 499) // now and then the agent misses a ping
+            agentSends(message::pingAnswer);
+        else
+            time.advance(5);
+        takeSent();
+        pane.shutdownDelayText.setIntegerValue(120);
+        const bool stateBefore = pane.state;
+        const int unitBefore = unit.button.state();
+        switch (random() % 3) {
+        case 0:
+            agentSends(Message(message::stateChanged, Dictionary{{"state", random() % 2 == 0}}));
+            break;
+        case 1:
+            power.move();
+            break;
+        default:
+            unit.move();
+        }
+        const bool flipped = pane.state != stateBefore;
+        flips += flipped ? 1 : 0;
+        const auto sent = takeSent();
+        const auto told = std::ranges::count(sent, message::setState, &Message::name);
+        ASSERT_EQ(told, flipped ? 1 : 0) << step;
+        ASSERT_EQ(power.button.state(), pane.state ? 1 : 0) << step;
+        ASSERT_EQ(pane.onDesc.isHidden(), !pane.state) << step;
+        ASSERT_EQ(pane.offDesc.isHidden(), pane.state) << step;
+        const bool minutes = unit.button.state() == 1;
+        const std::int64_t converted = minutes ? 2 : 7200;
+        ASSERT_EQ(pane.shutdownDelayText.integerValue(),
+                  unit.button.state() == unitBefore ? 120 : converted)
+            << step;
+        ASSERT_EQ(defaults.values["kZVShowMinutes"], minutes) << step;
+    }
+    EXPECT_GT(flips, 1000);
 }
 
 TEST_F(Presence, theSwitchSendsTheNewStateAndShowsItsDescription) {
