@@ -65,7 +65,7 @@ protected:
     /// Types a text into a field and ends the edit with Return.
     void enter(TextField& field, std::string_view text) {
         field.userDidEdit(text);
-        field.sendAction();
+        field.userDidPressReturn();
     }
 
     /// What the pane has sent since the last call, in order.

@@ -9,10 +9,8 @@ namespace {
 
 constexpr std::string_view showMinutesDefault = "kZVShowMinutes";
 constexpr float secondsPerMinute = 60.0F;
-
-int stateFor(bool on) { return on ? buttonState::on : buttonState::off; }
-
-bool isOn(const Button& button) { return button.state() != buttonState::off; }
+constexpr std::string_view notADelay =
+    "Only a number of 0 or more is taken, such as %1. The delay stays as it was.";
 
 /// The sender as the kind of control that the action works on, or null.
 template <typename Kind>
@@ -26,17 +24,31 @@ std::int64_t secondsFromMinutes(float minutes) {
 
 } // namespace
 
+// The action itself takes any text as a number; what the user means as none never gets there.
+void Zarvil_Preferences::setUpDelayField() {
+    shutdownDelayText.setDecimalSeparator(platform_.decimalSeparator);
+    shutdownDelayText.setEntryCheck([this](std::string_view text) {
+        const std::string& separator = platform_.decimalSeparator;
+        if (numbers::isUnsignedDecimal(text, separator))
+            return std::string();
+        std::string fault = platform_.strings.localizedString(notADelay);
+        if (const auto example = fault.find("%1"); example != std::string::npos)
+            fault.replace(example, 2, "1" + separator + "5");
+        return fault;
+    });
+}
+
 void Zarvil_Preferences::restoreDelayUnit() {
     if (!platform_.defaults.boolForKey(showMinutesDefault))
         return;
-    toggleMinSec.setState(buttonState::on);
+    toggleMinSec.setOn(true);
     toggleMinSec.setTitle(platform_.strings.localizedString("minutes"));
 }
 
 void Zarvil_Preferences::setupPrefs(const Message* message) {
     const Dictionary& settings = message->info();
     const auto show = [&settings](Button& button, std::string_view key) {
-        button.setState(stateFor(settings.boolForKey(key)));
+        button.setOn(settings.boolForKey(key));
     };
     show(launchAtLogin, setting::launchAtLogin);
     show(showIcon, setting::showStatusIcon);
@@ -45,7 +57,7 @@ void Zarvil_Preferences::setupPrefs(const Message* message) {
     show(showShutdownMessage, setting::shutdownMessage);
     showSavedDelay(settings);
     // From the shutdown message alone; `toggleShowShutdownMessage` follows another rule on purpose.
-    hideShutdownMessage.setEnabled(isOn(showShutdownMessage));
+    hideShutdownMessage.setEnabled(showShutdownMessage.isOn());
     showSavedPushover(settings);
     showSavedEmail(settings);
     show(hideShutdownMessageButton, setting::hideShutdownMessage);
@@ -67,7 +79,7 @@ void Zarvil_Preferences::showSavedDelay(const Dictionary& settings) {
 
 void Zarvil_Preferences::showSavedScripts(const Dictionary& settings) {
     const bool on = settings.boolForKey(setting::useScripts);
-    useScriptsButton.setState(stateFor(on));
+    useScriptsButton.setOn(on);
     scriptsCollection.setAlphaValue(on ? alpha::active : alpha::dimmed);
     scriptsTitle.setEnabled(on);
     createNewScript.setEnabled(false);
@@ -100,7 +112,7 @@ void Zarvil_Preferences::toggleShowConnectedMessage(Control* sender) {
     const auto* box = senderAs<Button>(sender);
     if (!box)
         return;
-    hideConnectMessage.setEnabled(isOn(*box));
+    hideConnectMessage.setEnabled(box->isOn());
     postState(setting::newDeviceMessage, sender);
 }
 
@@ -108,8 +120,8 @@ void Zarvil_Preferences::toggleShowShutdownMessage(Control* sender) {
     const auto* box = senderAs<Button>(sender);
     if (!box)
         return;
-    const bool on = isOn(*box);
-    const bool hide = isOn(hideShutdownMessageButton);
+    const bool on = box->isOn();
+    const bool hide = hideShutdownMessageButton.isOn();
     hideShutdownMessage.setEnabled(on && hide);
     shutdownDelayText.setEnabled(!on || !hide);
     hideShutdownMessageButton.setEnabled(on);
@@ -130,7 +142,7 @@ void Zarvil_Preferences::toggleMinutesSeconds(Control* sender) {
     auto* unit = senderAs<Button>(sender);
     if (!unit)
         return;
-    platform_.defaults.setBool(isOn(*unit), showMinutesDefault);
+    platform_.defaults.setBool(unit->isOn(), showMinutesDefault);
     if (unit->state() != buttonState::on) {
         shutdownDelayText.setIntegerValue(secondsFromMinutes(shutdownDelayText.floatValue()));
         unit->setTitle(platform_.strings.localizedString("seconds"));

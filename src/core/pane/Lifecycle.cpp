@@ -45,6 +45,7 @@ void Zarvil_Preferences::mainViewDidLoad() {
         cell->setShowStateExtras(true);
     }
     restoreDelayUnit();
+    setUpDelayField();
     scriptsTitle.setDelegate(this);
 }
 
@@ -99,7 +100,7 @@ void Zarvil_Preferences::setInterfaceEnabled(bool enabled) {
     shutdownDelayLabel.setAlphaValue(captionAlpha);
     uninstallButton.setEnabled(true);
     showIcon.setEnabled(effective);
-    monoIcon.setEnabled(effective && showIcon.state() != buttonState::off);
+    monoIcon.setEnabled(effective && showIcon.isOn());
     testSettingsButton.setEnabled(effective && state && !testing);
     for (Control* control : std::initializer_list<Control*>{
              &checkForUpdatesNow, &checkForUpdates, &launchAtLogin, &shutdownDelayText, &sendEmail,
@@ -107,7 +108,7 @@ void Zarvil_Preferences::setInterfaceEnabled(bool enabled) {
              &usePushover})
         control->setEnabled(effective);
     setPushoverEnabled(effective);
-    scriptsTitle.setEnabled(effective && useScriptsButton.state() != buttonState::off);
+    scriptsTitle.setEnabled(effective && useScriptsButton.isOn());
     scriptsTitle.setStringValue("");
     createNewScript.setEnabled(false);
     if (effective && useScriptsButton.state() == buttonState::on)

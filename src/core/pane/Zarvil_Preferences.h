@@ -164,6 +164,7 @@ private:
 
     void showLaunchButton(std::string_view title, std::string_view action);
     void restoreDelayUnit();
+    void setUpDelayField();
     void setPushoverEnabled(bool effective);
     void setPushoverFieldsEnabled(bool enabled);
     void showSavedDelay(const Dictionary& settings);
@@ -181,6 +182,8 @@ private:
 
     [[nodiscard]] bool scriptExists(std::string_view title) const;
     void handToItem(const Record& record);
+    /// Says why "Create" is greyed where the title alone does not.
+    void showTitleFault();
 
     /// False when the host is not among the running applications.
     bool killHost();

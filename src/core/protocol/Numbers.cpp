@@ -10,10 +10,12 @@ namespace zarvil::numbers {
 
 namespace {
 
+constexpr std::string_view blanks = " \t\n\v\f\r";
+
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
-    const auto start = text.find_first_not_of(" \t\n\v\f\r");
+    const auto start = text.find_first_not_of(blanks);
     return start == std::string_view::npos ? std::string_view{} : text.substr(start);
 }
 
@@ -107,6 +109,22 @@ double doubleValue(std::string_view text) {
 }
 
 float floatValue(std::string_view text) { return narrowed(doubleValue(text)); }
+
+bool isUnsignedDecimal(std::string_view text, std::string_view decimalSeparator) {
+    std::string_view rest = withoutLeadingBlanks(text);
+    rest = rest.substr(0, rest.find_last_not_of(blanks) + 1);
+    if (rest.starts_with('+'))
+        rest.remove_prefix(1);
+    const std::size_t whole = digitRun(rest, 0);
+    rest.remove_prefix(whole);
+    std::size_t fraction = 0;
+    if (rest.starts_with(decimalSeparator)) {
+        rest.remove_prefix(decimalSeparator.size());
+        fraction = digitRun(rest, 0);
+        rest.remove_prefix(fraction);
+    }
+    return rest.empty() && whole + fraction > 0;
+}
 
 bool boolValue(std::string_view text) {
     std::string_view rest = withoutLeadingBlanks(text);

@@ -13,6 +13,10 @@ namespace zarvil::numbers {
 [[nodiscard]] double doubleValue(std::string_view text);
 [[nodiscard]] float floatValue(std::string_view text);
 
+/// Whether the whole text, but for blanks around it, is a decimal number without an exponent that
+/// is not negative, in that notation. Digits are those of ASCII and in no groups.
+[[nodiscard]] bool isUnsignedDecimal(std::string_view text, std::string_view decimalSeparator);
+
 /// True for text that starts, after blanks, a sign and zeros, with 1-9, "Y", "y", "T" or "t".
 [[nodiscard]] bool boolValue(std::string_view text);
 

@@ -8,6 +8,8 @@ namespace zarvil {
 
 namespace {
 
+constexpr std::string_view titleInUse = "There is a script of this title already.";
+
 Record makeScript(std::string_view title, std::string_view text) {
     return makeRecord(
         Dictionary{{std::string(script::title), title}, {std::string(script::text), text}});
@@ -58,6 +60,7 @@ void Zarvil_Preferences::create(Control* /*sender*/) {
     const std::string title = scriptsTitle.stringValue();
     if (title.empty() || scriptExists(title)) {
         createNewScript.setEnabled(false);
+        showTitleFault();
         return;
     }
     const std::string path = script::filePath(platform_.files, title);
@@ -77,13 +80,14 @@ void Zarvil_Preferences::removeScript(const Record& record) {
     if (record)
         scriptsArrayController.removeObject(record);
     scriptsArrayController.rearrangeObjects();
+    showTitleFault();
 }
 
 void Zarvil_Preferences::useScripts(Control* sender) {
     const auto* box = dynamic_cast<Button*>(sender);
     if (!box)
         return;
-    const bool on = box->state() != buttonState::off;
+    const bool on = box->isOn();
     if (on) {
         scriptsCollection.setAlphaValue(alpha::active);
         loadScripts();
@@ -110,6 +114,13 @@ void Zarvil_Preferences::updateNewScriptsTitle(Control* sender) {
     const auto* field = dynamic_cast<TextField*>(sender);
     createNewScript.setEnabled(field && !field->stringValue().empty() &&
                                !scriptExists(field->stringValue()));
+    showTitleFault();
+}
+
+void Zarvil_Preferences::showTitleFault() {
+    scriptsTitle.setFault(scriptExists(scriptsTitle.stringValue())
+                              ? platform_.strings.localizedString(titleInUse)
+                              : std::string());
 }
 
 void Zarvil_Preferences::setNewScriptTitleVal(std::optional<std::string> title) {

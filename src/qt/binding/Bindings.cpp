@@ -15,8 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include <memory>
-
 namespace zarvil::qt {
 
 namespace {
@@ -98,24 +96,23 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
         if (widget.text() != shown)
             widget.setText(shown);
     }));
-    const auto unsent = std::make_shared<bool>(false);
+    kept.push_back(model.faultProperty().observe([&widget](const std::string& fault, Transition) {
+        widget.setAccessibleDescription(toQt(fault));
+    }));
     // Not `textEdited`: assistive programs set the text without typing it.
     QObject::connect(&widget, &QLineEdit::textChanged, &widget,
-                     [&model, unsent](const QString& text) {
-                         *unsent = fromQt(text) != model.stringValue();
-                         model.userDidEdit(fromQt(text));
-                     });
-    const auto send = [&model, unsent] {
-        *unsent = false;
-        model.sendAction();
-    };
-    QObject::connect(&widget, &QLineEdit::returnPressed, &widget, send);
-    if (widget.property("commitsOnReturnOnly").toBool())
+                     [&model](const QString& text) { model.userDidEdit(fromQt(text)); });
+    if (widget.property("commitsOnReturnOnly").toBool()) {
+        QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
+                         [&model] { model.sendAction(); });
         return;
-    // Leaving the field ends an edit as well, but only one that has not been sent yet.
-    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&widget, unsent, send] {
-        if (*unsent && widget.isEnabled())
-            send();
+    }
+    QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
+                     [&model] { model.userDidPressReturn(); });
+    // Return ends the edit for the widget as well, which then still has the keyboard.
+    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&model, &widget] {
+        if (!widget.hasFocus())
+            model.userDidLeave();
     });
 }
 

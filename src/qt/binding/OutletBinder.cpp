@@ -91,7 +91,7 @@ public:
             checkName(*widget);
             checkAction(*widget);
             if (auto* label = qobject_cast<QLabel*>(widget))
-                bindTitle(*label);
+                bindCaption(*label);
         }
     }
 
@@ -156,19 +156,31 @@ private:
             faults_.push_back("the widget of the action " + action + " is no button");
     }
 
-    void bindTitle(QLabel& label) {
-        const std::string name = fromQt(label.property("titleOf").toString());
-        if (name.empty())
-            return;
+    /// A label beside an outlet that shows the title of a button or the fault of a field.
+    void bindCaption(QLabel& label) {
+        const std::string titled = fromQt(label.property("titleOf").toString());
+        const std::string faulty = fromQt(label.property("faultOf").toString());
         visitOutlets(pane_, [&](std::string_view outlet, View& view) {
-            auto* button = dynamic_cast<Button*>(&view);
-            if (outlet != name || !button)
-                return;
-            if (button->title().empty())
-                button->setTitle(fromQt(label.text()));
-            kept_.push_back(button->titleProperty().observe(
-                [&label](const std::string& title, Transition) { label.setText(toQt(title)); }));
+            if (auto* button = dynamic_cast<Button*>(&view); button && outlet == titled)
+                bindTitle(*button, label);
+            else if (auto* field = dynamic_cast<TextField*>(&view); field && outlet == faulty)
+                bindFault(*field, label);
         });
+    }
+
+    void bindTitle(Button& button, QLabel& label) {
+        if (button.title().empty())
+            button.setTitle(fromQt(label.text()));
+        kept_.push_back(button.titleProperty().observe(
+            [&label](const std::string& title, Transition) { label.setText(toQt(title)); }));
+    }
+
+    void bindFault(TextField& field, QLabel& label) {
+        kept_.push_back(
+            field.faultProperty().observe([&label](const std::string& fault, Transition) {
+                label.setText(toQt(fault));
+                label.setHidden(fault.empty());
+            }));
     }
 
     Zarvil_Preferences& pane_;

@@ -115,7 +115,7 @@ TEST_F(GeneralSettings, theTwoRulesOfTheHidingControlsDiffer) {
     EXPECT_TRUE(pane.hideConnectMessage.isEnabled());
 }
 
-TEST_F(GeneralSettings, aDelayEntryIsSentInWholeSecondsWhateverWasTyped) {
+TEST_F(GeneralSettings, theDelayActionSendsAnyTextInWholeSeconds) {
     loadWithAgent();
     pane.shutdownDelayText.setAction("setShutdownDelay:");
     struct Case {
@@ -139,13 +139,71 @@ TEST_F(GeneralSettings, aDelayEntryIsSentInWholeSecondsWhateverWasTyped) {
                                   {"16777217", 16777217, 1006632960}};
     for (const Case& c : cases) {
         pane.toggleMinSec.setState(buttonState::off);
-        enter(pane.shutdownDelayText, c.typed);
+        pane.shutdownDelayText.setStringValue(c.typed);
+        pane.shutdownDelayText.sendAction();
         EXPECT_EQ(lastDelay(), c.asSeconds) << c.typed;
         pane.toggleMinSec.setState(buttonState::on);
-        enter(pane.shutdownDelayText, c.typed);
+        pane.shutdownDelayText.sendAction();
         EXPECT_EQ(lastDelay(), c.asMinutes) << c.typed;
         EXPECT_EQ(pane.shutdownDelayText.stringValue(), c.typed) << "the text stays";
     }
+}
+
+TEST_F(GeneralSettings, aDelayFieldTakesANumberInTheUsersNotationOrSaysWhyNot) {
+    platform.decimalSeparator = ",";
+    defaults.values["kZVShowMinutes"] = true;
+    loadWithAgent({{"ShutdownDelay", 150}});
+    TextField& field = pane.shutdownDelayText;
+    field.setAction("setShutdownDelay:");
+    EXPECT_EQ(field.stringValue(), "2,5");
+    for (const auto& [typed, seconds] : std::vector<std::pair<std::string, std::int64_t>>{
+             {"1,5", 90}, {" 2 ", 120}, {"0", 0}, {",5", 30}, {"+3,", 180}}) {
+        enter(field, typed);
+        EXPECT_EQ(lastDelay(), seconds) << typed;
+        EXPECT_EQ(field.fault(), "");
+    }
+    for (const std::string typed : {"abc", "", " ", "-1", "-0", "1.5", "1.000", "1e3", "nan", ",",
+                                    "1,5,5", "5 s", "\u0665"}) {
+        enter(field, typed);
+        EXPECT_EQ(field.stringValue(), typed) << "stays to be corrected";
+        EXPECT_NE(field.fault().find("such as 1,5."), std::string::npos) << typed;
+        field.userDidLeave();
+        EXPECT_EQ(field.stringValue(), "+3,");
+        EXPECT_NE(field.fault(), "");
+        field.userDidEdit("4");
+        EXPECT_EQ(field.fault(), "");
+        field.userDidEdit("+3,");
+        field.userDidLeave();
+        EXPECT_TRUE(takeSent().empty()) << typed;
+    }
+    field.userDidEdit("7");
+    field.setEnabled(false);
+    field.userDidLeave();
+    EXPECT_TRUE(takeSent().empty()) << "greyed in the middle of an edit";
+}
+
+TEST_F(GeneralSettings, aDelayShownInMinutesKeepsItsNumberUntilItIsEdited) {
+    loadWithAgent();
+    pane.shutdownDelayText.setAction("setShutdownDelay:");
+    pane.toggleMinSec.setAction("toggleMinutesSeconds:");
+    for (int saved = 0; saved <= 600; ++saved) {
+        pane.toggleMinSec.setOn(true);
+        agentSends(Message(message::savedPrefs, Dictionary{{"ShutdownDelay", saved}}));
+        const float minutes = static_cast<float>(saved) / 60.0F;
+        const auto seconds = static_cast<std::int64_t>(minutes * 60.0F);
+        pane.shutdownDelayText.sendAction();
+        EXPECT_EQ(lastDelay(), seconds);
+        pane.toggleMinSec.performClick();
+        EXPECT_EQ(pane.shutdownDelayText.integerValue(), seconds);
+    }
+    pane.toggleMinSec.setOn(true);
+    agentSends(Message(message::savedPrefs, Dictionary{{"ShutdownDelay", 20}}));
+    for (const std::string_view typed : {"0.3", "0.3333333"})
+        pane.shutdownDelayText.userDidEdit(typed);
+    pane.shutdownDelayText.userDidLeave();
+    EXPECT_TRUE(takeSent().empty()) << "edited, and back";
+    pane.toggleMinSec.performClick();
+    EXPECT_EQ(pane.shutdownDelayText.stringValue(), "20");
 }
 
 TEST_F(GeneralSettings, aSavedDelayIsShownInTheUnitOfTheSwitch) {
