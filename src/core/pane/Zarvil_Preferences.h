@@ -99,6 +99,7 @@ public:
     void unloadScripts();
     void create(Control* sender);
     void removeScript(const Record& record) override;
+    [[nodiscard]] bool admitsRemoval() override;
     void useScripts(Control* sender);
     void scriptsTitleChanged(TextField& field);
     void updateNewScriptsTitle(Control* sender);
@@ -191,13 +192,12 @@ private:
 
     Platform& platform_;
     DeviceList allConnectedDevices_;
-    DeviceList unwatchedDevices_{arrayController};
-    DeviceList watchedDevices_{savedArrayController};
     NotificationCenter textChanges_;
     Panel* ttip = nullptr;
     std::unique_ptr<Timer> appTimer;
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
+    std::optional<double> lastRemoval_; ///< by a press, as the clock tells
     std::vector<Subscription> agentMessages_;
 };
 

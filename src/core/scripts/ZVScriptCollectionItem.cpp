@@ -110,6 +110,12 @@ void ZVScriptCollectionItem::remove(Control* /*sender*/) {
         owner->removeScript(record);
 }
 
+void ZVScriptCollectionItem::userDidPressRemove() {
+    auto* owner = dynamic_cast<ScriptOwner*>(owner_);
+    if (!owner || owner->admitsRemoval())
+        remove();
+}
+
 void ZVScriptCollectionItem::removeFile() {
     const std::string* title = stringOfRecord(script::title);
     if (!title)

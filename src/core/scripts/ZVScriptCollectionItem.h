@@ -21,12 +21,20 @@ public:
     virtual ~ScriptOwner() = default;
 
     virtual void removeScript(const Record& record) = 0;
+    /// Whether a press on a remove button counts: the next card moves under the pointer, and a
+    /// double click must not remove that one too.
+    [[nodiscard]] virtual bool admitsRemoval() = 0;
 };
 
 /// A text field in the system font, for editing within a script's card.
 class ScriptEditField final : public TextField {
 public:
+    /// Larger texts would stop the window; they are not laid out for editing and stay as they are.
+    static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
+
     ScriptEditField(Rect frame, double fontSize) : fontSize_(fontSize) { setFrame(frame); }
+
+    [[nodiscard]] bool isTooLarge() const { return stringValue().size() > largestEditableText; }
 
     /// In points of the card.
     [[nodiscard]] double fontSize() const { return fontSize_; }
@@ -53,6 +61,13 @@ private:
     Property<Subviews> subviews_;
 };
 
+/// A button of a card as it is shown; the accessible name tells it from those of other cards.
+struct ButtonCaption {
+    std::string title;
+    std::string toolTip;
+    std::string accessibleName;
+};
+
 /// Shows one script and lets the user edit, run and delete it. It edits the record that it shares
 /// with the list. An alert that an operation shows may let the list change meanwhile; an item that
 /// a shared pointer holds outlives its own operations.
@@ -70,6 +85,12 @@ public:
     /// Deletes the file and has the owner drop the record.
     void remove(Control* sender = nullptr);
 
+    // Presses of the card's buttons.
+    void userDidPressEdit() { edit(); }
+    void userDidPressRun() { execute(); }
+    /// Not the second press of a double click.
+    void userDidPressRemove();
+
     /// Takes the edit fields over into the record. An emptied field keeps the record's old value.
     void validateData();
     /// Deletes the file of the record's title; a record without a title deletes nothing.
@@ -79,6 +100,33 @@ public:
     [[nodiscard]] bool editing() const { return editing_; }
     /// The flag alone; `edit` brings the fields.
     void setEditing(bool editing) { editing_ = editing; }
+
+    /// The script runs at the moment; its card says so and cannot run it again.
+    [[nodiscard]] const Property<bool>& runningProperty() const { return running_; }
+    void setRunning(bool running) { running_.set(running); }
+    /// Why the last run failed, as the card says it until the next run or edit; empty otherwise.
+    [[nodiscard]] const Property<std::string>& failureProperty() const { return failure_; }
+    void setFailure(std::string line) { failure_.set(std::move(line)); }
+    /// What the card shows is not in the script's file.
+    [[nodiscard]] const Property<bool>& notSavedProperty() const { return notSaved_; }
+    void setNotSaved(bool notSaved) { notSaved_.set(notSaved); }
+
+    // Texts of the card, fit for display.
+    [[nodiscard]] std::string shownTitle() const;
+    /// The first lines of the text; none for an empty one, which `emptyText` stands for.
+    [[nodiscard]] std::vector<std::string> shownLines() const;
+    [[nodiscard]] std::string emptyText() const;
+    [[nodiscard]] std::string cardName() const;
+    [[nodiscard]] ButtonCaption runCaption() const;
+    [[nodiscard]] ButtonCaption editCaption() const;
+    [[nodiscard]] ButtonCaption removeCaption() const;
+    /// What editing means, beside the buttons.
+    [[nodiscard]] std::string editingHint() const;
+    [[nodiscard]] std::string notSavedText() const;
+    [[nodiscard]] std::string titleFieldName() const;
+    [[nodiscard]] std::string textFieldName() const;
+    /// Stands in place of a text that is too large to be edited.
+    [[nodiscard]] std::string tooLargeText() const;
 
     /// Null for an item that no record was handed to.
     [[nodiscard]] const Record& data() const { return data_; }
@@ -100,12 +148,19 @@ private:
     void beginEditing();
     void save();
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
+    [[nodiscard]] std::string localized(std::string_view key) const;
+    [[nodiscard]] std::string aboutThis(std::string_view key) const;
+    /// Of the record of this row, which an item without `data` shows as well.
+    [[nodiscard]] std::string_view stringOfRow(std::string_view key) const;
 
     Platform& platform_;
     ScriptItemView view_;
     ScriptEditField* eTitle_ = nullptr;
     ScriptEditField* eText_ = nullptr;
     bool editing_ = false;
+    Property<bool> running_{false};
+    Property<bool> notSaved_{false};
+    Property<std::string> failure_;
     Record data_;
     CollectionViewDelegate* owner_ = nullptr;
     TextField* text_ = nullptr;

@@ -3,12 +3,14 @@
 #include "interface/AuthorizationView.h"
 #include "interface/Button.h"
 #include "interface/Panel.h"
+#include "interface/Placeholder.h"
 #include "interface/ProgressIndicator.h"
 #include "interface/TextField.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/Opacity.h"
 #include "qt/binding/Spinner.h"
 #include "qt/canvas/Convert.h"
+#include "qt/widgets/PlaceholderWidget.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -114,6 +116,14 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
         if (!widget.hasFocus())
             model.userDidLeave();
     });
+}
+
+void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(
+        model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
+            widget.setText(toQt(text.title), toQt(text.words));
+        }));
 }
 
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {

@@ -14,6 +14,7 @@ namespace zarvil {
 class AuthorizationView;
 class Button;
 class Panel;
+class Placeholder;
 class ProgressIndicator;
 class TextField;
 class View;
@@ -25,6 +26,7 @@ class View;
 namespace zarvil::qt {
 
 class LockWidget;
+class PlaceholderWidget;
 class Spinner;
 
 using Subscriptions = std::vector<Subscription>;
@@ -33,6 +35,7 @@ void bindView(View& model, QWidget& widget, Subscriptions& kept);
 void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept);
 void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept);
 void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept);
+void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept);
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept);
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept);
 void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept);

@@ -7,6 +7,7 @@
 #include "qt/devices/DeviceListView.h"
 #include "qt/scripts/ScriptListView.h"
 #include "qt/widgets/LinkButtonWidget.h"
+#include "qt/widgets/PlaceholderWidget.h"
 #include "qt/widgets/SwitchWidget.h"
 
 #include <QAbstractButton>
@@ -77,6 +78,11 @@ public:
             scripts->setModel(model);
         else
             mismatch(name);
+    }
+
+    void operator()(std::string_view name, Placeholder& model) {
+        if (auto* placeholder = findAs<PlaceholderWidget>(name))
+            bindPlaceholder(model, *placeholder, kept_);
     }
 
     void operator()(std::string_view name, View& model) {
