@@ -1,11 +1,28 @@
 #include "qt/devices/DeviceListView.h"
 
+#include "qt/devices/AccessibleDeviceList.h"
 #include "qt/devices/DeviceItemDelegate.h"
 #include "qt/devices/DeviceListModel.h"
 
 namespace zarvil::qt {
 
-DeviceListView::DeviceListView(QWidget* parent) : QListView(parent) {
+namespace {
+
+/// Tells assistive programs of a row, if there are any.
+void tellOfRow(QWidget* list, QAccessible::Event kind, const QModelIndex& row) {
+    if (!row.isValid() || !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(list, kind);
+    event.setChild(row.row());
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+DeviceListView::DeviceListView(QWidget* parent)
+    : QListView(parent), accessible_(new AccessibleDeviceList(this)) {
+    // Before the model comes, for that makes the toolkit ask for an interface.
+    QAccessible::registerAccessibleInterface(accessible_);
     setItemDelegate(new DeviceItemDelegate(this));
     setUniformItemSizes(true);
     setResizeMode(QListView::Adjust);
@@ -16,9 +33,46 @@ DeviceListView::DeviceListView(QWidget* parent) : QListView(parent) {
 }
 
 void DeviceListView::setModel(zarvil::CollectionView& view) {
-    const QAbstractItemModel* former = model();
-    setModel(new DeviceListModel(view, this));
+    const DeviceListModel* former = devices_;
+    devices_ = new DeviceListModel(view, this);
+    setModel(devices_);
     delete former;
+}
+
+void DeviceListView::reset() {
+    accessible_->forgetAll();
+    QListView::reset();
+}
+
+void DeviceListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
+    QListView::rowsAboutToBeRemoved(parent, start, end);
+    for (int row = start; row <= end; ++row)
+        accessible_->forget(devices_->view().serialAtRow(static_cast<std::size_t>(row)));
+}
+
+// The base class would lay all rows out anew to count the hidden ones before its own; none is.
+void DeviceListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QAbstractItemView::currentChanged(current, previous);
+    announceCurrentRow();
+}
+
+void DeviceListView::selectionChanged(const QItemSelection& selected,
+                                      const QItemSelection& deselected) {
+    QAbstractItemView::selectionChanged(selected, deselected);
+    tellOfRow(this, QAccessible::SelectionRemove, deselected.indexes().value(0));
+    tellOfRow(this, QAccessible::Selection, selected.indexes().value(0));
+}
+
+void DeviceListView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    announceCurrentRow();
+}
+
+void DeviceListView::announceCurrentRow() {
+    if (!hasFocus())
+        return;
+    tellOfRow(this, QAccessible::ActiveDescendantChanged, currentIndex());
+    tellOfRow(this, QAccessible::Focus, currentIndex());
 }
 
 QModelIndex DeviceListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {

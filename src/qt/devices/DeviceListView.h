@@ -8,8 +8,11 @@ class CollectionView;
 
 namespace zarvil::qt {
 
+class AccessibleDeviceList;
+class DeviceListModel;
+
 /// Shows the devices of one collection view, each with a check box that the user toggles by a
-/// click or with Space.
+/// click or with Space. Assistive programs see it through an interface of its own.
 class DeviceListView final : public QListView {
     Q_OBJECT
 
@@ -18,12 +21,25 @@ public:
 
     /// The collection view is not owned and must outlive this view.
     void setModel(zarvil::CollectionView& view);
+    /// The model; null before it is set.
+    [[nodiscard]] const DeviceListModel* devices() const { return devices_; }
+
+    void reset() override;
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     using QListView::setModel;
+    void announceCurrentRow();
+
+    AccessibleDeviceList* accessible_; ///< belongs to the toolkit's cache
+    DeviceListModel* devices_ = nullptr;
 };
 
 } // namespace zarvil::qt

@@ -3,11 +3,14 @@
 #include "qt/devices/DeviceItemDelegate.h"
 #include "qt/devices/DeviceListModel.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextDocumentFragment>
+
+#include <algorithm>
 
 namespace zarvil::qt {
 namespace {
@@ -140,6 +143,40 @@ TEST_F(DeviceListViews, theLastOfTenThousandDevicesIsOneKeyAway) {
         connected.viewport()->rect().intersects(connected.visualRect(connected.currentIndex())));
     time.advance(5);
     EXPECT_EQ(connected.model()->rowCount(), 0);
+}
+
+TEST_F(DeviceListViews, anAssistiveProgramReadsTicksAndFollowsTheRows) {
+    QAccessible::setActive(true);
+    static std::vector<std::pair<QAccessible::Event, QString>> told;
+    const auto former = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (const auto* told_of = event->accessibleInterface(); told_of && event->child() >= 0)
+            told.emplace_back(event->type(), told_of->text(QAccessible::Name));
+    });
+    plug(4);
+    auto* list = QAccessible::queryAccessibleInterface(&connected);
+    ASSERT_EQ(list->childCount(), 4);
+    std::vector<QAccessibleInterface*> rows;
+    for (int row = 0; row < 4; ++row)
+        rows.push_back(list->child(row));
+    EXPECT_EQ(rows[3]->text(QAccessible::Name), "N3, Maker, 3");
+    EXPECT_EQ(list->childAt(rows[1]->rect().center().x(), rows[1]->rect().center().y()), rows[1]);
+    rows[1]->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(list->focusChild(), rows[1]);
+    EXPECT_TRUE(rows[1]->state().focused && rows[1]->state().selected);
+    for (const auto kind :
+         {QAccessible::ActiveDescendantChanged, QAccessible::Focus, QAccessible::Selection})
+        EXPECT_EQ(std::ranges::count(told, std::pair(kind, QString("N1, Maker, 1"))), 1) << kind;
+    rows[0]->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(names(saved), QStringList{"N0"});
+    EXPECT_EQ(list->childCount(), 3);
+    EXPECT_EQ(list->indexOfChild(rows[3]), 2);
+    EXPECT_EQ(list->child(2), rows[3]) << "the same row, one place up";
+    auto* watched = QAccessible::queryAccessibleInterface(&saved)->child(0);
+    EXPECT_TRUE(watched->state().checked);
+    time.advance(5);
+    EXPECT_EQ(list->childCount(), 0);
+    QAccessible::installUpdateHandler(former);
+    QAccessible::setActive(false);
 }
 
 TEST_F(DeviceListViews, whatLooksLikeMarkupIsShownAsItIs) {
