@@ -35,8 +35,10 @@ void ListPlaceholders::showDevices() {
 }
 
 void ListPlaceholders::showScripts() {
-    noScripts.setText(scriptsText());
-    noScripts.setHidden(lists_.scripts.rowCount() > 0);
+    const bool empty = lists_.scripts.rowCount() == 0;
+    noScripts.setHidden(!empty);
+    if (empty)
+        noScripts.setText(scriptsText());
 }
 
 Placeholder::Text ListPlaceholders::text(std::string_view title, std::string_view words) const {

@@ -51,7 +51,8 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
     const auto to = static_cast<int>(change.to);
     switch (change.kind) {
     case RowChange::Kind::Inserted:
-        renumber([row](int former) { return former < row ? former : former + 1; });
+        if (!cards_.empty() && row <= cards_.rbegin()->first)
+            renumber([row](int former) { return former < row ? former : former + 1; });
         ++addedSinceLayout_;
         lastAddedRow_ = row;
         break;
@@ -76,7 +77,8 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
     case RowChange::Kind::Changed: // The card of the row watches it.
         return;
     }
-    layoutTimer_.start();
+    if (!layoutTimer_.isActive())
+        layoutTimer_.start();
 }
 
 void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
