@@ -14,7 +14,7 @@ namespace zarvil::host {
 /// What a pane's bundle says of itself, read from its Contents/Info.json.
 struct Bundle {
     QString path; ///< the bundle folder, absolute
-    QString name; ///< what the user sees in a list of panes
+    QString name; ///< what the user sees in a list of panes, fit for display
     QString identifier;
     QString version;
     QString library;        ///< the plug-in, absolute

@@ -100,6 +100,7 @@ public:
     void unloadScripts();
     void create(Control* sender);
     void removeScript(const Record& record) override;
+    [[nodiscard]] bool admitsRemoval() override;
     void useScripts(Control* sender);
     void scriptsTitleChanged(TextField& field);
     void updateNewScriptsTitle(Control* sender);
@@ -202,8 +203,6 @@ private:
 
     Platform& platform_;
     DeviceList allConnectedDevices_;
-    DeviceList unwatchedDevices_{arrayController};
-    DeviceList watchedDevices_{savedArrayController};
     NotificationCenter textChanges_;
     Panel* ttip = nullptr;
     std::unique_ptr<Timer> appTimer;
@@ -211,6 +210,7 @@ private:
     std::optional<std::string> newScriptTitleVal_;
     /// Of scripts that are not listed at the moment.
     std::vector<ScriptDraft> scriptDrafts_;
+    std::optional<double> lastRemoval_; ///< by a press, as the clock tells
     std::vector<Subscription> agentMessages_;
     Subscription link_;
     std::shared_ptr<char> lifetime_ = std::make_shared<char>();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,23 @@ public:
         if (const auto place = text.find("%n"); place != std::string::npos)
             text.replace(place, 2, std::to_string(count));
         return text;
+    }
+
+    /// The same with "%1" to "%9" replaced by what is given, once each; a "%" in that stays.
+    [[nodiscard]] std::string
+    localizedString(std::string_view key, std::initializer_list<std::string_view> arguments) const {
+        const std::string text = localizedString(key);
+        std::string filled;
+        for (std::size_t at = 0; at < text.size(); ++at) {
+            const auto number = static_cast<std::size_t>(at + 1 < text.size() ? text[at + 1] : 0);
+            if (text[at] == '%' && number > '0' && number - '0' <= arguments.size()) {
+                filled += arguments.begin()[number - '1'];
+                ++at;
+            } else {
+                filled += text[at];
+            }
+        }
+        return filled;
     }
 };
 

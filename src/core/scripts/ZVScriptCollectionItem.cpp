@@ -107,7 +107,7 @@ void ZVScriptCollectionItem::noteFailure(const std::optional<Error>& failure, Di
         saved_.reset();
     else if (!saved_)
         saved_ = std::move(before);
-    failure_ = failure;
+    saveFailure_ = failure;
     note_.set(failure
                   ? ScriptNote{platform_.strings.localizedString(notSaved), failure->description}
                   : ScriptNote{});
@@ -125,7 +125,7 @@ std::optional<ScriptDraft> ZVScriptCollectionItem::draft() const {
         return field ? field->stringValue() : stored ? *stored : std::string();
     };
     return ScriptDraft{saved_.value_or(data_->contents()), typed(eTitle_, script::title),
-                       typed(eText_, script::text), failure_};
+                       typed(eText_, script::text), saveFailure_};
 }
 
 void ZVScriptCollectionItem::resume(const ScriptDraft& draft) {
@@ -178,6 +178,12 @@ void ZVScriptCollectionItem::removeNow() {
     const Record record = data_;
     if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))
         owner->removeScript(record);
+}
+
+void ZVScriptCollectionItem::userDidPressRemove() {
+    auto* owner = dynamic_cast<ScriptOwner*>(owner_);
+    if (!owner || owner->admitsRemoval())
+        remove();
 }
 
 void ZVScriptCollectionItem::removeFile() {

@@ -4,6 +4,7 @@
 #include "interface/Banner.h"
 #include "interface/Button.h"
 #include "interface/Panel.h"
+#include "interface/Placeholder.h"
 #include "interface/ProgressIndicator.h"
 #include "interface/Symbol.h"
 #include "interface/TextField.h"
@@ -12,6 +13,7 @@
 #include "qt/binding/Spinner.h"
 #include "qt/canvas/Convert.h"
 #include "qt/widgets/Form.h"
+#include "qt/widgets/PlaceholderWidget.h"
 #include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
@@ -118,6 +120,14 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
         if (!widget.hasFocus())
             model.userDidLeave();
     });
+}
+
+void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(
+        model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
+            widget.setText(toQt(text.title), toQt(text.words));
+        }));
 }
 
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {

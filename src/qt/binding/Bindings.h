@@ -15,6 +15,7 @@ class AuthorizationView;
 class Banner;
 class Button;
 class Panel;
+class Placeholder;
 class ProgressIndicator;
 class SymbolView;
 class TextField;
@@ -28,6 +29,7 @@ namespace zarvil::qt {
 
 class BannerRow;
 class LockWidget;
+class PlaceholderWidget;
 class Spinner;
 class SymbolWidget;
 
@@ -37,6 +39,7 @@ void bindView(View& model, QWidget& widget, Subscriptions& kept);
 void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept);
 void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept);
 void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept);
+void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept);
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept);
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept);
 void bindSymbol(SymbolView& model, SymbolWidget& widget, Subscriptions& kept);

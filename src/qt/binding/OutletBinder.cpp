@@ -8,6 +8,7 @@
 #include "qt/scripts/ScriptListView.h"
 #include "qt/widgets/Form.h"
 #include "qt/widgets/LinkButtonWidget.h"
+#include "qt/widgets/PlaceholderWidget.h"
 #include "qt/widgets/SwitchWidget.h"
 #include "qt/widgets/SymbolWidget.h"
 
@@ -90,6 +91,11 @@ public:
     void operator()(std::string_view name, Banner& model) {
         if (auto* banner = findAs<BannerRow>(name))
             bindBanner(model, *banner, kept_);
+    }
+
+    void operator()(std::string_view name, Placeholder& model) {
+        if (auto* placeholder = findAs<PlaceholderWidget>(name))
+            bindPlaceholder(model, *placeholder, kept_);
     }
 
     void operator()(std::string_view name, View& model) {

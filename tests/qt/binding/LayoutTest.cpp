@@ -178,11 +178,11 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
 TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     load();
     const auto& list = widget<QWidget>("connectedDevices");
-    EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
+    EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
     agentSends(Message(message::pingAnswer));
-    EXPECT_TRUE(list.accessibleDescription().contains("No power devices"));
+    EXPECT_TRUE(list.accessibleDescription().contains("No device connected"));
     pane.appDidNotAnswer();
-    EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
+    EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
 }
 
 } // namespace
