@@ -32,7 +32,7 @@ public:
     void follow(BusConnection& session);
     [[nodiscard]] Look look() const;
 
-private slots:
+private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key);
 
 private:

@@ -87,6 +87,6 @@ bool SingleInstance::raiseFirst(const QDBusConnection& bus) {
     return bus.call(call, QDBus::Block, answerLimit).type() == QDBusMessage::ReplyMessage;
 }
 
-void SingleInstance::Activate(const QVariantMap& /*hints*/) { emit activated(); }
+void SingleInstance::Activate(const QVariantMap& /*hints*/) { Q_EMIT activated(); }
 
 } // namespace zarvil::host

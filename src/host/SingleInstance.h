@@ -34,11 +34,11 @@ public:
     /// seconds: this process has nothing else to do.
     [[nodiscard]] static bool raiseFirst(const QDBusConnection& bus);
 
-public slots:
+public Q_SLOTS:
     /// Called over the bus by a second instance. The platform's hints are not used.
     Q_SCRIPTABLE void Activate(const QVariantMap& hints);
 
-signals:
+Q_SIGNALS:
     /// Once, from the event loop.
     void decided();
     void activated();

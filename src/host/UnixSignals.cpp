@@ -35,7 +35,7 @@ UnixSignals::UnixSignals() {
     notifier_ = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
     connect(notifier_.get(), &QSocketNotifier::activated, this, [this] {
         drainPipe();
-        emit endRequested();
+        Q_EMIT endRequested();
     });
     // A write beyond the file-size limit shall fail with an error that can be shown.
     std::signal(SIGXFSZ, SIG_IGN);

@@ -295,7 +295,7 @@ class Pane:
         wait_until(lambda: self.alert() is None, "the alert is gone")
 
     def pixels(self, name):
-        """The colours that a thing has on the screen, as red, green and blue of 0 to 255."""
+        """The colors that a thing has on the screen, as red, green and blue of 0 to 255."""
         area = self.get(name).get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         picture = subprocess.run(
             ["import", "-silent", "-window", "root", "-crop",

@@ -46,11 +46,11 @@ struct GradientStop {
     friend bool operator==(const GradientStop&, const GradientStop&) = default;
 };
 
-/// Colours that run into each other along a line.
+/// Colors that run into each other along a line.
 struct Gradient {
     std::vector<GradientStop> stops;
 
-    /// Spreads the colours from the start to the end at equal distances.
+    /// Spreads the colors from the start to the end at equal distances.
     [[nodiscard]] static Gradient evenlySpaced(const std::vector<Color>& colors);
     friend bool operator==(const Gradient&, const Gradient&) = default;
 };
@@ -62,7 +62,7 @@ struct GradientAxis {
 };
 
 /// The axis through the middle of a rectangle at an angle in degrees that leads from the x axis to
-/// the y axis, so long that the first and the last colour fall on the outermost corners.
+/// the y axis, so long that the first and the last color fall on the outermost corners.
 [[nodiscard]] GradientAxis gradientAxis(const Rect& rect, double angle);
 
 struct Shadow {

@@ -27,7 +27,7 @@ void bindEnabled(Control& model, QWidget& widget, Subscriptions& kept) {
 /// A check box that only shows a state takes no clicks, but stays legible.
 bool showsOnly(const QWidget& widget) { return widget.property("readOnly").toBool(); }
 
-/// The attributes of a whole text; a label shows one colour and one alignment.
+/// The attributes of a whole text; a label shows one color and one alignment.
 void showAttributes(QLabel& label, const AttributedString& text) {
     const TextAttributes attributes = text.attributesAt(0).value_or(TextAttributes{});
     QPalette palette;

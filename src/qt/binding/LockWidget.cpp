@@ -15,13 +15,13 @@ namespace {
 
 constexpr int lockSize = 18;
 
-QPixmap padlock(const QColor& colour, bool open, double scale) {
+QPixmap padlock(const QColor& color, bool open, double scale) {
     QPixmap picture(QSize(lockSize, lockSize) * scale);
     picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1.8));
+    painter.setPen(QPen(color, 1.8));
     QPainterPath shackle;
     const double left = open ? 9.5 : 5.5;
     shackle.moveTo(left, 8.5);
@@ -31,7 +31,7 @@ QPixmap padlock(const QColor& colour, bool open, double scale) {
         shackle.lineTo(left + 7, 8.5);
     painter.drawPath(shackle);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
+    painter.setBrush(color);
     painter.drawRoundedRect(QRectF(3, 8, 12, 8.5), 1.5, 1.5);
     return picture;
 }

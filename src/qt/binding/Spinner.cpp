@@ -33,9 +33,9 @@ void Spinner::paintEvent(QPaintEvent* /*event*/) {
     const double outer = qMin(width(), height()) / 2.0 - 1;
     painter.rotate(step_ * 360.0 / spokes);
     for (int spoke = 0; spoke < spokes; ++spoke) {
-        QColor colour = palette().color(QPalette::WindowText);
-        colour.setAlphaF(static_cast<float>(spoke + 1) / spokes);
-        painter.setPen(QPen(colour, outer / 5, Qt::SolidLine, Qt::RoundCap));
+        QColor color = palette().color(QPalette::WindowText);
+        color.setAlphaF(static_cast<float>(spoke + 1) / spokes);
+        painter.setPen(QPen(color, outer / 5, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(0, -outer * 0.55), QPointF(0, -outer * 0.95));
         painter.rotate(360.0 / spokes);
     }

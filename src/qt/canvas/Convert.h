@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-/// The core's texts, geometry and colours as Qt's, and back: the one place that turns them.
+/// The core's texts, geometry and colors as Qt's, and back: the one place that turns them.
 namespace zarvil::qt {
 
 [[nodiscard]] inline QString toQt(std::string_view text) {

@@ -122,7 +122,7 @@ void DeviceListModel::stateDidChange(const Subscription* mark) {
     if (row == rows_.end())
         return;
     const QModelIndex changed = index(static_cast<int>(row - rows_.begin()));
-    emit dataChanged(changed, changed, {Qt::CheckStateRole});
+    Q_EMIT dataChanged(changed, changed, {Qt::CheckStateRole});
 }
 
 QString DeviceListModel::textForKey(std::size_t row, std::string_view key,

@@ -83,7 +83,7 @@ ScriptCard::ScriptCard(QWidget* parent)
         if (const auto item = item_)
             item->execute();
     });
-    connect(remove_, &QPushButton::clicked, this, [this] { emit removeRequested(this); });
+    connect(remove_, &QPushButton::clicked, this, [this] { Q_EMIT removeRequested(this); });
 }
 
 QPushButton* ScriptCard::addButton(const QString& text, const QString& toolTip) {
@@ -164,7 +164,7 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     }
     const bool editing = !editors_.empty();
     showEditing(editing);
-    emit focusChainChanged();
+    Q_EMIT focusChainChanged();
     if (hadFocus && editing && !wasEditing)
         editors_.back()->widget()->setFocus(Qt::TabFocusReason); // selects the title
     else if (fieldHadFocus && !editing)

@@ -32,7 +32,7 @@ public:
     /// The widgets that take the keyboard, in the order in which Tab visits them.
     [[nodiscard]] std::vector<QWidget*> focusChain() const;
 
-signals:
+Q_SIGNALS:
     void removeRequested(zarvil::qt::ScriptCard* card);
     /// Edit fields came or went.
     void focusChainChanged();

@@ -75,7 +75,7 @@ void MessageButtonWidget::paintEvent(QPaintEvent* event) {
     paintRing(painter);
 }
 
-/// The focus in the colour of selections, else the default button in white.
+/// The focus in the color of selections, else the default button in white.
 void MessageButtonWidget::paintRing(QPainter& painter) const {
     if (!hasFocus() && !isDefault())
         return;
