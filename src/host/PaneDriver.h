@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Bundle.h"
+#include "protocol/NonCopyable.h"
 
 #include <QPointer>
 
@@ -12,14 +13,12 @@ namespace zarvil::host {
 
 /// Drives one pane's life in the order that a pane may rely on. Loads the pane at its first
 /// showing, so that panes never shown cost nothing.
-class PaneDriver {
+class PaneDriver : NonCopyable {
 public:
     /// Whether the pane has been left; false when it wants to stay.
     using Left = std::function<void(bool left)>;
 
     PaneDriver(Bundle bundle, QString root);
-    PaneDriver(const PaneDriver&) = delete;
-    PaneDriver& operator=(const PaneDriver&) = delete;
     /// Takes the view out of whatever window it is in. The pane is not told: leave it before.
     ~PaneDriver();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "posix/FileDescriptor.h"
+#include "protocol/NonCopyable.h"
 
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@ namespace zarvil::posix {
 /// All saves into one folder use the same temporary name, guarded by a lock: what a killed process
 /// left behind is taken away by the next save into that folder, so that leftovers do not pile up. A
 /// save that finds the name in use by another process takes a name of its own.
-class AtomicFile {
+class AtomicFile : NonCopyable {
 public:
     static constexpr std::string_view temporaryName = ".zarvil-save";
 
@@ -24,8 +25,6 @@ public:
 
 private:
     explicit AtomicFile(const std::string& path);
-    AtomicFile(const AtomicFile&) = delete;
-    AtomicFile& operator=(const AtomicFile&) = delete;
     ~AtomicFile();
 
     [[nodiscard]] bool openFolder();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/ArrayController.h"
+#include "protocol/NonCopyable.h"
 
 #include <list>
 #include <optional>
@@ -13,13 +14,11 @@ namespace zarvil {
 /// Device records in the order of their arrival, equal ones side by side, and two ways to look
 /// one up. A look-up gives the answer of a walk in order without walking. Records are not edited
 /// while they are listed.
-class DeviceList {
+class DeviceList : NonCopyable {
 public:
     DeviceList() = default;
     /// Follows the arranged objects of a controller, which it does not own.
     explicit DeviceList(const ArrayController& followed);
-    DeviceList(const DeviceList&) = delete;
-    DeviceList& operator=(const DeviceList&) = delete;
 
     void add(Record record);
     /// Removes this very record, once.

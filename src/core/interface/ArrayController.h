@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/Record.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -21,13 +22,9 @@ struct ListChange {
 /// The records of a list in the order in which they are shown. No sort order is set, so that is
 /// the order of their addition. Looking a record up answers as a walk in order would, in constant
 /// time.
-class ArrayController {
+class ArrayController : NonCopyable {
 public:
     using Observer = std::function<void(const ListChange&)>;
-
-    ArrayController() = default;
-    ArrayController(const ArrayController&) = delete;
-    ArrayController& operator=(const ArrayController&) = delete;
 
     [[nodiscard]] const std::vector<Record>& arrangedObjects() const { return records_; }
     [[nodiscard]] bool empty() const { return records_.empty(); }

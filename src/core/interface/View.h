@@ -3,6 +3,7 @@
 #include "interface/Geometry.h"
 #include "interface/Property.h"
 #include "interface/TrackingArea.h"
+#include "protocol/NonCopyable.h"
 
 #include <algorithm>
 #include <memory>
@@ -21,11 +22,8 @@ inline constexpr double active = 1.0;
 
 /// What every element of a layout shows: visibility, dimming, place. Views have identity: they
 /// are neither copied nor moved.
-class View {
+class View : NonCopyable {
 public:
-    View() = default;
-    View(const View&) = delete;
-    View& operator=(const View&) = delete;
     virtual ~View() = default;
 
     void setHidden(bool hidden) { hidden_.set(hidden); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -15,11 +17,8 @@ struct ScriptError {
 };
 
 /// Compiles and runs a script's source.
-class ScriptRunner {
+class ScriptRunner : NonCopyable {
 public:
-    ScriptRunner() = default;
-    ScriptRunner(const ScriptRunner&) = delete;
-    ScriptRunner& operator=(const ScriptRunner&) = delete;
     virtual ~ScriptRunner() = default;
 
     /// Returns when the script has ended; no error means success.

@@ -2,6 +2,7 @@
 
 #include "bus/BusConnection.h"
 #include "pane/Platform.h"
+#include "protocol/NonCopyable.h"
 #include "qt/adapters/PolkitAuthorization.h"
 #include "qt/adapters/QtClock.h"
 #include "qt/adapters/QtErrorPresenter.h"
@@ -17,7 +18,7 @@ namespace zarvil {
 
 /// Owns every port that the pane is given: the adapters on Qt, and those that are handed to it.
 /// Needs an application object.
-class QtPlatform {
+class QtPlatform : NonCopyable {
 public:
     /// The ports that need no Qt, or more of it than the adapters here.
     struct Parts {
@@ -29,8 +30,6 @@ public:
 
     /// `root` is put before the absolute product paths.
     QtPlatform(Parts parts, std::string root);
-    QtPlatform(const QtPlatform&) = delete;
-    QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() = default;
 
     [[nodiscard]] Platform& platform() { return platform_; }

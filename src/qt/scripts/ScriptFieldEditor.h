@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "scripts/ZVScriptCollectionItem.h"
 
 #include <QCoreApplication>
@@ -17,7 +18,7 @@ namespace zarvil::qt {
 /// The widget of one edit field: a line, or a text of several lines where the frame has room for
 /// them. What the user types goes into the field at once; what he leaves alone stays as it was,
 /// byte for byte.
-class ScriptFieldEditor {
+class ScriptFieldEditor : NonCopyable {
     Q_DECLARE_TR_FUNCTIONS(ScriptFieldEditor)
 
 public:
@@ -25,8 +26,6 @@ public:
     static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
 
     ScriptFieldEditor(std::shared_ptr<ScriptEditField> field, QWidget* card);
-    ScriptFieldEditor(const ScriptFieldEditor&) = delete;
-    ScriptFieldEditor& operator=(const ScriptFieldEditor&) = delete;
     /// The widget may be in the middle of its own event, so it goes a moment later.
     ~ScriptFieldEditor();
 
