@@ -62,10 +62,6 @@ Value normalized(const Value& value, setting::Type type) {
     return type == setting::Type::Boolean ? Value(value.boolValue()) : value;
 }
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 } // namespace
 
 AgentSettings::AgentSettings(QString path, AgentLog& log) : path_(std::move(path)), log_(log) {
@@ -149,7 +145,8 @@ void AgentSettings::adopt(const Dictionary& stored) {
     for (const auto& [key, value] : stored.entries()) {
         const setting::Description* known = storable(key);
         if (known && !hasType(value, known->type))
-            log_.problem("Ignored the stored setting " + text(key) + ": it has a wrong type");
+            log_.problem("Ignored the stored setting " + QString::fromUtf8(key) +
+                         ": it has a wrong type");
         else if (key != savedDevicesKey)
             stored_.setObject(key, value);
     }

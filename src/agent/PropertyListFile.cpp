@@ -71,7 +71,7 @@ private:
     }
 
     void writeText(const QString& element, const std::string& utf8) {
-        const QString text = QString::fromStdString(utf8);
+        const QString text = QString::fromUtf8(utf8);
         xml_.writeStartElement(element);
         if (fitsXml(text)) {
             xml_.writeCharacters(text);

@@ -1,7 +1,7 @@
 #include "bus/DBusMessageCenter.h"
 
-#include "protocol/BusNames.h"
 #include "bus/DBusValues.h"
+#include "protocol/BusNames.h"
 
 #include <QDBusError>
 #include <QDBusMessage>
@@ -31,10 +31,6 @@ const auto localInterface = QStringLiteral("org.freedesktop.DBus.Local");
 QString unusedConnectionName() {
     static std::atomic<int> count = 0;
     return QStringLiteral("zarvil-messages-%1").arg(++count);
-}
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 } // namespace
@@ -171,7 +167,8 @@ void DBusMessageCenter::send(const Message& message) {
         qCWarning(busLog, "Did not send %s", message.name.c_str());
         return;
     }
-    QDBusMessage signal = QDBusMessage::createSignal(bus::path, bus::interface, text(message.name));
+    QDBusMessage signal =
+        QDBusMessage::createSignal(bus::path, bus::interface, QString::fromUtf8(message.name));
     signal << QVariant(*std::move(payload));
     connection_->send(signal);
     unflushed_ = true;
@@ -198,13 +195,13 @@ void DBusMessageCenter::deliver(const QDBusMessage& signal) {
 // One match a message name, so that the bus does not wake this process for its own broadcasts.
 void DBusMessageCenter::watch(const std::string& name) {
     if (connection_)
-        connection_->connect(QString(), bus::path, bus::interface, text(name), this,
+        connection_->connect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
                              SLOT(receive(QDBusMessage)));
 }
 
 void DBusMessageCenter::unwatch(const std::string& name) {
     if (connection_)
-        connection_->disconnect(QString(), bus::path, bus::interface, text(name), this,
+        connection_->disconnect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
                                 SLOT(receive(QDBusMessage)));
 }
 

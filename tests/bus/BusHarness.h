@@ -2,9 +2,9 @@
 
 #include "EventWait.h"
 #include "PrivateBus.h"
+#include "bus/DBusMessageCenter.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
-#include "bus/DBusMessageCenter.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -54,17 +54,17 @@ protected:
     }
 
     static QDBusMessage signal(std::string_view name, const QVariantList& arguments = {}) {
-        QDBusMessage message = QDBusMessage::createSignal(
-            bus::path, bus::interface, QString::fromUtf8(name.data(), qsizetype(name.size())));
+        QDBusMessage message =
+            QDBusMessage::createSignal(bus::path, bus::interface, QString::fromUtf8(name));
         message.setArguments(arguments);
         return message;
     }
     /// The same, for one receiver alone.
     static QDBusMessage signalTo(const DBusMessageCenter& receiver, std::string_view name,
                                  const QVariantList& arguments = {}) {
-        QDBusMessage message = QDBusMessage::createTargetedSignal(
-            receiver.connection()->baseService(), bus::path, bus::interface,
-            QString::fromUtf8(name.data(), qsizetype(name.size())));
+        QDBusMessage message =
+            QDBusMessage::createTargetedSignal(receiver.connection()->baseService(), bus::path,
+                                               bus::interface, QString::fromUtf8(name));
         message.setArguments(arguments);
         return message;
     }

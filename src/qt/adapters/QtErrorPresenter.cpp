@@ -14,7 +14,7 @@ void QtErrorPresenter::presentError(const Error& error) {
     box.setText(error.description.empty()
                     ? QCoreApplication::translate("QtErrorPresenter",
                                                   "The operation could not be completed.")
-                    : QString::fromStdString(error.description));
+                    : QString::fromUtf8(error.description));
     box.exec();
 }
 

@@ -1,8 +1,8 @@
 #include "qt/adapters/QtWorkspace.h"
 
+#include "bus/BusConnection.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "bus/BusConnection.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>
@@ -24,10 +24,6 @@ namespace {
 constexpr int answerLimit = 1000; // milliseconds
 constexpr std::chrono::milliseconds connectLimit{1000};
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QString executableOf(const QString& bundle) {
     const QString name = QFileInfo(bundle).completeBaseName();
     for (const QString& place : {QStringLiteral("/"), QStringLiteral("/Contents/MacOS/")}) {
@@ -40,8 +36,8 @@ QString executableOf(const QString& bundle) {
 
 /// Empty for an application whose identifier is not known without its bundle.
 QString identifierOf(const QString& bundle) {
-    const bool isAgent = bundle.endsWith(text(product::agentApplication));
-    return isAgent ? text(product::agentIdentifier) : QString();
+    const bool isAgent = bundle.endsWith(QString::fromUtf8(product::agentApplication));
+    return isAgent ? QString::fromUtf8(product::agentIdentifier) : QString();
 }
 
 QDBusMessage busCall(const QString& method, const QVariantList& arguments = {}) {
@@ -58,7 +54,7 @@ bool isApplicationName(const QString& name) {
 } // namespace
 
 bool QtWorkspace::launchApplication(std::string_view path) {
-    const QString bundle = text(path);
+    const QString bundle = QString::fromUtf8(path);
     if (!QFileInfo::exists(bundle))
         return activate(identifierOf(bundle));
     const QString executable = executableOf(bundle);
@@ -98,7 +94,7 @@ std::vector<RunningApplication> QtWorkspace::runningApplications() const {
 std::string QtWorkspace::mainBundleIdentifier() const { return bus::hostName; }
 
 bool QtWorkspace::openURL(std::string_view url) {
-    const QUrl address(text(url), QUrl::StrictMode);
+    const QUrl address(QString::fromUtf8(url), QUrl::StrictMode);
     return address.isValid() && QDesktopServices::openUrl(address);
 }
 

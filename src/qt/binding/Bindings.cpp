@@ -52,9 +52,10 @@ void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     bindEnabled(model, widget, kept);
     if (model.title().empty())
-        model.setTitle(fromQt(widget.text()));
-    kept.push_back(model.titleProperty().observe(
-        [&widget](const std::string& title, Transition) { widget.setText(toQt(title)); }));
+        model.setTitle(widget.text().toStdString());
+    kept.push_back(model.titleProperty().observe([&widget](const std::string& title, Transition) {
+        widget.setText(QString::fromUtf8(title));
+    }));
     const auto showState = [&widget](int state, Transition) {
         widget.setChecked(state == buttonState::on);
     };
@@ -81,9 +82,10 @@ void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     bindEnabled(model, widget, kept);
     if (model.stringValue().empty())
-        model.setStringValue(fromQt(widget.text()));
-    kept.push_back(model.stringProperty().observe(
-        [&widget](const std::string& text, Transition) { widget.setText(toQt(text)); }));
+        model.setStringValue(widget.text().toStdString());
+    kept.push_back(model.stringProperty().observe([&widget](const std::string& text, Transition) {
+        widget.setText(QString::fromUtf8(text));
+    }));
     kept.push_back(model.attributedStringProperty().observe(
         [&widget](const AttributedString& text, Transition) { showAttributes(widget, text); }));
 }
@@ -92,7 +94,7 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     bindEnabled(model, widget, kept);
     kept.push_back(model.stringProperty().observe([&widget](const std::string& text, Transition) {
-        const QString shown = toQt(text);
+        const QString shown = QString::fromUtf8(text);
         if (widget.text() != shown)
             widget.setText(shown);
     }));
@@ -101,7 +103,7 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     }));
     // Not `textEdited`: assistive programs set the text without typing it.
     QObject::connect(&widget, &QLineEdit::textChanged, &widget,
-                     [&model](const QString& text) { model.userDidEdit(fromQt(text)); });
+                     [&model](const QString& text) { model.userDidEdit(text.toStdString()); });
     if (widget.property("commitsOnReturnOnly").toBool()) {
         QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
                          [&model] { model.sendAction(); });
@@ -125,7 +127,8 @@ void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kep
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     const auto show = [&model, &widget] {
-        widget.showState(model.authorizationState(), toQt(model.reasonProperty().get()));
+        widget.showState(model.authorizationState(),
+                         QString::fromUtf8(model.reasonProperty().get()));
     };
     kept.push_back(model.stateProperty().observe([show](int, Transition) { show(); }));
     kept.push_back(

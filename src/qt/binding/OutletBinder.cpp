@@ -97,7 +97,7 @@ public:
 
 private:
     QWidget* find(std::string_view name) {
-        auto* widget = layout_.findChild<QWidget*>(toQt(name));
+        auto* widget = layout_.findChild<QWidget*>(QString::fromUtf8(name));
         if (!widget)
             faults_.push_back("no widget for the outlet " + std::string(name));
         outlets_.emplace(name, widget);
@@ -125,7 +125,7 @@ private:
     }
 
     static std::string actionOf(const QWidget& widget) {
-        return fromQt(widget.property("action").toString());
+        return widget.property("action").toString().toStdString();
     }
 
     void adoptAction(Control& model, const QWidget* widget) {
@@ -137,8 +137,8 @@ private:
         const QString name = widget.objectName();
         const bool claimsOutlet =
             !name.isEmpty() && name.front().isLower() && !name.startsWith(QLatin1String("qt_"));
-        if (claimsOutlet && !outlets_.contains(fromQt(name)))
-            faults_.push_back("no outlet for the widget " + fromQt(name));
+        if (claimsOutlet && !outlets_.contains(name.toStdString()))
+            faults_.push_back("no outlet for the widget " + name.toStdString());
     }
 
     void checkAction(QWidget& widget) {
@@ -147,7 +147,7 @@ private:
             return;
         if (!std::ranges::count(Zarvil_Preferences::actionNames(), action))
             faults_.push_back("no action " + action);
-        if (outlets_.contains(fromQt(widget.objectName())))
+        if (outlets_.contains(widget.objectName().toStdString()))
             return;
         if (auto* button = qobject_cast<QAbstractButton*>(&widget))
             QObject::connect(button, &QAbstractButton::clicked, button,
@@ -158,7 +158,7 @@ private:
 
     /// A label beside an outlet that shows the title of a button or the fault of a field.
     void bindCaption(QLabel& label) {
-        const std::string titled = fromQt(label.property("titleOf").toString());
+        const std::string titled = label.property("titleOf").toString().toStdString();
         const std::string faulty = fromQt(label.property("faultOf").toString());
         visitOutlets(pane_, [&](std::string_view outlet, View& view) {
             if (auto* button = dynamic_cast<Button*>(&view); button && outlet == titled)
@@ -170,9 +170,11 @@ private:
 
     void bindTitle(Button& button, QLabel& label) {
         if (button.title().empty())
-            button.setTitle(fromQt(label.text()));
-        kept_.push_back(button.titleProperty().observe(
-            [&label](const std::string& title, Transition) { label.setText(toQt(title)); }));
+            button.setTitle(label.text().toStdString());
+        kept_.push_back(
+            button.titleProperty().observe([&label](const std::string& title, Transition) {
+                label.setText(QString::fromUtf8(title));
+            }));
     }
 
     void bindFault(TextField& field, QLabel& label) {

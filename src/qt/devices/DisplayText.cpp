@@ -27,7 +27,7 @@ char16_t shown(char16_t c) {
 }
 
 QString readable(std::string_view utf8) {
-    QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    QString text = QString::fromUtf8(utf8);
     for (QChar& c : text)
         c = QChar(shown(c.unicode()));
     return text;

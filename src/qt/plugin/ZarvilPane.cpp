@@ -1,5 +1,6 @@
 #include "qt/plugin/ZarvilPane.h"
 
+#include "bus/DBusMessageCenter.h"
 #include "pane/Zarvil_Preferences.h"
 #include "posix/PosixFileManager.h"
 #include "posix/PosixProcessControl.h"
@@ -7,7 +8,6 @@
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
 #include "qt/binding/OutletBinder.h"
-#include "bus/DBusMessageCenter.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 
@@ -52,11 +52,11 @@ QtPlatform::Parts partsOfThePlatform() {
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
     explicit Loaded(const QString& root)
-        : platform(partsOfThePlatform(), qt::fromQt(root)),
+        : platform(partsOfThePlatform(), root.toStdString()),
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()) {
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
-            qWarning().noquote() << "Layout:" << qt::toQt(fault);
+            qWarning().noquote() << "Layout:" << QString::fromUtf8(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
         QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });

@@ -34,9 +34,7 @@ QStringList firstLines(std::string_view text, int count) {
     while (!text.empty() && lines.size() < count) {
         const std::size_t end = std::min(text.find('\n'), text.size());
         const std::string_view line = text.substr(0, std::min(end, longestShownLine));
-        lines += QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()))
-                     .replace(u'\t', QLatin1String("    "))
-                     .remove(u'\r');
+        lines += QString::fromUtf8(line).replace(u'\t', QLatin1String("    ")).remove(u'\r');
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     if (!text.empty() && !lines.isEmpty())
@@ -46,7 +44,7 @@ QStringList firstLines(std::string_view text, int count) {
 
 QString stringOf(const Record& record, std::string_view key) {
     const std::string* value = record ? record->contents().stringForKey(key) : nullptr;
-    return value ? QString::fromStdString(*value) : QString();
+    return value ? QString::fromUtf8(*value) : QString();
 }
 
 } // namespace

@@ -61,7 +61,7 @@ void LinkButtonWidget::showTitle() {
     const std::string title =
         model_->attributedTitle().empty() ? model_->title() : model_->attributedTitle().text();
     if (!title.empty())
-        setText(QString::fromStdString(title));
+        setText(QString::fromUtf8(title));
     updateGeometry();
     update();
 }

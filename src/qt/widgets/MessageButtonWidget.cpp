@@ -43,7 +43,7 @@ void MessageButtonWidget::setModel(Button& model) {
     subscriptions_.push_back(
         model.titleProperty().observe([this](const std::string& title, Transition) {
             if (!title.empty())
-                setText(QString::fromStdString(title));
+                setText(QString::fromUtf8(title));
         }));
     subscriptions_.push_back(
         model.enabledProperty().observe([this](bool enabled, Transition) { setEnabled(enabled); }));
