@@ -1,8 +1,8 @@
 #pragma once
 
+#include "bus/SenderGate.h"
 #include "protocol/MessageCenter.h"
 #include "protocol/ObserverList.h"
-#include "bus/SenderGate.h"
 
 #include <QDBusConnection>
 #include <QObject>

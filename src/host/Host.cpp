@@ -1,9 +1,9 @@
 #include "host/Host.h"
 
+#include "bus/BusProbe.h"
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "bus/BusProbe.h"
 
 #include <QApplication>
 #include <QDir>

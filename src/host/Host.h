@@ -1,11 +1,11 @@
 #pragma once
 
+#include "bus/BusConnection.h"
 #include "host/Appearance.h"
 #include "host/CommandLine.h"
 #include "host/HostWindow.h"
 #include "host/SingleInstance.h"
 #include "host/UnixSignals.h"
-#include "bus/BusConnection.h"
 
 #include <QSettings>
 

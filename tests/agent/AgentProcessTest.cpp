@@ -1,8 +1,8 @@
 #include "EventWait.h"
 #include "PrivateBus.h"
+#include "bus/DBusMessageCenter.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
-#include "bus/DBusMessageCenter.h"
 
 #include <QProcess>
 
