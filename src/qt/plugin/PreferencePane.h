@@ -1,7 +1,5 @@
 #pragma once
 
-#include "protocol/NonCopyable.h"
-
 #include <QIcon>
 #include <QString>
 #include <QWidget>
@@ -22,11 +20,14 @@ struct PaneOptions {
 /// A preference pane as the host sees it. The root object of the plug-in in a pane's bundle
 /// implements it; docs/bundle.md describes the bundle. All calls come on the main thread, in the
 /// order of the groups below.
-class PreferencePane : NonCopyable {
+class PreferencePane {
 public:
     /// Tells the host, once, whether a pane that answered "later" may be left after all.
     using UnselectAnswer = std::function<void(bool leave)>;
 
+    PreferencePane() = default;
+    PreferencePane(const PreferencePane&) = delete;
+    PreferencePane& operator=(const PreferencePane&) = delete;
     virtual ~PreferencePane() = default;
 
     // Before anything else, once. The constructor of a pane does no work.
