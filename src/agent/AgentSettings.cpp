@@ -1,12 +1,13 @@
 #include "agent/AgentSettings.h"
 
 #include "agent/DeviceRecord.h"
-#include "agent/PropertyListFile.h"
+#include "agent/Json.h"
 #include "protocol/Settings.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -120,8 +121,8 @@ void AgentSettings::write() {
     contents.setObject(savedDevicesKey, savedDevices_);
     QDir().mkpath(QFileInfo(path_).path());
     QSaveFile file(path_);
-    if (file.open(QIODevice::WriteOnly) && file.write(writePropertyList(contents)) >= 0 &&
-        file.commit())
+    if (file.open(QIODevice::WriteOnly) &&
+        file.write(QJsonDocument(jsonFrom(contents)).toJson()) >= 0 && file.commit())
         return;
     log_.problem("Cannot write the settings " + path_ + ": " + file.errorString());
 }
@@ -134,11 +135,14 @@ void AgentSettings::read() {
         keepAside(file.errorString());
         return;
     }
-    const auto contents = readPropertyList(file.readAll());
-    if (const auto* reason = std::get_if<QString>(&contents))
-        keepAside(*reason);
+    QJsonParseError error;
+    const auto document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError)
+        keepAside(QStringLiteral("at byte %1: %2").arg(error.offset).arg(error.errorString()));
+    else if (!document.isObject())
+        keepAside(QStringLiteral("it holds no object"));
     else
-        adopt(std::get<Dictionary>(contents));
+        adopt(dictionaryFrom(document.object()));
 }
 
 void AgentSettings::adopt(const Dictionary& stored) {

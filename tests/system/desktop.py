@@ -137,12 +137,9 @@ class Session:
 
     def stored(self, key):
         """What the agent has stored under a key, as text; None when it has not."""
-        import plistlib
-
         if not self.settings_file.exists():
             return None
-        with open(self.settings_file, "rb") as file:
-            return plistlib.load(file).get(key)
+        return json.loads(self.settings_file.read_text()).get(key)
 
     # The bus.
 
