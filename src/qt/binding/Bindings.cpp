@@ -99,7 +99,7 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
             widget.setText(shown);
     }));
     kept.push_back(model.faultProperty().observe([&widget](const std::string& fault, Transition) {
-        widget.setAccessibleDescription(toQt(fault));
+        widget.setAccessibleDescription(QString::fromUtf8(fault));
     }));
     // Not `textEdited`: assistive programs set the text without typing it.
     QObject::connect(&widget, &QLineEdit::textChanged, &widget,

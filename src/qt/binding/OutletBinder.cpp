@@ -159,7 +159,7 @@ private:
     /// A label beside an outlet that shows the title of a button or the fault of a field.
     void bindCaption(QLabel& label) {
         const std::string titled = label.property("titleOf").toString().toStdString();
-        const std::string faulty = fromQt(label.property("faultOf").toString());
+        const std::string faulty = label.property("faultOf").toString().toStdString();
         visitOutlets(pane_, [&](std::string_view outlet, View& view) {
             if (auto* button = dynamic_cast<Button*>(&view); button && outlet == titled)
                 bindTitle(*button, label);
@@ -180,7 +180,7 @@ private:
     void bindFault(TextField& field, QLabel& label) {
         kept_.push_back(
             field.faultProperty().observe([&label](const std::string& fault, Transition) {
-                label.setText(toQt(fault));
+                label.setText(QString::fromUtf8(fault));
                 label.setHidden(fault.empty());
             }));
     }
