@@ -11,7 +11,8 @@
 
 namespace zarvil {
 
-/// Alpha values of dimming. Both widen a single-precision constant, as the originals do.
+/// Alpha values of dimming. Both widen a single-precision constant, as on the original
+/// platform.
 namespace alpha {
 
 inline constexpr double dimmed = static_cast<double>(0.3F);
