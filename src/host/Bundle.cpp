@@ -124,7 +124,9 @@ std::vector<BundleOutcome> findBundles(const QStringList& folders) {
 }
 
 QStringList bundleFolders() {
-    return {QDir::homePath() + "/Library/PreferencePanes", QStringLiteral(ZARVIL_PANES_FOLDER)};
+    return {QDir::homePath() + "/Library/PreferencePanes",
+            QDir::cleanPath(QCoreApplication::applicationDirPath() + '/' +
+                            QStringLiteral(ZARVIL_PANES_FROM_PROGRAM))};
 }
 
 PaneOutcome loadPane(const Bundle& bundle) {

@@ -41,7 +41,8 @@ using PaneOutcome = std::variant<std::unique_ptr<PreferencePane>, BundleFailure>
 /// first counts. A folder that is missing holds none; a broken bundle is listed as such.
 [[nodiscard]] std::vector<BundleOutcome> findBundles(const QStringList& folders);
 
-/// Where panes are installed: the user's folder, then the system's.
+/// Where panes are installed: the user's folder, then the one that was installed with the program,
+/// wherever both are now. Needs the application object.
 [[nodiscard]] QStringList bundleFolders();
 
 /// Loads the plug-in, which stays loaded for the life of the process. A pane can be loaded once.

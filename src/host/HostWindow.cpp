@@ -186,7 +186,7 @@ void HostWindow::finish() {
         settings_.setValue(geometryKey, saveGeometry());
     finished_ = true;
     hide();
-    emit closed();
+    Q_EMIT closed();
 }
 
 } // namespace zarvil::host

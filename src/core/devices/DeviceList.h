@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/ArrayController.h"
+#include "protocol/NonCopyable.h"
 
 #include <list>
 #include <unordered_map>
@@ -20,7 +21,7 @@ namespace zarvil {
 /// Device records in the order of their arrival, equal ones side by side, and two ways to look
 /// one up. A look-up gives the answer of a walk in order without walking. Records are not edited
 /// while they are listed.
-class DeviceList {
+class DeviceList : NonCopyable {
 public:
     DeviceList() = default;
     DeviceList(const DeviceList&) = delete;

@@ -10,11 +10,8 @@ class ZVCollectionItem;
 
 /// Capability of a collection view's delegate: it is told when the user ticked or unticked an
 /// item. The item may leave its list, and the view may drop it, during the call.
-class DeviceStateDelegate {
+class DeviceStateDelegate : NonCopyable {
 public:
-    DeviceStateDelegate() = default;
-    DeviceStateDelegate(const DeviceStateDelegate&) = delete;
-    DeviceStateDelegate& operator=(const DeviceStateDelegate&) = delete;
     virtual ~DeviceStateDelegate() = default;
 
     virtual void stateDidChange(ZVCollectionItem& item) = 0;

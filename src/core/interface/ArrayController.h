@@ -2,6 +2,7 @@
 
 #include "interface/ChunkedList.h"
 #include "interface/Record.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstddef>
 #include <cstdint>

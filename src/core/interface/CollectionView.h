@@ -2,6 +2,7 @@
 
 #include "interface/ArrayController.h"
 #include "interface/View.h"
+#include "protocol/NonCopyable.h"
 
 #include <functional>
 #include <memory>
@@ -13,20 +14,14 @@ namespace zarvil {
 class CollectionView;
 
 /// Base of what a collection view tells its delegate; the delegate offers capabilities beside it.
-class CollectionViewDelegate {
+class CollectionViewDelegate : NonCopyable {
 public:
-    CollectionViewDelegate() = default;
-    CollectionViewDelegate(const CollectionViewDelegate&) = delete;
-    CollectionViewDelegate& operator=(const CollectionViewDelegate&) = delete;
     virtual ~CollectionViewDelegate() = default;
 };
 
 /// The controller of one cell of a collection view.
-class CollectionViewItem {
+class CollectionViewItem : NonCopyable {
 public:
-    CollectionViewItem() = default;
-    CollectionViewItem(const CollectionViewItem&) = delete;
-    CollectionViewItem& operator=(const CollectionViewItem&) = delete;
     virtual ~CollectionViewItem() = default;
 
     [[nodiscard]] const Record& representedObject() const { return representedObject_; }

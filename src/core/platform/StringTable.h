@@ -8,11 +8,8 @@
 namespace zarvil {
 
 /// The main bundle's table of user-visible texts.
-class StringTable {
+class StringTable : NonCopyable {
 public:
-    StringTable() = default;
-    StringTable(const StringTable&) = delete;
-    StringTable& operator=(const StringTable&) = delete;
     virtual ~StringTable() = default;
 
     /// The translation, or the key itself, which is the English text.

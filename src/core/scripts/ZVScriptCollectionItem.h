@@ -3,6 +3,7 @@
 #include "interface/CollectionView.h"
 #include "interface/TextField.h"
 #include "pane/Platform.h"
+#include "protocol/NonCopyable.h"
 #include "scripts/ScriptFile.h"
 #include "scripts/ScriptProgress.h"
 
@@ -14,11 +15,8 @@ namespace zarvil {
 
 /// Capability of an item's owner: it drops a record whose file is gone. The item may be released
 /// during the call.
-class ScriptOwner {
+class ScriptOwner : NonCopyable {
 public:
-    ScriptOwner() = default;
-    ScriptOwner(const ScriptOwner&) = delete;
-    ScriptOwner& operator=(const ScriptOwner&) = delete;
     virtual ~ScriptOwner() = default;
 
     virtual void removeScript(const Record& record) = 0;

@@ -14,7 +14,7 @@ namespace zarvil::qt {
 
 namespace {
 
-constexpr int fadeDuration = 250; // milliseconds, the original animator's default
+constexpr int fadeDuration = 250; // milliseconds, the original platform's default
 constexpr auto fadeName = "Fade";
 constexpr auto glassName = "Glass";
 

@@ -128,7 +128,7 @@ public:
 
 private:
     QWidget* find(std::string_view name) {
-        auto* widget = layout_.findChild<QWidget*>(toQt(name));
+        auto* widget = layout_.findChild<QWidget*>(QString::fromUtf8(name));
         if (!widget)
             faults_.push_back("no widget for the outlet " + std::string(name));
         outlets_.emplace(name, widget);
@@ -156,7 +156,7 @@ private:
     }
 
     static std::string actionOf(const QWidget& widget) {
-        return fromQt(widget.property("action").toString());
+        return widget.property("action").toString().toStdString();
     }
 
     void adoptAction(Control& model, const QWidget* widget) {
@@ -168,8 +168,8 @@ private:
         const QString name = widget.objectName();
         const bool claimsOutlet =
             !name.isEmpty() && name.front().isLower() && !name.startsWith(QLatin1String("qt_"));
-        if (claimsOutlet && !outlets_.contains(fromQt(name)))
-            faults_.push_back("no outlet for the widget " + fromQt(name));
+        if (claimsOutlet && !outlets_.contains(name.toStdString()))
+            faults_.push_back("no outlet for the widget " + name.toStdString());
     }
 
     void checkAction(QWidget& widget) {
@@ -178,7 +178,7 @@ private:
             return;
         if (!std::ranges::count(Zarvil_Preferences::actionNames(), action))
             faults_.push_back("no action " + action);
-        if (outlets_.contains(fromQt(widget.objectName())))
+        if (outlets_.contains(widget.objectName().toStdString()))
             return;
         if (auto* button = qobject_cast<QAbstractButton*>(&widget))
             QObject::connect(button, &QAbstractButton::clicked, button,

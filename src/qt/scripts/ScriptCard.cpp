@@ -144,7 +144,7 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     }
     const bool editing = !editors_.empty();
     showEditing(editing);
-    emit focusChainChanged();
+    Q_EMIT focusChainChanged();
     if (hadFocus && editing && !wasEditing)
         editors_.back()->widget()->setFocus(Qt::TabFocusReason); // selects the title
     else if (fieldHadFocus && !editing)

@@ -59,7 +59,7 @@ QWidget* ScriptFieldEditor::makeLine(QWidget* card) {
     auto* line = new QLineEdit(card);
     changes_ = field_->stringProperty().observe([this, line](const std::string& text, Transition) {
         if (!taking_)
-            line->setText(QString::fromStdString(text));
+            line->setText(QString::fromUtf8(text));
     });
     QObject::connect(line, &QLineEdit::textEdited, line, [this](const QString& text) {
         const QScopedValueRollback guard(taking_, true);
@@ -98,7 +98,7 @@ void ScriptFieldEditor::showInText(QPlainTextEdit& editor, const std::string& te
         return;
     }
     carriageReturns_ = text.find("\r\n") != std::string::npos;
-    editor.setPlainText(QString::fromStdString(text));
+    editor.setPlainText(QString::fromUtf8(text));
 }
 
 void ScriptFieldEditor::takeFromText(const QPlainTextEdit& editor) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "scripts/ZVScriptCollectionItem.h"
 
 #include <QRect>

@@ -142,7 +142,7 @@ TEST_F(ScriptListViewTest, whatTheUserLeavesAloneKeepsItsBytes) {
         pane.unloadScripts();
         show();
         click(card("a\xFF"), "Edit");
-        QTest::keyClicks(&textField(card("a\xFF")), QString::fromStdString(typed));
+        QTest::keyClicks(&textField(card("a\xFF")), QString::fromUtf8(typed));
         click(card("a\xFF"), "Done");
         EXPECT_TRUE(files.files[pathOf("a\xFF.zvscript")] == saved) << text.substr(0, 20);
     }
