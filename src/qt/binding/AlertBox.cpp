@@ -28,7 +28,7 @@ void AlertBox::open(const std::string& text) {
     box_->setIcon(QMessageBox::Warning);
     box_->setTextFormat(Qt::PlainText);
     box_->setText(QString::fromUtf8(text));
-    box_->addButton(toQt(alerts_.buttonTitle()), QMessageBox::AcceptRole);
+    box_->addButton(QString::fromUtf8(alerts_.buttonTitle()), QMessageBox::AcceptRole);
     QObject::connect(box_, &QMessageBox::finished, box_, [this] { alerts_.dismiss(); });
     box_->open();
 }
