@@ -1,6 +1,6 @@
 #include "qt/devices/DeviceListModel.h"
 
-#include "qt/widgets/ToolTip.h"
+#include "qt/text/ToolTip.h"
 
 namespace zarvil::qt {
 

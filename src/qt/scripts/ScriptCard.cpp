@@ -1,6 +1,6 @@
 #include "qt/scripts/ScriptCard.h"
 
-#include "qt/widgets/ToolTip.h"
+#include "qt/text/ToolTip.h"
 
 #include <QEvent>
 #include <QFontDatabase>
