@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <csignal>
 
 /// What a fork needs before the new process becomes what it is for.
@@ -14,11 +16,9 @@ void restoreSignals();
 
 /// Blocks all signals of this thread while it lives: no handler of this process may run in the
 /// child of a fork meanwhile.
-class AllSignalsBlocked {
+class AllSignalsBlocked : NonCopyable {
 public:
     AllSignalsBlocked();
-    AllSignalsBlocked(const AllSignalsBlocked&) = delete;
-    AllSignalsBlocked& operator=(const AllSignalsBlocked&) = delete;
     /// Keeps `errno`.
     ~AllSignalsBlocked();
 

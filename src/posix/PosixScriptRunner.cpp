@@ -152,8 +152,6 @@ public:
             report(preparationError(error.code().value()));
         }
     }
-    PosixScriptRun(const PosixScriptRun&) = delete;
-    PosixScriptRun& operator=(const PosixScriptRun&) = delete;
     ~PosixScriptRun() override {
         ended_.reset(); // the result is dropped
         control_.send(RunControl::Wish::Abandon);

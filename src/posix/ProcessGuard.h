@@ -1,6 +1,7 @@
 #pragma once
 
 #include "posix/FileDescriptor.h"
+#include "protocol/NonCopyable.h"
 
 #include <string>
 #include <sys/types.h>
@@ -9,12 +10,10 @@ namespace zarvil::posix {
 
 /// A small process that outlives this one, if only for a moment: it ends a process group and
 /// deletes a file when it is told to, or when this process has gone, however that came about.
-class ProcessGuard {
+class ProcessGuard : NonCopyable {
 public:
     /// `file` is an absolute path.
     explicit ProcessGuard(std::string file);
-    ProcessGuard(const ProcessGuard&) = delete;
-    ProcessGuard& operator=(const ProcessGuard&) = delete;
     /// Dismisses the guard, or waits until the group that it was told to end has ended.
     ~ProcessGuard();
 

@@ -2,6 +2,7 @@
 
 #include "interface/Property.h"
 #include "pane/Platform.h"
+#include "protocol/NonCopyable.h"
 
 #include <memory>
 #include <optional>
@@ -12,12 +13,10 @@ namespace zarvil {
 
 /// The script that the user runs, one at a time, and what is shown of it. While it runs the pane
 /// is blocked: no handler begins, and a front end takes no input but that of the window below.
-class ScriptProgress {
+class ScriptProgress : NonCopyable {
 public:
     /// The ports must outlive this.
     explicit ScriptProgress(Platform& platform) : platform_(platform) {}
-    ScriptProgress(const ScriptProgress&) = delete;
-    ScriptProgress& operator=(const ScriptProgress&) = delete;
 
     /// To be called within a handler. A failure is presented; one of a stopped script is not.
     void run(std::string_view title, std::string_view source);

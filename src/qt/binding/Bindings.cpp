@@ -128,7 +128,7 @@ void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscription
     bindView(model, widget, kept);
     kept.push_back(
         model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
-            widget.setText(toQt(text.title), toQt(text.words));
+            widget.setText(QString::fromUtf8(text.title), QString::fromUtf8(text.words));
         }));
 }
 
@@ -140,8 +140,9 @@ void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kep
 
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
-    kept.push_back(model.reasonProperty().observe(
-        [&widget](const std::string& reason, Transition) { widget.setReason(toQt(reason)); }));
+    kept.push_back(model.reasonProperty().observe([&widget](const std::string& reason, Transition) {
+        widget.setReason(QString::fromUtf8(reason));
+    }));
     QObject::connect(&widget, &LockWidget::clicked, &widget, [&model] { model.performClick(); });
 }
 

@@ -1,6 +1,6 @@
 #include "qt/scripts/ScriptCard.h"
 
-#include "qt/widgets/ToolTip.h"
+#include "qt/text/ToolTip.h"
 
 #include <QEvent>
 #include <QFontDatabase>
@@ -31,9 +31,9 @@ QRect inCard(const Rect& frame) {
 }
 
 void showCaption(QPushButton& button, const ButtonCaption& caption) {
-    button.setText(QString::fromStdString(caption.title));
-    button.setToolTip(plainToolTip(QString::fromStdString(caption.toolTip)));
-    button.setAccessibleName(QString::fromStdString(caption.accessibleName));
+    button.setText(QString::fromUtf8(caption.title));
+    button.setToolTip(plainToolTip(QString::fromUtf8(caption.toolTip)));
+    button.setAccessibleName(QString::fromUtf8(caption.accessibleName));
 }
 
 } // namespace
@@ -100,14 +100,14 @@ void ScriptCard::showRecord() {
         return;
     showTitle();
     showText();
-    setAccessibleName(QString::fromStdString(item_->cardName()));
+    setAccessibleName(QString::fromUtf8(item_->cardName()));
     showCaption(*run_, item_->runCaption());
     showCaption(*remove_, item_->removeCaption());
     showEditing(!editors_.empty());
 }
 
 void ScriptCard::showTitle() {
-    const QString title = QString::fromStdString(item_->shownTitle());
+    const QString title = QString::fromUtf8(item_->shownTitle());
     title_->setText(title_->fontMetrics().elidedText(title, Qt::ElideRight, title_->width()));
     title_->setToolTip(title_->text() == title ? QString() : plainToolTip(title));
     title_->setAccessibleName(title);
@@ -117,10 +117,9 @@ void ScriptCard::showText() {
     const QFontMetrics metrics = text_->fontMetrics();
     QStringList lines;
     for (const std::string& line : item_->shownLines())
-        lines += metrics.elidedText(QString::fromStdString(line), Qt::ElideRight, text_->width());
+        lines += metrics.elidedText(QString::fromUtf8(line), Qt::ElideRight, text_->width());
     text_->setForegroundRole(lines.isEmpty() ? QPalette::PlaceholderText : QPalette::WindowText);
-    text_->setText(lines.isEmpty() ? QString::fromStdString(item_->emptyText())
-                                   : lines.join(u'\n'));
+    text_->setText(lines.isEmpty() ? QString::fromUtf8(item_->emptyText()) : lines.join(u'\n'));
 }
 
 void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
@@ -159,8 +158,8 @@ void ScriptCard::showEditing(bool editing) {
 }
 
 void ScriptCard::showNote(const ScriptNote& note) {
-    const QString reason = QString::fromStdString(note.reason);
-    note_->setText(QString::fromStdString(note.caption));
+    const QString reason = QString::fromUtf8(note.reason);
+    note_->setText(QString::fromUtf8(note.caption));
     note_->setToolTip(plainToolTip(reason));
     note_->setAccessibleDescription(reason);
     note_->setVisible(!note.caption.empty());
