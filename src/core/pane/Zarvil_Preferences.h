@@ -182,6 +182,9 @@ private:
 
     [[nodiscard]] bool scriptExists(std::string_view title) const;
     void handToItem(const Record& record);
+    void keepDrafts();
+    void resumeDrafts();
+    std::shared_ptr<ZVScriptCollectionItem> itemOfDraft(const ScriptDraft& draft);
     /// Says why "Create" is greyed where the title alone does not.
     void showTitleFault();
 
@@ -198,6 +201,8 @@ private:
     std::unique_ptr<Timer> appTimer;
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
+    /// Of scripts that are not listed at the moment.
+    std::vector<ScriptDraft> scriptDrafts_;
     std::vector<Subscription> agentMessages_;
 };
 

@@ -25,6 +25,9 @@ inline constexpr std::string_view fileExtension = "zvscript";
 /// The file's name without its last extension; a leading dot starts no extension.
 [[nodiscard]] std::string titleOfFile(std::string_view fileName);
 
+/// A mark at the start of a file is no part of its text.
+[[nodiscard]] std::string withoutByteOrderMark(std::string text);
+
 } // namespace script
 
 } // namespace zarvil

@@ -53,6 +53,22 @@ private:
     Property<Subviews> subviews_;
 };
 
+/// What the user has typed into a script and the file does not hold yet.
+struct ScriptDraft {
+    Dictionary saved; ///< the record as the file has it
+    std::string title;
+    std::string text;
+    std::optional<Error> failure; ///< why it could not be saved, if that was tried
+};
+
+/// A quiet word about a script and what stands behind it, in the user's language; empty when all is
+/// well.
+struct ScriptNote {
+    std::string caption;
+    std::string reason;
+    bool operator==(const ScriptNote&) const = default;
+};
+
 /// Shows one script and lets the user edit, run and delete it. It edits the record that it shares
 /// with the list. An alert that an operation shows may let the list change meanwhile; an item that
 /// a shared pointer holds outlives its own operations.
@@ -63,7 +79,9 @@ public:
     explicit ZVScriptCollectionItem(Platform& platform) : platform_(platform) {}
 
     // Actions.
-    /// Begins editing, or ends it and saves: the old file goes, then the new one is written.
+    /// Begins editing, or ends it and saves: the file of the former title gives way to that of the
+    /// new one. When this fails, the former file stays, nothing is shown but the note, and the next
+    /// save tries again.
     void edit(Control* sender = nullptr);
     /// Runs the script once and waits for its end; saves first while editing.
     void execute(Control* sender = nullptr);
@@ -72,10 +90,18 @@ public:
 
     /// Takes the edit fields over into the record. An emptied field keeps the record's old value.
     void validateData();
-    /// Deletes the file of the record's title; a record without a title deletes nothing.
+    /// Deletes the script's file; a record without a title deletes nothing.
     void removeFile();
 
+    // Drafts.
+    /// Nothing while the file holds all that was typed.
+    [[nodiscard]] std::optional<ScriptDraft> draft() const;
+    /// Goes on editing where a draft was left; the record is the one of its file.
+    void resume(const ScriptDraft& draft);
+
     // State.
+    /// Says for as long as it is so that the script is not saved.
+    [[nodiscard]] const Property<ScriptNote>& noteProperty() const { return note_; }
     [[nodiscard]] bool editing() const { return editing_; }
     /// The flag alone; `edit` brings the fields.
     void setEditing(bool editing) { editing_ = editing; }
@@ -99,6 +125,11 @@ private:
     [[nodiscard]] const std::string* stringOfRecord(std::string_view key) const;
     void beginEditing();
     void save();
+    /// The file's title; null for a script without a file.
+    [[nodiscard]] const std::string* titleOfFile() const;
+    Replacement writeFile(const std::optional<std::string>& formerTitle);
+    /// `before` is the record as the file had it.
+    void noteFailure(const std::optional<Error>& failure, Dictionary before);
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
 
     Platform& platform_;
@@ -107,6 +138,10 @@ private:
     ScriptEditField* eText_ = nullptr;
     bool editing_ = false;
     Record data_;
+    /// While the last save has failed: the record as its file still has it, and why.
+    std::optional<Dictionary> saved_;
+    std::optional<Error> failure_;
+    Property<ScriptNote> note_;
     CollectionViewDelegate* owner_ = nullptr;
     TextField* text_ = nullptr;
 };

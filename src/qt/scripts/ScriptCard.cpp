@@ -60,6 +60,7 @@ ScriptCard::ScriptCard(QWidget* parent)
     : QWidget(parent),
       title_(new QLabel(this)),
       text_(new QLabel(this)),
+      note_(new QLabel(this)),
       edit_(addButton({}, {})),
       run_(addButton(tr("Run"),
                      tr("Run this script once, now. The window waits until it has ended."))),
@@ -68,7 +69,7 @@ ScriptCard::ScriptCard(QWidget* parent)
     setMinimumSize(minimumCardSize());
     // Not that of the sheet and of the edit fields, which stand out against it.
     setBackgroundRole(QPalette::Window);
-    for (QLabel* label : {title_, text_})
+    for (QLabel* label : {title_, text_, note_})
         label->setTextFormat(Qt::PlainText);
     text_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     title_->setGeometry(inCard(titleFrame));
@@ -103,11 +104,14 @@ void ScriptCard::bind(std::shared_ptr<ZVScriptCollectionItem> item) {
     showRecord();
     fieldChanges_ = item_->view().subviewsProperty().observe(
         [this](const ScriptItemView::Subviews& fields, Transition) { showFields(fields); });
+    noteChanges_ = item_->noteProperty().observe(
+        [this](const ScriptNote& note, Transition) { showNote(note); });
 }
 
 void ScriptCard::unbind() {
     recordEdits_.cancel();
     fieldChanges_.cancel();
+    noteChanges_.cancel();
     editors_.clear();
     item_.reset();
 }
@@ -182,6 +186,15 @@ void ScriptCard::showEditing(bool editing) {
     placeButtons();
 }
 
+void ScriptCard::showNote(const ScriptNote& note) {
+    const QString reason = QString::fromStdString(note.reason);
+    note_->setText(QString::fromStdString(note.caption));
+    // Names of files are no markup.
+    note_->setToolTip(reason.isEmpty() ? reason : "<p>" + reason.toHtmlEscaped() + "</p>");
+    note_->setAccessibleDescription(reason);
+    note_->setVisible(!note.caption.empty());
+}
+
 bool ScriptCard::hasFocusWithin() const {
     const QWidget* focused = focusWidget();
     return focused && focused->hasFocus();
@@ -204,6 +217,8 @@ void ScriptCard::placeButtons() {
         button->setGeometry(right - width, band.top(), width, band.height());
         right -= width + buttonGap;
     }
+    const int left = inCard(titleFrame).left();
+    note_->setGeometry(left, band.top(), std::max(0, right - left), band.height());
 }
 
 void ScriptCard::updateFonts() {

@@ -49,11 +49,13 @@ private:
     void showText(std::string_view text);
     void showFields(const ScriptItemView::Subviews& fields);
     void showEditing(bool editing);
+    void showNote(const ScriptNote& note);
     void placeButtons();
     void updateFonts();
 
     QLabel* title_;
     QLabel* text_;
+    QLabel* note_;
     QPushButton* edit_;
     QPushButton* run_;
     QPushButton* remove_;
@@ -61,6 +63,7 @@ private:
     std::shared_ptr<ZVScriptCollectionItem> item_;
     Subscription recordEdits_;
     Subscription fieldChanges_;
+    Subscription noteChanges_;
 };
 
 } // namespace zarvil::qt
