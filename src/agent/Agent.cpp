@@ -7,9 +7,13 @@
 
 #include <QTimer>
 
+#include <chrono>
+
 namespace zarvil::agent {
 
 namespace {
+
+constexpr std::chrono::seconds writeAgainAfter{1};
 
 Dictionary withEntry(std::string_view key, Value value) {
     Dictionary info;
@@ -194,7 +198,8 @@ void Agent::writeSettingsSoon() {
         return;
     QTimer::singleShot(0, this, [this] {
         writePending_ = false;
-        parts_.settings.write();
+        if (!parts_.settings.write())
+            QTimer::singleShot(writeAgainAfter, this, &Agent::writeSettingsSoon);
     });
 }
 

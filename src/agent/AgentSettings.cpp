@@ -117,17 +117,22 @@ bool AgentSettings::removeSavedDevice(const Dictionary& device) {
     return removed;
 }
 
-void AgentSettings::write() {
-    if (!std::exchange(changed_, false))
-        return;
+bool AgentSettings::write() {
+    if (!changed_)
+        return true;
     Dictionary contents = stored_;
     contents.setObject(savedDevicesKey, savedDevices_);
     QDir().mkpath(QFileInfo(path_).path());
     QSaveFile file(path_);
     if (file.open(QIODevice::WriteOnly) && file.write(writePropertyList(contents)) >= 0 &&
-        file.commit())
-        return;
-    log_.problem("Cannot write the settings " + path_ + ": " + file.errorString());
+        file.commit()) {
+        changed_ = false;
+        reported_ = false;
+        return true;
+    }
+    if (!std::exchange(reported_, true))
+        log_.problem("Cannot write the settings " + path_ + ": " + file.errorString());
+    return false;
 }
 
 void AgentSettings::read() {

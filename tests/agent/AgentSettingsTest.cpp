@@ -101,12 +101,15 @@ TEST_F(Settings, ofWrongTypesInTheFileAreLeftOutAndStrangeOnesKept) {
     EXPECT_TRUE(std::get<Dictionary>(contents).stringForKey("Strange"));
 }
 
-TEST_F(Settings, thatCannotBeWrittenAreReportedAndKeptInMemory) {
+TEST_F(Settings, thatCannotBeWrittenAreReportedKeptInMemoryAndWrittenLater) {
     QFile blocking(folder.filePath("a"));
     ASSERT_TRUE(blocking.open(QIODevice::WriteOnly));
     change(setting::shutdownDelay, 5);
     ASSERT_TRUE(waitFor([&] { return logText().contains("Cannot write the settings"); }));
     EXPECT_EQ(reported().integerForKey(setting::shutdownDelay), 5);
+    ASSERT_TRUE(blocking.remove());
+    EXPECT_TRUE(waitFor([&] { return QFile::exists(settingsFile()); }));
+    EXPECT_EQ(logText().count("Cannot write the settings"), 1);
 }
 
 } // namespace
