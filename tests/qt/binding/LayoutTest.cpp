@@ -116,6 +116,16 @@ TEST_F(Layout, aFieldSendsOnReturnAndOnLeavingAnEditButNeverTwice) {
     QTest::keyClicks(&delay, "0");
     widget<QCheckBox>("forceQuit").setFocus();
     EXPECT_EQ(takeSent(), std::vector{settingChange("ShutdownDelay", 450)});
+
+    focus(delay, generalPage);
+    delay.selectAll();
+    QTest::keyClicks(&delay, "abc");
+    QTest::keyClick(&delay, Qt::Key_Return);
+    EXPECT_EQ(delay.text(), "abc");
+    widget<QCheckBox>("forceQuit").setFocus();
+    EXPECT_EQ(delay.text(), "450");
+    EXPECT_TRUE(widget<QLabel>("DelayFault").isVisible());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_F(Layout, leavingAnUnfinishedScriptTitleCreatesNothing) {

@@ -104,6 +104,29 @@ TEST_F(ScriptListViewTest, theEditFieldsStandAtTheirFramesInTheirFonts) {
     EXPECT_TRUE(button(card("a"), "Edit").hasFocus());
 }
 
+TEST_F(ScriptListViewTest, aDraftThatWasNotSavedComesBackAndSaysSoUntilItIs) {
+    put("a.zvscript", "echo a");
+    show();
+    files.failing = {pathOf("a.zvscript")};
+    click(card("a"), "Edit");
+    QTest::keyClicks(&textField(card("a")), "x");
+    click(card("a"), "Done");
+    pane.unloadScripts();
+    settle();
+    pane.loadScripts();
+    settle();
+    EXPECT_EQ(textField(card("a")).toPlainText(), "xecho a");
+    const auto isNoted = [this] {
+        return std::ranges::any_of(card("a").findChildren<QLabel*>(), [](const QLabel* label) {
+            return label->isVisible() && label->text() == "Not saved";
+        });
+    };
+    EXPECT_TRUE(isNoted());
+    files.failing.clear();
+    click(card("a"), "Done");
+    EXPECT_FALSE(isNoted());
+}
+
 TEST_F(ScriptListViewTest, whatTheUserLeavesAloneKeepsItsBytes) {
     struct Case {
         std::string text, typed, saved;
