@@ -11,6 +11,7 @@
 #include "qt/canvas/Convert.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -109,11 +110,12 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     }
     QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
                      [&model] { model.userDidPressReturn(); });
-    // Return ends the edit for the widget as well, which then still has the keyboard.
-    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&model, &widget] {
-        if (!widget.hasFocus())
-            model.userDidLeave();
-    });
+    // Not `editingFinished`: after Return it does not tell that the field is left.
+    QObject::connect(qApp, &QApplication::focusChanged, &widget,
+                     [&model, &widget](QWidget* left, QWidget* /*entered*/) {
+                         if (left == &widget)
+                             model.userDidLeave();
+                     });
 }
 
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {
