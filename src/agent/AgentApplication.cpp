@@ -2,6 +2,7 @@
 
 #include "agent/Commands.h"
 #include "agent/DeviceFile.h"
+#include "bus/BusDaemon.h"
 #include "protocol/BusNames.h"
 
 #include <QCoreApplication>
@@ -15,11 +16,6 @@
 namespace zarvil::agent {
 
 namespace {
-
-// Of the bus's own interface: refuse rather than wait in line for the name.
-constexpr uint doNotQueue = 4;
-constexpr uint primaryOwner = 1;
-constexpr uint alreadyOwner = 4;
 
 void print(const QString& text) {
     std::printf("%s\n", qUtf8Printable(text));
@@ -41,8 +37,7 @@ AgentApplication::AgentApplication(const ApplicationOptions& options)
       }) {
     agent_.setTestDuration(options.testDuration);
     findDevices();
-    connection_ = messages_.observeConnectionState(
-        [this](ConnectionState state) { connectionChanged(state); });
+    busState_ = session_.observe([this](BusState state) { busChanged(state); });
 }
 
 void AgentApplication::findDevices() {
@@ -76,18 +71,18 @@ void AgentApplication::watchUsb() {
         log_.problem("Cannot watch the USB devices: " + problem);
 }
 
-void AgentApplication::connectionChanged(ConnectionState state) {
-    if (state == ConnectionState::Connected)
+void AgentApplication::busChanged(BusState state) {
+    if (state == BusState::Connected)
         takeName();
-    else if (state == ConnectionState::Unavailable)
-        log_.problem("No session bus: " + messages_.connectionError());
+    else if (state == BusState::Unavailable)
+        log_.problem("No session bus: " + session_.error());
 }
 
+// After the messages are listened for, which the message center has seen to: whoever sees the name
+// may speak at once.
 void AgentApplication::takeName() {
-    QDBusMessage request = QDBusMessage::createMethodCall(
-        "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName");
-    request << QString(bus::agentName) << doNotQueue;
-    auto* watcher = new QDBusPendingCallWatcher(messages_.connection()->asyncCall(request), this);
+    auto* watcher = new QDBusPendingCallWatcher(
+        session_.connection()->asyncCall(nameRequest(bus::agentName)), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         nameAnswered(watcher->reply());
@@ -95,18 +90,16 @@ void AgentApplication::takeName() {
 }
 
 void AgentApplication::nameAnswered(const QDBusMessage& reply) {
-    if (messages_.connectionState() != ConnectionState::Connected)
+    if (!session_.connection())
         return; // The bus went meanwhile; the next one is asked again.
-    const uint result = reply.arguments().value(0).toUInt();
-    if (reply.type() == QDBusMessage::ReplyMessage &&
-        (result == primaryOwner || result == alreadyOwner)) {
+    const NameOutcome outcome = nameOutcome(reply);
+    if (outcome == NameOutcome::Owned) {
         log_.note(QStringLiteral("Ready"));
         print(QStringLiteral("ready"));
         return;
     }
-    const QString why = reply.type() == QDBusMessage::ErrorMessage
-                            ? reply.errorMessage()
-                            : QStringLiteral("another agent is running");
+    const QString why = outcome == NameOutcome::Taken ? QStringLiteral("another agent is running")
+                                                      : reply.errorMessage();
     log_.problem(QStringLiteral("Cannot own the name %1 on the session bus: %2")
                      .arg(QString(bus::agentName), why));
     QCoreApplication::exit(EXIT_FAILURE);

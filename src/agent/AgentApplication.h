@@ -3,6 +3,7 @@
 #include "agent/Agent.h"
 #include "agent/LineReader.h"
 #include "agent/UsbDevices.h"
+#include "bus/BusConnection.h"
 #include "bus/DBusMessageCenter.h"
 
 #include <QString>
@@ -30,7 +31,7 @@ private:
     void findDevices();
     void readDevices();
     void watchUsb();
-    void connectionChanged(ConnectionState state);
+    void busChanged(BusState state);
     void takeName();
     void nameAnswered(const QDBusMessage& reply);
     void openFile(const QString& path);
@@ -38,11 +39,12 @@ private:
     ApplicationOptions options_;
     AgentLog log_;
     AgentSettings settings_;
-    DBusMessageCenter messages_;
+    BusConnection session_{BusOptions::sessionBus()};
+    DBusMessageCenter messages_{session_};
     Agent agent_;
     std::unique_ptr<UsbDevices> usb_;
     LineReader commands_;
-    Subscription connection_;
+    Subscription busState_;
 };
 
 } // namespace zarvil::agent

@@ -1,12 +1,13 @@
 #include "agent/AgentSettings.h"
 
 #include "agent/DeviceRecord.h"
-#include "agent/PropertyListFile.h"
+#include "agent/Json.h"
 #include "protocol/Settings.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -60,10 +61,6 @@ const setting::Description* storable(std::string_view key) {
 
 Value normalized(const Value& value, setting::Type type) {
     return type == setting::Type::Boolean ? Value(value.boolValue()) : value;
-}
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 } // namespace
@@ -143,18 +140,22 @@ void AgentSettings::read() {
         keepAside(file.errorString());
         return;
     }
-    const auto contents = readPropertyList(file.readAll());
-    if (const auto* reason = std::get_if<QString>(&contents))
-        keepAside(*reason);
+    QJsonParseError error;
+    const auto document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError)
+        keepAside(QStringLiteral("at byte %1: %2").arg(error.offset).arg(error.errorString()));
+    else if (!document.isObject())
+        keepAside(QStringLiteral("it holds no object"));
     else
-        adopt(std::get<Dictionary>(contents));
+        adopt(dictionaryFrom(document.object()));
 }
 
 void AgentSettings::adopt(const Dictionary& stored) {
     for (const auto& [key, value] : stored.entries()) {
         const setting::Description* known = storable(key);
         if (known && !hasType(value, known->type))
-            log_.problem("Ignored the stored setting " + text(key) + ": it has a wrong type");
+            log_.problem("Ignored the stored setting " + QString::fromUtf8(key) +
+                         ": it has a wrong type");
         else if (key != savedDevicesKey)
             stored_.setObject(key, value);
     }

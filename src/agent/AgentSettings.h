@@ -9,7 +9,7 @@
 
 namespace zarvil::agent {
 
-/// What the agent keeps over restarts, in one property-list file: the settings, the saved devices
+/// What the agent keeps over restarts, in one JSON file: the settings, the saved devices
 /// and whether protection is on. Entries that it does not know stay in the file untouched.
 class AgentSettings {
 public:

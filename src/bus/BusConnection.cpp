@@ -1,84 +1,202 @@
 #include "bus/BusConnection.h"
 
 #include "bus/BusProbe.h"
+#include "bus/DBusValues.h"
 
 #include <QCoreApplication>
+#include <QDBusError>
 #include <QPointer>
+#include <QTimer>
 #include <QVariant>
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <utility>
-#include <vector>
 
 namespace zarvil {
 
 namespace {
 
-constexpr std::chrono::seconds endLimit{2};
+constexpr std::chrono::milliseconds longestRetry{60'000};
 /// On the application object, since program and plug-ins each hold a copy of this file.
 constexpr const char* hangsProperty = "zarvil.busConnectionHangs";
+
+QDBusConnection connectTo(const BusOptions& options, const QString& name, bool isFirst) {
+    // Qt would wait for a bus that hangs, and keep its other connections waiting too.
+    if (!busAnswers(options.address, BusConnection::limit))
+        return QDBusConnection(QString());
+    if (options.sharesWithQt && isFirst)
+        if (auto shared = QDBusConnection::sessionBus(); shared.isConnected())
+            return shared;
+    return QDBusConnection::connectToBus(QString::fromUtf8(options.address), name);
+}
 
 } // namespace
 
 /// What the connecting thread and the owner both reach; the thread may outlive the owner.
-struct BusConnection::Shared {
+struct BusConnection::Attempt {
     std::mutex mutex;
     std::condition_variable ended;
     BusConnection* owner = nullptr;
-    Connect connect;
     std::optional<QDBusConnection> connection;
+    bool isLate = false; ///< its limit is over; known to the main thread alone
+
+    bool waitForEnd(std::chrono::milliseconds patience) {
+        std::unique_lock lock(mutex);
+        return ended.wait_for(lock, patience, [this] { return connection.has_value(); });
+    }
 };
 
-BusConnection::BusConnection(Connect connect) : shared_(std::make_shared<Shared>()) {
-    shared_->owner = this;
-    shared_->connect = std::move(connect);
+BusOptions BusOptions::sessionBus() {
+    BusOptions options;
+    options.address = sessionBusAddress();
+    options.sharesWithQt = true;
+    options.firstRetry = std::chrono::seconds(1);
+    return options;
+}
+
+BusOptions BusOptions::systemBus() {
+    BusOptions options;
+    options.address = systemBusAddress();
+    return options;
+}
+
+BusConnection::BusConnection(BusOptions options) : options_(std::move(options)) {
+    nextRetry_ = options_.firstRetry.value_or(nextRetry_);
+    if (options_.firstRetry)
+        start();
 }
 
 BusConnection::~BusConnection() {
-    if (!thread_.joinable())
-        return;
-    std::unique_lock lock(shared_->mutex);
-    shared_->owner = nullptr;
-    if (shared_->ended.wait_for(lock, endLimit,
-                                [this] { return shared_->connection.has_value(); })) {
-        lock.unlock();
-        thread_.join();
-    } else {
+    if (attempt_ && !attempt_->waitForEnd(limit)) {
+        const std::lock_guard lock(attempt_->mutex);
+        attempt_->owner = nullptr;
         thread_.detach();
         QCoreApplication::instance()->setProperty(hangsProperty, true);
+        return;
     }
+    if (attempt_) {
+        thread_.join();
+        connection_ = attempt_->connection;
+    }
+    leave();
 }
 
 bool BusConnection::anyHangs() {
     return QCoreApplication::instance()->property(hangsProperty).toBool();
 }
 
-BusConnection::Connect BusConnection::sessionBus() {
-    return [] { return QDBusConnection::sessionBus(); };
-}
-
-BusConnection::Connect BusConnection::systemBus() {
-    return [] {
-        constexpr std::chrono::seconds limit{2};
-        return busAnswers(systemBusAddress(), limit) ? QDBusConnection::systemBus()
-                                                     : QDBusConnection(QString());
-    };
+Subscription BusConnection::observe(const Observer& observer) {
+    Subscription subscription = observers_.add(observer);
+    observer(state_);
+    return subscription;
 }
 
 void BusConnection::start() {
-    if (thread_.joinable())
+    if (connection_)
         return;
-    thread_ = std::thread([shared = shared_] {
-        auto connection = shared->connect();
-        const std::lock_guard lock(shared->mutex);
-        shared->connection = std::move(connection);
-        shared->ended.notify_all();
-        if (shared->owner)
-            QMetaObject::invokeMethod(
-                shared->owner, [owner = shared->owner] { owner->announce(); },
-                Qt::QueuedConnection);
+    if (!attempt_) {
+        attempt_ = std::make_shared<Attempt>();
+        attempt_->owner = this;
+        // Unlike any that a copy of this code in another library makes in this process.
+        const QString name = QStringLiteral("zarvil-%1-%2")
+                                 .arg(reinterpret_cast<quintptr>(this), 0, 16)
+                                 .arg(++attempts_);
+        thread_ =
+            std::thread([attempt = attempt_, options = options_, name, isFirst = attempts_ == 1] {
+                auto connection = connectTo(options, name, isFirst);
+                if (connection.isConnected() && options.join)
+                    options.join(connection);
+                const std::lock_guard lock(attempt->mutex);
+                attempt->connection = std::move(connection);
+                attempt->ended.notify_all();
+                if (attempt->owner)
+                    QMetaObject::invokeMethod(
+                        attempt->owner, [owner = attempt->owner] { owner->finish(); },
+                        Qt::QueuedConnection);
+            });
+    }
+    attempt_->isLate = false;
+    QTimer::singleShot(limit, this, [this, started = std::weak_ptr(attempt_)] {
+        if (attempt_ && attempt_ == started.lock())
+            expire();
     });
+    setState(BusState::Connecting);
+}
+
+/// Comes twice when somebody has waited for the end.
+void BusConnection::finish() {
+    if (!attempt_ || !attempt_->waitForEnd({}))
+        return;
+    thread_.join();
+    QDBusConnection connection = *std::exchange(attempt_, nullptr)->connection;
+    if (connection.isConnected())
+        connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                           QStringLiteral("org.freedesktop.DBus.Local"),
+                           QStringLiteral("Disconnected"), this, SLOT(lost()));
+    // Asked again: a bus that went before its end was being listened for.
+    if (!connection.isConnected()) {
+        const QString reason = connection.lastError().message();
+        connection_ = connection;
+        becomeUnavailable(reason.isEmpty() ? tr("The message bus does not answer") : reason);
+        return;
+    }
+    connection_ = connection;
+    error_.clear();
+    nextRetry_ = options_.firstRetry.value_or(nextRetry_);
+    setState(BusState::Connected);
+    callBack();
+}
+
+/// The attempt goes on: a bus that answers at last is welcome.
+void BusConnection::expire() {
+    if (attempt_->isLate || state_ != BusState::Connecting)
+        return;
+    attempt_->isLate = true;
+    error_ = tr("The message bus does not answer");
+    setState(BusState::Unavailable);
+    callBack();
+}
+
+void BusConnection::lost() {
+    if (connection_ && !connection_->isConnected())
+        becomeUnavailable(tr("The connection to the message bus was lost"));
+}
+
+void BusConnection::becomeUnavailable(const QString& error) {
+    leave();
+    error_ = error;
+    qCDebug(busLog, "No message bus: %s", qUtf8Printable(error));
+    scheduleRetry();
+    setState(BusState::Unavailable);
+    callBack();
+}
+
+void BusConnection::scheduleRetry() {
+    if (!options_.firstRetry)
+        return;
+    QTimer::singleShot(nextRetry_, this, &BusConnection::start);
+    nextRetry_ = std::min(nextRetry_ * 2, longestRetry);
+}
+
+void BusConnection::leave() {
+    const auto left = std::exchange(connection_, std::nullopt);
+    if (left && left->name().startsWith(QLatin1String("zarvil-")))
+        QDBusConnection::disconnectFromBus(left->name());
+}
+
+void BusConnection::setState(BusState state) {
+    if (state != state_) {
+        state_ = state;
+        observers_.notify(state);
+    }
+}
+
+const std::optional<QDBusConnection>& BusConnection::wait(std::chrono::milliseconds patience) {
+    if (attempt_ && state_ == BusState::Connecting && attempt_->waitForEnd(patience))
+        finish();
+    return connection_;
 }
 
 void BusConnection::whenReady(QObject* context, Ready ready) {
@@ -87,25 +205,17 @@ void BusConnection::whenReady(QObject* context, Ready ready) {
             if (guard)
                 call(connection);
         });
-    start();
-    const std::lock_guard lock(shared_->mutex);
-    if (shared_->connection)
-        QMetaObject::invokeMethod(
-            this, [this] { announce(); }, Qt::QueuedConnection);
+    if (connection_)
+        QMetaObject::invokeMethod(this, &BusConnection::callBack, Qt::QueuedConnection);
+    else
+        start();
 }
 
-std::optional<QDBusConnection> BusConnection::wait(std::chrono::milliseconds limit) {
-    start();
-    std::unique_lock lock(shared_->mutex);
-    shared_->ended.wait_for(lock, limit, [this] { return shared_->connection.has_value(); });
-    if (!shared_->connection || !shared_->connection->isConnected())
-        return std::nullopt;
-    return shared_->connection;
-}
-
-void BusConnection::announce() {
+void BusConnection::callBack() {
+    if (state_ == BusState::Connecting)
+        return;
     const QPointer<BusConnection> self(this);
-    const QDBusConnection connection = *shared_->connection;
+    const QDBusConnection connection = connection_.value_or(QDBusConnection(QString()));
     for (const auto& call : std::exchange(waiting_, {})) {
         call(connection);
         if (!self)

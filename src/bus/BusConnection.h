@@ -1,56 +1,96 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "bus/MessageBus.h"
+#include "protocol/ObserverList.h"
+
+#include <QByteArray>
 #include <QObject>
 
-#include <chrono>
-#include <functional>
 #include <memory>
-#include <optional>
 #include <thread>
 #include <vector>
 
 namespace zarvil {
 
-/// A connection to a message bus, made on a thread of its own: connecting waits for the bus, up to
-/// half a minute for one that hangs, and the main thread must not.
-class BusConnection : public QObject {
+struct BusOptions {
+    /// Where the bus listens, as the bus library writes it.
+    QByteArray address;
+    /// The first attempt takes the connection to the session bus that Qt keeps for itself and its
+    /// accessibility. That one never comes back once it is lost; the later ones are our own.
+    bool sharesWithQt = false;
+    /// Called on the connecting thread with every new connection, before anybody else has it, to
+    /// take a name without keeping the main thread waiting. It must not refer to anything that may
+    /// be gone by then, nor take longer than `BusConnection::limit`.
+    std::function<void(const QDBusConnection&)> join;
+    /// The wait after a failed attempt or a loss, doubled by each further failure up to a minute.
+    /// Without it the next attempt comes with the next `whenReady`.
+    std::optional<std::chrono::milliseconds> firstRetry;
+
+    /// The desktop session's bus, connected again for ever.
+    [[nodiscard]] static BusOptions sessionBus();
+    /// The system's bus, connected when it is asked for.
+    [[nodiscard]] static BusOptions systemBus();
+};
+
+/// The one place that connects to a bus and notices when it goes. Connecting waits for the bus, up
+/// to half a minute for one that hangs; so each attempt has a thread of its own. Keeps no timer
+/// while it is connected.
+class BusConnection final : public QObject, public MessageBus {
+    Q_OBJECT
+
 public:
-    /// Makes the connection; called once, on the other thread. It must not refer to anything that
-    /// may be gone by then.
-    using Connect = std::function<QDBusConnection()>;
+    /// How long an attempt may take before the bus counts as unavailable, and how long an end
+    /// waits for an attempt under way.
+    static constexpr std::chrono::seconds limit{2};
     /// The connection may turn out not to be connected.
     using Ready = std::function<void(const QDBusConnection&)>;
 
-    explicit BusConnection(Connect connect);
-    /// Waits a moment for an attempt under way, so that its thread is gone before the program's
-    /// statics are. A thread that hangs is left behind, and `anyHangs` says so from then on.
+    /// Connects by itself when it is to try again by itself.
+    explicit BusConnection(BusOptions options);
+    /// Waits for an attempt under way, so that its thread is gone before the program's statics
+    /// are. A thread that hangs is left behind, and `anyHangs` says so from then on.
     ~BusConnection() override;
 
     /// Whether a thread was left behind: then the process must end without destroying statics.
     [[nodiscard]] static bool anyHangs();
 
-    /// The desktop session's bus: the connection of the whole process, which Qt's accessibility
-    /// opens anyway, so that what is sent on it keeps its order whoever sends it.
-    [[nodiscard]] static Connect sessionBus();
-    /// The system's bus, unless it hangs: then Qt would keep its other connections waiting too.
-    [[nodiscard]] static Connect systemBus();
+    [[nodiscard]] BusState state() const override { return state_; }
+    [[nodiscard]] const std::optional<QDBusConnection>& connection() const override {
+        return connection_;
+    }
+    [[nodiscard]] QString error() const override { return error_; }
+    Subscription observe(const Observer& observer) override;
+    const std::optional<QDBusConnection>& wait(std::chrono::milliseconds patience) override;
 
-    /// Starts connecting; a second call does nothing.
-    void start();
-    /// Starts connecting if need be and calls back from the event loop, never from within.
-    /// Nothing is called once `context` or this object is gone.
+    /// Connects if need be and calls back from the event loop, never from within. Nothing is
+    /// called once `context` or this object is gone.
     void whenReady(QObject* context, Ready ready);
-    /// Starts connecting if need be; nothing unless it has ended by then and is connected.
-    [[nodiscard]] std::optional<QDBusConnection> wait(std::chrono::milliseconds limit);
+
+private Q_SLOTS:
+    void lost();
 
 private:
-    struct Shared;
-    void announce();
+    struct Attempt;
 
-    std::shared_ptr<Shared> shared_;
+    void start();
+    void finish();
+    void expire();
+    void becomeUnavailable(const QString& error);
+    void scheduleRetry();
+    void leave();
+    void setState(BusState state);
+    void callBack();
+
+    BusOptions options_;
+    BusState state_ = BusState::Unavailable;
+    QString error_;
+    ObserverList<BusState> observers_;
+    std::optional<QDBusConnection> connection_;
+    std::vector<Ready> waiting_;
+    std::shared_ptr<Attempt> attempt_; ///< null unless a thread connects
     std::thread thread_;
-    std::vector<std::function<void(const QDBusConnection&)>> waiting_;
+    int attempts_ = 0;
+    std::chrono::milliseconds nextRetry_{};
 };
 
 } // namespace zarvil

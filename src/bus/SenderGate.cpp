@@ -2,8 +2,7 @@
 
 #include "bus/DBusValues.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace zarvil {
 
@@ -14,22 +13,17 @@ void SenderGate::reset() {
 }
 
 void SenderGate::receive(const QDBusMessage& signal) {
-    if (!ownerKnown_) {
+    if (!ownerKnown_)
         held_.push_back(signal);
-        return;
-    }
-    if (isFromOwner(signal))
-        accepted_.push_back(signal);
-    pass();
+    else if (isFromOwner(signal))
+        pass_(signal);
 }
 
 void SenderGate::ownerIs(const QString& owner) {
     owner_ = owner;
     ownerKnown_ = true;
-    std::ranges::copy_if(held_, std::back_inserter(accepted_),
-                         [this](const QDBusMessage& signal) { return isFromOwner(signal); });
-    held_.clear();
-    pass();
+    for (const QDBusMessage& signal : std::exchange(held_, {}))
+        receive(signal);
 }
 
 void SenderGate::ownerChanged(const QString& from, const QString& to) {
@@ -45,16 +39,6 @@ bool SenderGate::isFromOwner(const QDBusMessage& signal) const {
     qCDebug(busLog, "Ignored %s from %s", qUtf8Printable(signal.member()),
             qUtf8Printable(signal.service()));
     return false;
-}
-
-// A handler may run an event loop, in which more is received: that call then goes on with what is
-// left here, so that the order is kept and nothing waits for the loop's end.
-void SenderGate::pass() {
-    while (!accepted_.empty()) {
-        const QDBusMessage signal = accepted_.front();
-        accepted_.pop_front();
-        pass_(signal);
-    }
 }
 
 } // namespace zarvil

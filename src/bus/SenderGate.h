@@ -2,8 +2,8 @@
 
 #include <QDBusMessage>
 
-#include <deque>
 #include <functional>
+#include <vector>
 
 namespace zarvil {
 
@@ -25,13 +25,11 @@ public:
 
 private:
     [[nodiscard]] bool isFromOwner(const QDBusMessage& signal) const;
-    void pass();
 
     Pass pass_;
     bool ownerKnown_ = false;
     QString owner_;
-    std::deque<QDBusMessage> held_;
-    std::deque<QDBusMessage> accepted_;
+    std::vector<QDBusMessage> held_;
 };
 
 } // namespace zarvil

@@ -1,7 +1,5 @@
 #include "host/Appearance.h"
 
-#include "bus/BusConnection.h"
-
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -63,11 +61,11 @@ Look Appearance::look() const {
     return look;
 }
 
-void Appearance::follow(BusConnection& session) {
-    session.whenReady(this, [this](const QDBusConnection& bus) {
-        if (!bus.isConnected())
+void Appearance::follow(MessageBus& session) {
+    session_ = session.observe([this, &session](BusState) {
+        bus_ = session.connection();
+        if (!bus_)
             return;
-        bus_ = bus;
         // From any sender: naming the portal here would make Qt wait for the bus to say who that
         // is. So the signal is only a hint, and the portal itself is asked for the value.
         bus_->connect(QString(), path, interface, "SettingChanged", this,
@@ -78,6 +76,8 @@ void Appearance::follow(BusConnection& session) {
 }
 
 void Appearance::ask(Preference& preference, const char* method) {
+    if (!bus_)
+        return;
     auto call = QDBusMessage::createMethodCall(service, path, interface, method);
     call << group << preference.key;
     auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(call), this);
@@ -85,6 +85,8 @@ void Appearance::ask(Preference& preference, const char* method) {
             [this, watcher, &preference, method] {
                 watcher->deleteLater();
                 const QDBusPendingReply<QDBusVariant> reply(*watcher);
+                if (!bus_)
+                    return; // the bus went: what it said last holds
                 if (reply.isValid())
                     accept(preference, reply.value().variant());
                 else if (std::strcmp(method, readOne) == 0)

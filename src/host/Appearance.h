@@ -2,16 +2,13 @@
 
 #include "host/Palettes.h"
 
-#include <QDBusConnection>
+#include "bus/MessageBus.h"
+
 #include <QObject>
 
 #include <optional>
 
 class QSettings;
-
-namespace zarvil {
-class BusConnection;
-}
 
 namespace zarvil::host {
 
@@ -28,11 +25,11 @@ class Appearance final : public QObject {
 public:
     Appearance(AppearanceChoice choice, QSettings& settings);
 
-    /// Asks the portal from the event loop, without waiting.
-    void follow(BusConnection& session);
+    /// Asks the portal of every connection to the session bus, without waiting.
+    void follow(MessageBus& session);
     [[nodiscard]] Look look() const;
 
-private slots:
+private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key);
 
 private:
@@ -53,6 +50,7 @@ private:
     QString desktopStyle_;
     Preference scheme_;
     Preference contrast_;
+    Subscription session_;
 };
 
 } // namespace zarvil::host

@@ -1,9 +1,9 @@
 #include "host/Host.h"
 
+#include "bus/BusProbe.h"
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "bus/BusProbe.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
+#include <utility>
 
 namespace zarvil::host {
 
@@ -39,6 +41,12 @@ int failWithoutPanes() {
     return exitCode::noPane;
 }
 
+BusOptions sessionBusFor(const SingleInstance& instance) {
+    BusOptions options = BusOptions::sessionBus();
+    options.join = instance.claim();
+    return options;
+}
+
 bool isBroken(const BundleOutcome& bundle) { return std::holds_alternative<BundleFailure>(bundle); }
 
 } // namespace
@@ -47,7 +55,7 @@ Host::Host(const CommandLine& commandLine)
     : commandLine_(commandLine),
       settings_(settingsFile(), QSettings::IniFormat),
       appearance_(commandLine.appearance, settings_),
-      session_(instance_.claiming(BusConnection::sessionBus())) {}
+      session_(sessionBusFor(instance_)) {}
 
 std::vector<BundleOutcome> Host::bundles() const {
     if (!commandLine_.bundle.isEmpty())
@@ -56,7 +64,6 @@ std::vector<BundleOutcome> Host::bundles() const {
 }
 
 int Host::run() {
-    session_.start();
     const auto found = bundles();
     if (found.empty())
         return failWithoutPanes();
@@ -69,55 +76,64 @@ int Host::run() {
 }
 
 int Host::runWindow(const std::vector<BundleOutcome>& bundles) {
-    window_ = std::make_unique<HostWindow>(bundles, commandLine_.root, settings_);
-    QObject::connect(window_.get(), &HostWindow::closed, [] { QCoreApplication::exit(); });
+    makeWindow(bundles);
+    auto failure = window_->prepare();
+    // A bus in health has answered by now, and a second instance shows nothing. Otherwise the
+    // window comes up all the same, and goes again if it must.
+    constexpr std::chrono::milliseconds answerLimit{25};
+    session_.wait(answerLimit);
+    const Subscription watching = session_.observe([this](BusState state) { busChanged(state); });
+    if (!yielding_) {
+        if (!failure)
+            failure = window_->open();
+        if (failure)
+            return fail(*failure);
+        appearance_.follow(session_);
+    }
+    const int code = QApplication::exec();
+    window_.reset();
+    if (code == exitCode::unavailable)
+        showFailure(QCoreApplication::translate(
+            "Host", "The preferences are open already, but their window does not answer."));
+    return code;
+}
+
+void Host::makeWindow(const std::vector<BundleOutcome>& bundles) {
+    PaneOptions options;
+    options.root = commandLine_.root;
+    options.session = &session_;
+    window_ = std::make_unique<HostWindow>(bundles, options, settings_);
+    QObject::connect(window_.get(), &HostWindow::closed, [this] {
+        if (!yielding_)
+            QCoreApplication::exit();
+    });
     QObject::connect(&signals_, &UnixSignals::endRequested, window_.get(),
                      &HostWindow::closeRegardless);
     QObject::connect(&instance_, &SingleInstance::activated, window_.get(),
                      &HostWindow::raiseToUser);
-    QObject::connect(&instance_, &SingleInstance::decided, window_.get(),
-                     [this] { standingDecided(); });
-    // A bus in health answers within a few milliseconds, and a second instance then shows nothing.
-    // After that the window comes up all the same, and goes again if it must.
-    constexpr std::chrono::milliseconds answerLimit{25};
-    [[maybe_unused]] const auto bus = session_.wait(answerLimit);
-    if (instance_.standing() == SingleInstance::Standing::Second)
-        return yieldToFirst();
-    if (const auto failure = window_->open())
-        return fail(*failure);
-    appearance_.follow(session_);
-    const int code = QApplication::exec();
-    window_.reset();
-    return code;
 }
 
-void Host::standingDecided() {
-    if (instance_.standing() == SingleInstance::Standing::NoBus)
-        logFailure(QCoreApplication::translate(
-            "Host", "There is no session bus: the agent cannot be reached, and a second start "
-                    "shows a second window."));
-    if (instance_.standing() == SingleInstance::Standing::Second) {
-        const int code = yieldToFirst();
-        window_->closeRegardless();
-        QCoreApplication::exit(code);
-    }
+/// A window that was opened for want of a bus stays, whoever owns the name once there is one.
+void Host::busChanged(BusState state) {
+    if (state == BusState::Connecting || std::exchange(decided_, true))
+        return;
+    if (session_.connection() && instance_.standing() == SingleInstance::Standing::Second)
+        yieldToFirst();
 }
 
-int Host::yieldToFirst() {
-    constexpr std::chrono::seconds limit{5};
-    const auto bus = session_.wait(limit);
-    if (bus && SingleInstance::raiseFirst(*bus))
-        return exitCode::success;
-    showFailure(QCoreApplication::translate(
-        "Host", "The preferences are open already, but their window does not answer."));
-    return exitCode::unavailable;
+void Host::yieldToFirst() {
+    yielding_ = true;
+    window_->closeRegardless();
+    instance_.raiseFirst(*session_.connection(), [](bool answered) {
+        QCoreApplication::exit(answered ? exitCode::success : exitCode::unavailable);
+    });
 }
 
 namespace {
 
 QStringList argumentsOf(int argc, char** argv) {
     QStringList arguments;
-    for (int index = 1; index < argc; ++index)
+    for (int index = 0; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
     return arguments;
 }
@@ -133,20 +149,42 @@ int print(const QString& text) {
     return exitCode::success;
 }
 
-/// Qt connects to the session bus while it makes the application object.
-void avoidHungBus() {
-    constexpr std::chrono::seconds limit{2};
-    if (busAnswers(sessionBusAddress(), limit))
-        return;
-    logFailure(QStringLiteral("The session bus does not answer; going on without it."));
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-}
+/// Qt connects to the session bus, at the latest when its accessibility first looks for it, and a
+/// bus that hangs would keep the main thread waiting for half a minute. So Qt's own connection,
+/// which it never makes again, is made to fail here; ours goes on trying.
+class HungBusHidden {
+public:
+    HungBusHidden() {
+        constexpr std::chrono::milliseconds limit{500};
+        if (busAnswers(sessionBusAddress(), limit))
+            return;
+        address_ = qgetenv(variable);
+        qputenv(variable, "disabled:");
+    }
+    /// Needs the application object.
+    ~HungBusHidden() {
+        if (!address_)
+            return;
+        [[maybe_unused]] const auto failed = QDBusConnection::sessionBus();
+        if (address_->isEmpty())
+            qunsetenv(variable);
+        else
+            qputenv(variable, *address_);
+    }
+    HungBusHidden(const HungBusHidden&) = delete;
+    HungBusHidden& operator=(const HungBusHidden&) = delete;
+
+private:
+    static constexpr const char* variable = "DBUS_SESSION_BUS_ADDRESS";
+    std::optional<QByteArray> address_;
+};
 
 int runOnDisplay(const CommandLine& commandLine, char** argv) {
-    avoidHungBus();
+    auto hidden = std::make_optional<HungBusHidden>();
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
+    hidden.reset();
     QApplication::setApplicationVersion(ZARVIL_VERSION);
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);
@@ -167,8 +205,10 @@ int runHost(int argc, char** argv) {
     if (const auto* error = std::get_if<UsageError>(&parsed))
         return failUsage(*error);
     const auto& commandLine = std::get<CommandLine>(parsed);
-    if (commandLine.wish == CommandLine::Wish::Help)
+    if (commandLine.wish == CommandLine::Wish::Help) {
+        const QCoreApplication application(argc, argv);
         return print(helpText());
+    }
     if (commandLine.wish == CommandLine::Wish::Version)
         return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
     if (!hasDisplay()) {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "bus/BusConnection.h"
 #include "host/Appearance.h"
 #include "host/CommandLine.h"
 #include "host/HostWindow.h"
 #include "host/SingleInstance.h"
 #include "host/UnixSignals.h"
-#include "bus/BusConnection.h"
 
 #include <QSettings>
 
@@ -35,8 +35,9 @@ public:
 private:
     [[nodiscard]] std::vector<BundleOutcome> bundles() const;
     int runWindow(const std::vector<BundleOutcome>& bundles);
-    int yieldToFirst();
-    void standingDecided();
+    void makeWindow(const std::vector<BundleOutcome>& bundles);
+    void busChanged(BusState state);
+    void yieldToFirst();
 
     CommandLine commandLine_;
     QSettings settings_;
@@ -45,6 +46,8 @@ private:
     BusConnection session_;
     UnixSignals signals_;
     std::unique_ptr<HostWindow> window_;
+    bool decided_ = false;  ///< whether this is the first instance; settled once
+    bool yielding_ = false; ///< it is not, and ends
 };
 
 /// The whole program, from its arguments to its exit code.

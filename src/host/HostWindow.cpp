@@ -1,5 +1,7 @@
 #include "host/HostWindow.h"
 
+#include "qt/widgets/ToolTip.h"
+
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -18,12 +20,12 @@ constexpr int listWidth = 180;
 
 } // namespace
 
-HostWindow::HostWindow(const std::vector<BundleOutcome>& bundles, const QString& root,
+HostWindow::HostWindow(const std::vector<BundleOutcome>& bundles, const PaneOptions& options,
                        QSettings& settings)
     : settings_(settings) {
     setObjectName("hostWindow");
     for (const auto& bundle : bundles)
-        makeEntry(bundle, root);
+        makeEntry(bundle, options);
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(0);
@@ -39,9 +41,9 @@ HostWindow::HostWindow(const std::vector<BundleOutcome>& bundles, const QString&
 
 HostWindow::~HostWindow() = default;
 
-void HostWindow::makeEntry(const BundleOutcome& bundle, const QString& root) {
+void HostWindow::makeEntry(const BundleOutcome& bundle, const PaneOptions& options) {
     if (const auto* good = std::get_if<Bundle>(&bundle))
-        entries_.push_back({std::make_unique<PaneDriver>(*good, root), {}});
+        entries_.push_back({std::make_unique<PaneDriver>(*good, options), {}});
     else
         entries_.push_back({nullptr, std::get<BundleFailure>(bundle).message});
 }
@@ -56,7 +58,7 @@ void HostWindow::makeList() {
             entry.driver ? entry.driver->bundle().name : tr("Broken pane"), list_);
         if (entry.driver && !entry.driver->bundle().icon.isEmpty())
             item->setIcon(QIcon(entry.driver->bundle().icon));
-        item->setToolTip(entry.fault);
+        item->setToolTip(qt::plainToolTip(entry.fault));
     }
     connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0 && static_cast<std::size_t>(row) != current_)
@@ -64,7 +66,7 @@ void HostWindow::makeList() {
     });
 }
 
-std::optional<BundleFailure> HostWindow::open() {
+std::optional<BundleFailure> HostWindow::prepare() {
     std::optional<BundleFailure> first;
     for (std::size_t row = 0; row < entries_.size(); ++row) {
         auto& entry = entries_[row];
@@ -76,12 +78,20 @@ std::optional<BundleFailure> HostWindow::open() {
                 first = std::move(failed);
             continue;
         }
-        showPane(row);
-        restorePlace();
-        show();
+        current_ = row;
+        content_->addWidget(entry.driver->view());
         return std::nullopt;
     }
     return first;
+}
+
+std::optional<BundleFailure> HostWindow::open() {
+    if (auto failure = prepare())
+        return failure;
+    showPane(current_);
+    restorePlace();
+    show();
+    return std::nullopt;
 }
 
 void HostWindow::restorePlace() {
@@ -145,8 +155,9 @@ void HostWindow::showPane(std::size_t row) {
         showFault(entry.fault);
         return;
     }
-    QWidget* view = entry.driver->select();
+    QWidget* view = entry.driver->view();
     content_->addWidget(view);
+    entry.driver->select();
     view->show();
     setWindowTitle(entry.driver->title());
     if (const QIcon icon = entry.driver->icon(); !icon.isNull())
@@ -171,10 +182,11 @@ void HostWindow::markCurrent() {
 }
 
 void HostWindow::finish() {
-    settings_.setValue(geometryKey, saveGeometry());
+    if (isVisible()) // not the place of a window that never was
+        settings_.setValue(geometryKey, saveGeometry());
     finished_ = true;
     hide();
-    emit closed();
+    Q_EMIT closed();
 }
 
 } // namespace zarvil::host

@@ -21,17 +21,21 @@ class HostWindow final : public QWidget {
     Q_OBJECT
 public:
     /// Needs at least one pane. Broken bundles are listed, with the reason in place of a pane.
-    HostWindow(const std::vector<BundleOutcome>& bundles, const QString& root, QSettings& settings);
+    HostWindow(const std::vector<BundleOutcome>& bundles, const PaneOptions& options,
+               QSettings& settings);
     ~HostWindow() override;
 
-    /// Shows the first pane that can be loaded; what failed if there is none.
+    /// Makes the view of the first pane that can be loaded; what failed if there is none. The
+    /// pane's life does not begin yet.
+    [[nodiscard]] std::optional<BundleFailure> prepare();
+    /// Prepares what is not, and shows it.
     [[nodiscard]] std::optional<BundleFailure> open();
     /// Brings the window before the user.
     void raiseToUser();
     /// Leaves the pane, whatever it answers, and closes.
     void closeRegardless();
 
-signals:
+Q_SIGNALS:
     /// The window is hidden and its pane has been left.
     void closed();
 
@@ -47,7 +51,7 @@ private:
     using Target = std::optional<std::size_t>;
 
     void makeList();
-    void makeEntry(const BundleOutcome& bundle, const QString& root);
+    void makeEntry(const BundleOutcome& bundle, const PaneOptions& options);
     void wish(Target target);
     void proceed(bool left);
     void showPane(std::size_t row);

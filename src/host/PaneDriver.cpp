@@ -11,8 +11,10 @@ constexpr int unselectLater = 2;
 
 } // namespace
 
-PaneDriver::PaneDriver(Bundle bundle, QString root)
-    : bundle_(std::move(bundle)), root_(std::move(root)) {}
+PaneDriver::PaneDriver(Bundle bundle, PaneOptions options)
+    : bundle_(std::move(bundle)), options_(std::move(options)) {
+    options_.bundlePath = bundle_.path;
+}
 
 PaneDriver::~PaneDriver() {
     if (view_)
@@ -26,7 +28,7 @@ std::optional<BundleFailure> PaneDriver::load() {
     if (auto* broken = std::get_if<BundleFailure>(&outcome))
         return failure_ = std::move(*broken);
     pane_ = std::move(std::get<std::unique_ptr<PreferencePane>>(outcome));
-    pane_->setOptions({root_, bundle_.path});
+    pane_->setOptions(options_);
     pane_->setUnselectAnswer([this](bool leave) { answerCame(leave); });
     return std::nullopt;
 }
@@ -36,14 +38,17 @@ QIcon PaneDriver::icon() const {
     return own.isNull() && !bundle_.icon.isEmpty() ? QIcon(bundle_.icon) : own;
 }
 
-QWidget* PaneDriver::select() {
-    if (!view_) {
+QWidget* PaneDriver::view() {
+    if (!view_)
         view_ = pane_->mainView();
+    return view_;
+}
+
+void PaneDriver::select() {
+    if (!std::exchange(viewDidLoad_, true))
         pane_->mainViewDidLoad();
-    }
     selected_ = true;
     pane_->willSelect();
-    return view_;
 }
 
 void PaneDriver::leave(Left left) {

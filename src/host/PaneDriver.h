@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Bundle.h"
+#include "protocol/NonCopyable.h"
 
 #include <QPointer>
 
@@ -12,12 +13,13 @@ namespace zarvil::host {
 
 /// Drives one pane's life in the order that a pane may rely on. Loads the pane at its first
 /// showing, so that panes never shown cost nothing.
-class PaneDriver {
+class PaneDriver : NonCopyable {
 public:
     /// Whether the pane has been left; false when it wants to stay.
     using Left = std::function<void(bool left)>;
 
-    PaneDriver(Bundle bundle, QString root);
+    /// The bundle's path is filled into the options.
+    PaneDriver(Bundle bundle, PaneOptions options);
     PaneDriver(const PaneDriver&) = delete;
     PaneDriver& operator=(const PaneDriver&) = delete;
     /// Takes the view out of whatever window it is in. The pane is not told: leave it before.
@@ -30,8 +32,10 @@ public:
     // After a good `load`.
     [[nodiscard]] QString title() const { return pane_->title(); }
     [[nodiscard]] QIcon icon() const;
-    /// Prepares a showing, and gives the view to show.
-    QWidget* select();
+    /// Makes the view, which does nothing before the first `select`.
+    QWidget* view();
+    /// Prepares a showing of the view.
+    void select();
     /// Asks the pane to give way; `left` is called once, at once or when the pane has decided.
     void leave(Left left);
     /// Leaves without taking no for an answer, for a host that must end.
@@ -43,11 +47,12 @@ private:
     void answerCame(bool leave);
 
     Bundle bundle_;
-    QString root_;
+    PaneOptions options_;
     std::unique_ptr<PreferencePane> pane_;
     std::optional<BundleFailure> failure_;
     QPointer<QWidget> view_;
     Left pending_;
+    bool viewDidLoad_ = false;
     bool selected_ = false;
 };
 

@@ -1,9 +1,10 @@
 #include "host/SingleInstance.h"
 
+#include "bus/BusDaemon.h"
 #include "protocol/BusNames.h"
 
 #include <QDBusMessage>
-#include <QDBusReply>
+#include <QDBusPendingCallWatcher>
 
 #include <mutex>
 
@@ -13,26 +14,8 @@ namespace {
 
 constexpr const char* objectPath = "/com/Tessrow/Preferences";
 constexpr const char* interface = "org.freedesktop.Application";
-constexpr int answerLimit = 5000; // milliseconds
-
-// Of the bus's RequestName.
-constexpr uint doNotQueue = 4;
-constexpr uint primaryOwner = 1;
-constexpr uint alreadyOwner = 4;
-constexpr uint exists = 3;
-
-SingleInstance::Standing requestName(const QDBusConnection& bus) {
-    auto call = QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                               "org.freedesktop.DBus", "RequestName");
-    call << bus::hostName << doNotQueue;
-    const QDBusReply<uint> reply = bus.call(call, QDBus::Block, answerLimit);
-    if (!reply.isValid())
-        return SingleInstance::Standing::NoBus;
-    if (reply.value() == exists)
-        return SingleInstance::Standing::Second;
-    const bool owned = reply.value() == primaryOwner || reply.value() == alreadyOwner;
-    return owned ? SingleInstance::Standing::First : SingleInstance::Standing::NoBus;
-}
+constexpr int nameLimit = 2000;  // milliseconds
+constexpr int raiseLimit = 1000; // milliseconds
 
 } // namespace
 
@@ -51,8 +34,6 @@ struct SingleInstance::Shared {
     void decide(Standing outcome) {
         const std::lock_guard lock(mutex);
         standing = outcome;
-        if (owner)
-            QMetaObject::invokeMethod(owner, &SingleInstance::decided, Qt::QueuedConnection);
     }
 };
 
@@ -63,16 +44,12 @@ SingleInstance::~SingleInstance() {
     shared_->owner = nullptr;
 }
 
-BusConnection::Connect SingleInstance::claiming(BusConnection::Connect connect) const {
-    return [shared = shared_, connect = std::move(connect)] {
-        auto bus = connect();
-        if (bus.isConnected()) {
-            shared->offer(bus);
-            shared->decide(requestName(bus));
-        } else {
-            shared->decide(Standing::NoBus);
-        }
-        return bus;
+std::function<void(const QDBusConnection&)> SingleInstance::claim() const {
+    return [shared = shared_](const QDBusConnection& bus) {
+        shared->offer(bus);
+        const auto outcome =
+            nameOutcome(bus.call(nameRequest(bus::hostName), QDBus::Block, nameLimit));
+        shared->decide(outcome == NameOutcome::Taken ? Standing::Second : Standing::First);
     };
 }
 
@@ -81,12 +58,17 @@ SingleInstance::Standing SingleInstance::standing() const {
     return shared_->standing;
 }
 
-bool SingleInstance::raiseFirst(const QDBusConnection& bus) {
+void SingleInstance::raiseFirst(const QDBusConnection& bus, std::function<void(bool)> report) {
     auto call = QDBusMessage::createMethodCall(bus::hostName, objectPath, interface, "Activate");
     call << QVariantMap();
-    return bus.call(call, QDBus::Block, answerLimit).type() == QDBusMessage::ReplyMessage;
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, raiseLimit), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [watcher, report = std::move(report)] {
+                watcher->deleteLater();
+                report(!watcher->isError());
+            });
 }
 
-void SingleInstance::Activate(const QVariantMap& /*hints*/) { emit activated(); }
+void SingleInstance::Activate(const QVariantMap& /*hints*/) { Q_EMIT activated(); }
 
 } // namespace zarvil::host

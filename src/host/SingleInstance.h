@@ -1,46 +1,44 @@
 #pragma once
 
-#include "bus/BusConnection.h"
-
+#include <QDBusConnection>
 #include <QObject>
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 
 namespace zarvil::host {
 
 /// Sees to it that one host runs in a session: the one that owns the host's name on the bus. Asks
-/// for the name on the connecting thread, so that the main thread waits for nothing.
+/// for the name of every new connection, on the connecting thread, so that the main thread waits
+/// for nothing.
 class SingleInstance final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 public:
     enum class Standing {
-        Unknown, ///< the bus has not answered yet
-        First,   ///< this process owns the name
-        Second,  ///< another process owns it
-        NoBus    ///< there is no session bus, or it refuses the name
+        Unknown, ///< no bus has answered yet
+        First,   ///< this process owns the name, or the bus gives it to nobody
+        Second   ///< another process owns it
     };
 
     SingleInstance();
     ~SingleInstance() override;
 
-    /// Connects as `connect` does and asks for the name; for the session's `BusConnection`.
-    [[nodiscard]] BusConnection::Connect claiming(BusConnection::Connect connect) const;
+    /// Takes the name on a connection; for `BusOptions::join`, and as long-lived as that.
+    [[nodiscard]] std::function<void(const QDBusConnection&)> claim() const;
 
-    /// May know more than the last `decided`: the answer may have come and not been announced.
+    /// By the connection made last. Safe to ask before that connection is announced.
     [[nodiscard]] Standing standing() const;
-    /// Asks the first instance to show itself; false when it does not answer. Waits at most a few
-    /// seconds: this process has nothing else to do.
-    [[nodiscard]] static bool raiseFirst(const QDBusConnection& bus);
+    /// Asks the first instance to show itself. Reports once, from the event loop, whether it
+    /// answered within a second: one in health does within milliseconds, and the user waits.
+    void raiseFirst(const QDBusConnection& bus, std::function<void(bool answered)> report);
 
-public slots:
+public Q_SLOTS:
     /// Called over the bus by a second instance. The platform's hints are not used.
     Q_SCRIPTABLE void Activate(const QVariantMap& hints);
 
 signals:
-    /// Once, from the event loop.
-    void decided();
     void activated();
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "posix/FileDescriptor.h"
+#include "protocol/NonCopyable.h"
 
 #include <string>
 #include <string_view>
@@ -19,8 +20,6 @@ public:
     static constexpr std::string_view temporaryName = ".zarvil-save";
 
     explicit AtomicFile(const std::string& path);
-    AtomicFile(const AtomicFile&) = delete;
-    AtomicFile& operator=(const AtomicFile&) = delete;
     ~AtomicFile();
 
     /// Brings the content to the disk beside the file; 0, or the error number.

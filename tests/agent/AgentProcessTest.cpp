@@ -1,8 +1,8 @@
 #include "EventWait.h"
 #include "PrivateBus.h"
+#include "bus/DBusMessageCenter.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
-#include "bus/DBusMessageCenter.h"
 
 #include <QProcess>
 
@@ -73,16 +73,10 @@ protected:
         return message.value_or(Message(answer));
     }
 
-    [[nodiscard]] DBusOptions options() const {
-        DBusOptions chosen;
-        chosen.address = bus.address();
-        chosen.acceptFrom = bus::agentName;
-        return chosen;
-    }
-
     QTemporaryDir home;
     PrivateBus bus;
-    DBusMessageCenter pane{options()};
+    BusConnection session{bus.options()};
+    DBusMessageCenter pane{session, bus::agentName};
     std::vector<Message> received;
     std::vector<Subscription> subscriptions;
 };

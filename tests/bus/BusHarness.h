@@ -2,9 +2,10 @@
 
 #include "EventWait.h"
 #include "PrivateBus.h"
+#include "bus/BusConnection.h"
+#include "bus/DBusMessageCenter.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
-#include "bus/DBusMessageCenter.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -14,35 +15,33 @@
 
 namespace zarvil {
 
-/// A private bus with a pane's message center on it.
-class BusHarness : public testing::Test {
-protected:
-    [[nodiscard]] DBusOptions paneOptions() const {
-        DBusOptions options;
-        options.address = bus.address();
-        options.acceptFrom = bus::agentName;
-        options.firstRetry = std::chrono::milliseconds(5);
-        return options;
-    }
-    [[nodiscard]] DBusOptions agentOptions() const {
-        DBusOptions options = paneOptions();
-        options.acceptFrom.clear();
-        return options;
-    }
+/// A message center with a connection of its own, as in a process of its own.
+struct Center {
+    Center(const PrivateBus& onBus, const char* acceptFrom)
+        : bus(onBus.options()), messages(bus, QString(acceptFrom)) {}
 
-    [[nodiscard]] static bool waitUntilConnected(const DBusMessageCenter& center) {
-        return waitFor([&] { return center.connectionState() == ConnectionState::Connected; }) &&
-               isHeardByTheBus(center);
+    [[nodiscard]] bool waitUntilConnected() const {
+        return waitFor([&] { return bus.state() == BusState::Connected; }) && isHeardByTheBus();
     }
     /// Once the bus has answered, it has read all that the center asked it to watch for. What
     /// another connection sends from then on arrives.
-    [[nodiscard]] static bool isHeardByTheBus(const DBusMessageCenter& center) {
-        return center.connection()
-                   ->call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/",
-                                                         "org.freedesktop.DBus", "GetId"))
-                   .type() == QDBusMessage::ReplyMessage;
+    [[nodiscard]] bool isHeardByTheBus() const {
+        return bus.connection()->call(busCall("GetId")).type() == QDBusMessage::ReplyMessage;
     }
 
+    BusConnection bus;
+    DBusMessageCenter messages;
+};
+struct PaneCenter : Center {
+    explicit PaneCenter(const PrivateBus& onBus) : Center(onBus, bus::agentName) {}
+};
+struct AgentCenter : Center {
+    explicit AgentCenter(const PrivateBus& onBus) : Center(onBus, "") {}
+};
+
+/// A private bus with somebody else's connections on it.
+class BusHarness : public testing::Test {
+protected:
     /// A connection of somebody else's. Stands until the test's end.
     enum class Owns : bool { Nothing, AgentName };
     [[nodiscard]] QDBusConnection peer(Owns owns = Owns::Nothing) {
@@ -54,16 +53,16 @@ protected:
     }
 
     static QDBusMessage signal(std::string_view name, const QVariantList& arguments = {}) {
-        QDBusMessage message = QDBusMessage::createSignal(
-            bus::path, bus::interface, QString::fromUtf8(name.data(), qsizetype(name.size())));
+        QDBusMessage message =
+            QDBusMessage::createSignal(bus::path, bus::interface, QString::fromUtf8(name));
         message.setArguments(arguments);
         return message;
     }
     /// The same, for one receiver alone.
-    static QDBusMessage signalTo(const DBusMessageCenter& receiver, std::string_view name,
+    static QDBusMessage signalTo(const Center& receiver, std::string_view name,
                                  const QVariantList& arguments = {}) {
         QDBusMessage message = QDBusMessage::createTargetedSignal(
-            receiver.connection()->baseService(), bus::path, bus::interface,
+            receiver.bus.connection()->baseService(), bus::path, bus::interface,
             QString::fromUtf8(name.data(), qsizetype(name.size())));
         message.setArguments(arguments);
         return message;

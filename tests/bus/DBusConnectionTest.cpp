@@ -1,8 +1,10 @@
 #include "BusHarness.h"
+#include "bus/BusProbe.h"
 
 #include <QElapsedTimer>
 
 #include <array>
+#include <atomic>
 
 namespace zarvil {
 namespace {
@@ -23,19 +25,19 @@ std::size_t inOrder(const std::vector<Message>& received) {
 }
 
 TEST_F(Connection, aBurstOf100000EachWayIsNeitherLostNorReorderedEvenWhileConnecting) {
-    DBusMessageCenter agent(agentOptions());
-    const Recorder atAgent(agent, message::paneToAgent);
-    ASSERT_TRUE(waitUntilConnected(agent));
-    ASSERT_TRUE(QDBusConnection(*agent.connection()).registerService(bus::agentName));
-    DBusMessageCenter pane(paneOptions());
-    const Recorder atPane(pane);
-    ASSERT_EQ(pane.connectionState(), ConnectionState::Connecting);
+    AgentCenter agent(bus);
+    const Recorder atAgent(agent.messages, message::paneToAgent);
+    ASSERT_TRUE(agent.waitUntilConnected());
+    ASSERT_TRUE(QDBusConnection(*agent.bus.connection()).registerService(bus::agentName));
+    PaneCenter pane(bus);
+    const Recorder atPane(pane.messages);
+    ASSERT_EQ(pane.bus.state(), BusState::Connecting);
     constexpr int count = 100'000;
     for (int number = 0; number < count; ++number)
-        pane.post(numbered(message::prefsChanged, number));
-    ASSERT_TRUE(waitUntilConnected(pane));
+        pane.messages.post(numbered(message::prefsChanged, number));
+    ASSERT_TRUE(pane.waitUntilConnected());
     for (int number = 0; number < count; ++number)
-        agent.post(numbered(message::stateChanged, number));
+        agent.messages.post(numbered(message::stateChanged, number));
     EXPECT_TRUE(atPane.received.empty()) << "a handler ran inside post";
     constexpr std::chrono::minutes burstLimit{4};
     ASSERT_TRUE(atAgent.waitForCount(count, burstLimit) && atPane.waitForCount(count, burstLimit));
@@ -45,13 +47,16 @@ TEST_F(Connection, aBurstOf100000EachWayIsNeitherLostNorReorderedEvenWhileConnec
 
 TEST_F(Connection, onlyWhatIsObservedIsDeliveredAndOnlyWhileItIs) {
     const QDBusConnection agent = peer(Owns::AgentName);
-    DBusMessageCenter pane(paneOptions());
-    const Recorder others(pane, std::array{message::testFinished});
+    PaneCenter pane(bus);
+    const Recorder others(pane.messages, std::array{message::testFinished});
     int first = 0;
     int second = 0;
-    Subscription one = pane.addObserver(message::pingAnswer, [&](const Message&) { ++first; });
-    Subscription two = pane.addObserver(message::pingAnswer, [&](const Message&) { ++second; });
-    ASSERT_TRUE(waitUntilConnected(pane));
+    const auto counting = [&](int& count) {
+        return pane.messages.addObserver(message::pingAnswer, [&](const Message&) { ++count; });
+    };
+    Subscription one = counting(first);
+    Subscription two = counting(second);
+    ASSERT_TRUE(pane.waitUntilConnected());
     const auto speak = [&](std::size_t round) {
         EXPECT_TRUE(agent.send(signal(message::pingAnswer)));
         EXPECT_TRUE(agent.send(signal(message::testFinished)));
@@ -64,73 +69,144 @@ TEST_F(Connection, onlyWhatIsObservedIsDeliveredAndOnlyWhileItIs) {
     ASSERT_TRUE(speak(3));
     EXPECT_EQ(first, 1);
     EXPECT_EQ(second, 2);
-    const Subscription again =
-        pane.addObserver(message::pingAnswer, [&](const Message&) { ++first; });
-    ASSERT_TRUE(isHeardByTheBus(pane) && speak(4));
+    const Subscription again = counting(first);
+    ASSERT_TRUE(pane.isHeardByTheBus() && speak(4));
     EXPECT_EQ(first, 2);
 }
 
-TEST_F(Connection, withoutABusItSaysSoAndComesUpWithTheBus) {
+TEST_F(Connection, comesUpWithTheBusAndAgainWithTheNextOne) {
     bus.stop();
-    DBusMessageCenter pane(paneOptions());
-    std::vector<ConnectionState> states;
+    std::atomic<int> joined = 0;
+    BusOptions options = bus.options();
+    options.join = [&](const QDBusConnection&) { ++joined; };
+    BusConnection connection(options);
+    DBusMessageCenter pane(connection, bus::agentName);
+    const Recorder recorder(pane);
+    std::string links;
     const Subscription watching =
-        pane.observeConnectionState([&](ConnectionState state) { states.push_back(state); });
+        pane.observeLink([&](LinkEvent event) { links += "ud+"[static_cast<int>(event)]; });
+    EXPECT_EQ(links, "u") << "nothing has failed yet";
     pane.post(Message(message::prefsLoaded));
-    ASSERT_TRUE(waitFor([&] { return states.size() >= 4; }));
-    states.resize(4);
-    using enum ConnectionState;
-    EXPECT_EQ(states, (std::vector{Connecting, Unavailable, Connecting, Unavailable}));
-    EXPECT_FALSE(pane.connectionError().isEmpty());
-    EXPECT_FALSE(pane.connection());
-    pane.post(Message(message::ping));
+    ASSERT_TRUE(waitFor([&] { return links == "ud"; }));
+    EXPECT_FALSE(connection.error().isEmpty());
+    EXPECT_FALSE(connection.connection());
 
-    bus.start();
-    ASSERT_TRUE(waitUntilConnected(pane));
-    EXPECT_TRUE(pane.connectionError().isEmpty());
+    for (std::size_t round = 1; round <= 2; ++round) {
+        pane.post(Message(message::ping));
+        bus.start();
+        ASSERT_TRUE(waitFor([&] { return links.ends_with('u'); }));
+        EXPECT_EQ(joined, static_cast<int>(round)) << "the process's name is taken again";
+        const QDBusConnection agent = peer(Owns::AgentName);
+        ASSERT_TRUE(waitFor([&] { return links.ends_with('+'); })) << "an agent is a new one";
+        ASSERT_TRUE(agent.send(signal(message::pingAnswer)));
+        ASSERT_TRUE(recorder.waitForCount(round));
+        bus.stop();
+        ASSERT_TRUE(waitFor([&] { return links.ends_with('d'); }));
+    }
+    EXPECT_EQ(links, "udu+du+d");
 }
 
-TEST_F(Connection, survivesABusThatDiesAndFindsTheNextOne) {
-    DBusMessageCenter pane(paneOptions());
-    const Recorder recorder(pane);
-    ASSERT_TRUE(waitUntilConnected(pane));
-    {
-        const QDBusConnection agent = peer(Owns::AgentName);
-        ASSERT_TRUE(agent.send(signal(message::pingAnswer)));
-        ASSERT_TRUE(recorder.waitForCount(1));
-    }
+TEST_F(Connection, whatWasPostedWithoutABusDoesNotComeBack) {
+    PaneCenter pane(bus);
+    ASSERT_TRUE(pane.waitUntilConnected());
     bus.stop();
-    ASSERT_TRUE(waitFor([&] { return pane.connectionState() == ConnectionState::Unavailable; }));
-    pane.post(Message(message::ping));
+    ASSERT_TRUE(waitFor([&] { return pane.bus.state() == BusState::Unavailable; }));
+    pane.messages.post(Message(message::ping));
     bus.start();
-    ASSERT_TRUE(waitUntilConnected(pane));
+    AgentCenter agent(bus);
+    const Recorder atAgent(agent.messages, message::paneToAgent);
+    ASSERT_TRUE(agent.waitUntilConnected() && pane.waitUntilConnected());
+    pane.messages.post(Message(message::prefsLoaded));
+    ASSERT_TRUE(atAgent.waitForCount(1));
+    EXPECT_EQ(atAgent.received.front().name, message::prefsLoaded);
+}
 
-    DBusMessageCenter agent(agentOptions());
-    const Recorder atAgent(agent, message::paneToAgent);
-    ASSERT_TRUE(waitUntilConnected(agent));
-    ASSERT_TRUE(QDBusConnection(*agent.connection()).registerService(bus::agentName));
-    pane.post(Message(message::prefsLoaded));
-    agent.post(Message(message::testFinished));
-    ASSERT_TRUE(recorder.waitForCount(2) && atAgent.waitForCount(1));
-    EXPECT_EQ(recorder.received.back().name, message::testFinished);
-    EXPECT_EQ(atAgent.received.front().name, message::prefsLoaded) << "the lost ping came back";
+TEST_F(Connection, anotherOwnerOfTheAgentsNameIsANewPeer) {
+    auto first = peer(Owns::AgentName);
+    PaneCenter pane(bus);
+    const Recorder recorder(pane.messages);
+    std::size_t newPeers = 0;
+    const Subscription watching = pane.messages.observeLink(
+        [&](LinkEvent event) { newPeers += event == LinkEvent::NewPeer ? 1 : 0; });
+    ASSERT_TRUE(pane.waitUntilConnected());
+    ASSERT_TRUE(first.send(signal(message::pingAnswer)));
+    ASSERT_TRUE(recorder.waitForCount(1));
+    EXPECT_EQ(newPeers, 0U) << "what the pane posted at its start has reached this one";
+    ASSERT_TRUE(first.unregisterService(bus::agentName));
+    ASSERT_TRUE(peer(Owns::AgentName).send(signal(message::pingAnswer)));
+    ASSERT_TRUE(recorder.waitForCount(2));
+    EXPECT_EQ(newPeers, 1U);
 }
 
 TEST_F(Connection, aBusThatStopsAnsweringHoldsUpNothingButTheEnd) {
-    auto pane = std::make_unique<DBusMessageCenter>(paneOptions());
-    const Recorder recorder(*pane);
-    ASSERT_TRUE(waitUntilConnected(*pane));
+    auto pane = std::make_unique<PaneCenter>(bus);
+    ASSERT_TRUE(pane->waitUntilConnected());
     bus.freeze();
     QElapsedTimer time;
     time.start();
     for (int number = 0; number < 1000; ++number) {
-        pane->post(numbered(message::ping, number));
-        Subscription passing = pane->addObserver("ZVOther", [](const Message&) {});
+        pane->messages.post(numbered(message::ping, number));
+        Subscription passing = pane->messages.addObserver("ZVOther", [](const Message&) {});
     }
+    BusConnection late(bus.options());
+    EXPECT_FALSE(late.wait(std::chrono::milliseconds(10)));
+    ASSERT_TRUE(waitFor([&] { return late.state() == BusState::Unavailable; }));
     pane.reset();
     // A second for the end; an answer that was waited for would take twenty-five.
     EXPECT_LT(time.elapsed(), 10'000);
     bus.resume();
+    ASSERT_TRUE(waitFor([&] { return late.state() == BusState::Connected; }));
+    EXPECT_FALSE(BusConnection::anyHangs());
+}
+
+TEST_F(Connection, onDemandIsMadeWhenAskedForAndOnlyForThoseWhoLive) {
+    BusOptions options = bus.options();
+    options.firstRetry.reset();
+    auto connection = std::make_unique<BusConnection>(options);
+    QObject alive;
+    std::string answers;
+    const auto ask = [&](QObject& context) {
+        connection->whenReady(&context, [&](const QDBusConnection& made) {
+            answers += made.isConnected() ? 'y' : 'n';
+        });
+    };
+    const auto answered = [&](std::size_t count) {
+        return waitFor([&] { return answers.size() >= count; });
+    };
+    {
+        QObject gone;
+        ask(gone);
+    }
+    ask(alive);
+    EXPECT_EQ(answers, "");
+    ASSERT_TRUE(answered(1));
+    bus.stop();
+    ASSERT_TRUE(waitFor([&] { return connection->state() == BusState::Unavailable; }));
+    ask(alive);
+    ASSERT_TRUE(answered(2));
+    bus.start();
+    ask(alive);
+    ASSERT_TRUE(answered(3));
+    connection->whenReady(&alive, [&](const QDBusConnection&) {
+        answers += '!';
+        connection.reset(); // from within its own call
+    });
+    ASSERT_TRUE(answered(4));
+    EXPECT_EQ(answers, "yny!");
+}
+
+TEST(BusProbe, onlySilenceCountsAsHanging) {
+    const PrivateBus healthy;
+    PrivateBus hung;
+    hung.freeze();
+    constexpr std::chrono::milliseconds limit{500};
+    for (const QByteArray& address :
+         {healthy.address().toUtf8(), healthy.address().toUtf8() + ";unix:path=/nowhere",
+          QByteArray("unix:path=/nonexistent/bus"), QByteArray("tcp:host=localhost"),
+          QByteArray("unix:path=" + QByteArray(300, 'x')), QByteArray()})
+        EXPECT_TRUE(busAnswers(address, limit)) << address.toStdString();
+    EXPECT_FALSE(busAnswers(hung.address().toUtf8(), limit));
+    EXPECT_FALSE(busAnswers(hung.address().toUtf8() + ",guid=00", limit));
 }
 
 } // namespace

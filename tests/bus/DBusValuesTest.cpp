@@ -21,7 +21,7 @@ protected:
         qDBusRegisterMetaType<IntegersByText>();
         qDBusRegisterMetaType<TextsByPath>();
         qDBusRegisterMetaType<TextsByInteger>();
-        EXPECT_TRUE(waitUntilConnected(pane));
+        EXPECT_TRUE(pane.waitUntilConnected());
     }
 
     Message received(const QVariantList& arguments) {
@@ -31,8 +31,8 @@ protected:
         return recorder.received.at(0);
     }
 
-    DBusMessageCenter pane{agentOptions()};
-    Recorder recorder{pane};
+    AgentCenter pane{bus};
+    Recorder recorder{pane.messages};
     QDBusConnection raw = peer();
 };
 
@@ -58,10 +58,10 @@ TEST_F(Values, arriveAsTheyWereSent) {
         Array{1, true, "x", Array{2.5, Dictionary{}}},
         Dictionary{},
         Dictionary{{"", 1}, {"a", Dictionary{{"b", Array{Data{std::byte{7}}}}}}}};
-    DBusMessageCenter agent(agentOptions());
-    ASSERT_TRUE(waitUntilConnected(agent));
+    AgentCenter agent(bus);
+    ASSERT_TRUE(agent.waitUntilConnected());
     for (const Value& value : values)
-        agent.post({message::savedPrefs, Dictionary{{"value", value}}});
+        agent.messages.post({message::savedPrefs, Dictionary{{"value", value}}});
     ASSERT_TRUE(recorder.waitForCount(values.size()));
     for (std::size_t index = 0; index < values.size(); ++index) {
         const Value* arrived = recorder.received[index].info().objectForKey("value");
@@ -138,13 +138,13 @@ Value nested(int levels, bool dictionaries, Value value) {
 }
 
 TEST_F(Values, nestedDeeperThanTheBusAllowsAreCutThereAndTheConnectionStands) {
-    DBusMessageCenter agent(agentOptions());
-    ASSERT_TRUE(waitUntilConnected(agent));
+    AgentCenter agent(bus);
+    ASSERT_TRUE(agent.waitUntilConnected());
     for (const bool dictionaries : {false, true})
         for (const int levels : {15, 20, 21, 30, 31, 200}) {
             recorder.received.clear();
             const Value deep = nested(levels, dictionaries, "core");
-            agent.post({message::savedPrefs, Dictionary{{"deep", deep}, {"flat", 1}}});
+            agent.messages.post({message::savedPrefs, Dictionary{{"deep", deep}, {"flat", 1}}});
             ASSERT_TRUE(recorder.waitForCount(1)) << levels;
             // 64 levels of the bus, of which the payload itself takes three; what is cut leaves its
             // parent empty.
@@ -156,16 +156,17 @@ TEST_F(Values, nestedDeeperThanTheBusAllowsAreCutThereAndTheConnectionStands) {
                       (Dictionary{{"deep", arrived}, {"flat", 1}}))
                 << levels;
         }
-    EXPECT_EQ(agent.connectionState(), ConnectionState::Connected);
+    EXPECT_EQ(agent.bus.state(), BusState::Connected);
 }
 
 TEST_F(Values, thatTheBusCannotCarryDoNotCutTheSenderOff) {
-    DBusMessageCenter agent(agentOptions());
-    ASSERT_TRUE(waitUntilConnected(agent));
-    agent.post({message::savedPrefs, Dictionary{{"huge", Data(std::size_t{1} << 26U)}}});
-    agent.post({message::savedPrefs,
-                Dictionary{{std::string("k\0y", 3), std::string("a\0b", 3)}, {"bad", "\xff\xfe"}}});
-    agent.post({message::savedPrefs, Dictionary{{"large", Data(std::size_t{20} << 20U)}}});
+    AgentCenter agent(bus);
+    ASSERT_TRUE(agent.waitUntilConnected());
+    agent.messages.post({message::savedPrefs, Dictionary{{"huge", Data(std::size_t{1} << 26U)}}});
+    agent.messages.post(
+        {message::savedPrefs,
+         Dictionary{{std::string("k\0y", 3), std::string("a\0b", 3)}, {"bad", "\xff\xfe"}}});
+    agent.messages.post({message::savedPrefs, Dictionary{{"large", Data(std::size_t{20} << 20U)}}});
     ASSERT_TRUE(recorder.waitForCount(2));
     EXPECT_EQ(recorder.received[0].info(),
               (Dictionary{{"k\uFFFDy", "a\uFFFDb"}, {"bad", "\uFFFD\uFFFD"}}));

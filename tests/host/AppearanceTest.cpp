@@ -1,12 +1,9 @@
 #include "host/Appearance.h"
 #include "Bundles.h"
+#include "FakeServices.h"
 #include "PrivateBus.h"
-#include "bus/BusConnection.h"
 
 #include <QApplication>
-#include <QDBusMessage>
-#include <QDBusVariant>
-#include <QDBusVirtualObject>
 #include <QSettings>
 #include <QStyle>
 #include <QTabWidget>
@@ -16,48 +13,6 @@
 
 namespace zarvil::host {
 namespace {
-
-constexpr const char* portalPath = "/org/freedesktop/portal/desktop";
-
-/// The settings portal with two settings; an old one knows `Read` alone.
-class FakePortal final : public QDBusVirtualObject {
-public:
-    explicit FakePortal(QDBusConnection bus, bool old = false) : bus_(std::move(bus)), old_(old) {
-        bus_.registerVirtualObject(portalPath, this);
-        EXPECT_TRUE(bus_.registerService("org.freedesktop.portal.Desktop"));
-    }
-    ~FakePortal() override { bus_.unregisterService("org.freedesktop.portal.Desktop"); }
-
-    QString introspect(const QString&) const override { return {}; }
-
-    bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
-        const bool nested = call.member() == QLatin1String("Read");
-        if (!nested && (old_ || call.member() != QLatin1String("ReadOne")))
-            return false;
-        QVariant reply =
-            QVariant::fromValue(QDBusVariant(values.value(call.arguments().at(1).toString(), 0U)));
-        if (nested)
-            reply = QVariant::fromValue(QDBusVariant(reply));
-        return connection.send(call.createReply(reply));
-    }
-
-    void change(const QString& key, uint value) {
-        values[key] = value;
-        announce("org.freedesktop.appearance", key, value);
-    }
-    void announce(const QString& group, const QString& key, uint value) {
-        auto signal = QDBusMessage::createSignal(portalPath, "org.freedesktop.portal.Settings",
-                                                 "SettingChanged");
-        signal << group << key << QVariant::fromValue(QDBusVariant(value));
-        bus_.send(signal);
-    }
-
-    QVariantMap values;
-
-private:
-    QDBusConnection bus_;
-    bool old_;
-};
 
 class AppearanceTest : public Bundles {
 protected:
@@ -75,9 +30,9 @@ TEST_F(AppearanceTest, followsThePortalAndRemembersItForTheNextStart) {
     for (const bool old : {false, true}) {
         settings.clear();
         PrivateBus bus;
-        FakePortal portal(bus.connect("portal"), old);
+        fake::Portal portal(bus.connect("portal"), old);
         portal.values = {{"color-scheme", 1U}, {"contrast", 1U}};
-        BusConnection session([&bus] { return bus.connect("session"); });
+        BusConnection session(bus.options());
         Appearance appearance(AppearanceChoice::Auto, settings);
         EXPECT_FALSE(isDark(QApplication::palette()));
         appearance.follow(session);
@@ -98,7 +53,7 @@ TEST_F(AppearanceTest, withoutAPortalTheDesktopsPaletteDecides) {
     settings.setValue("appearance/scheme", 1); // of a start with a portal, gone since
     QApplication::setPalette(paletteFor({false, false}));
     PrivateBus bus;
-    BusConnection session([&bus] { return bus.connect("session"); });
+    BusConnection session(bus.options());
     Appearance appearance(AppearanceChoice::Auto, settings);
     EXPECT_TRUE(appearance.look().dark);
     appearance.follow(session);
@@ -109,9 +64,9 @@ TEST_F(AppearanceTest, withoutAPortalTheDesktopsPaletteDecides) {
 
 TEST_F(AppearanceTest, aForcedSchemeStaysWhateverThePortalSays) {
     PrivateBus bus;
-    FakePortal portal(bus.connect("portal"));
+    fake::Portal portal(bus.connect("portal"));
     portal.values = {{"color-scheme", 2U}, {"contrast", 1U}};
-    BusConnection session([&bus] { return bus.connect("session"); });
+    BusConnection session(bus.options());
     Appearance appearance(AppearanceChoice::Dark, settings);
     EXPECT_TRUE(isDark(QApplication::palette()));
     appearance.follow(session);

@@ -12,7 +12,9 @@ namespace {
 class HostWindowTest : public Bundles {
 protected:
     void openWindow(const QString& root = {}) {
-        window = std::make_unique<HostWindow>(findBundles({path("panes")}), root, settings);
+        PaneOptions options;
+        options.root = root;
+        window = std::make_unique<HostWindow>(findBundles({path("panes")}), options, settings);
         closed = std::make_unique<QSignalSpy>(window.get(), &HostWindow::closed);
         failure = window->open();
     }

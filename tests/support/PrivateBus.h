@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "bus/BusConnection.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -16,8 +17,8 @@
 
 namespace zarvil {
 
-/// A message bus of the test's own, listening in a temporary folder. Ends with its owner, even
-/// when that crashes.
+/// A message bus of the test's own, listening in a temporary folder: in health, hung (`freeze`) or
+/// absent (`stop`). Ends with its owner, even when that crashes.
 class PrivateBus {
 public:
     explicit PrivateBus(
@@ -34,6 +35,13 @@ public:
     }
 
     [[nodiscard]] QString address() const { return "unix:path=" + socket(); }
+    /// For a connection that comes back at once.
+    [[nodiscard]] BusOptions options() const {
+        BusOptions options;
+        options.address = address().toUtf8();
+        options.firstRetry = std::chrono::milliseconds(5);
+        return options;
+    }
 
     /// A connection of its own, as another process would have.
     QDBusConnection connect(const QString& name) {
@@ -56,7 +64,7 @@ public:
         QFile::remove(socket());
     }
 
-    /// Keeps the bus from reading and answering anything until `resume`.
+    /// Keeps the bus from reading and answering anything until `resume`; it takes connections.
     void freeze() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP); }
     void resume() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT); }
 

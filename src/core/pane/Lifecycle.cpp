@@ -13,7 +13,7 @@ constexpr double pingPeriod = 3.0; // seconds
 } // namespace
 
 Zarvil_Preferences::Zarvil_Preferences(Platform& platform)
-    : Outlets(platform), platform_(platform) {
+    : Outlets(platform), guidance(*this, platform.strings), platform_(platform) {
     connectedDevices.setDelegate(this);
     selectedDevices.setDelegate(this);
     visitOutlets(*this, [this](std::string_view /*name*/, View& outlet) {
@@ -24,7 +24,10 @@ Zarvil_Preferences::Zarvil_Preferences(Platform& platform)
     });
 }
 
-Zarvil_Preferences::~Zarvil_Preferences() = default;
+Zarvil_Preferences::~Zarvil_Preferences() {
+    // A script that runs ends with the pane, and what it held back must not follow.
+    platform_.handlers.discard();
+}
 
 void Zarvil_Preferences::mainViewDidLoad() {
     devices.clear();
@@ -37,8 +40,8 @@ void Zarvil_Preferences::mainViewDidLoad() {
         dimmed->setAlphaValue(alpha::dimmed);
     registerForAgentMessages();
     post(message::prefsLoaded);
-    appTimer =
-        platform_.timers.schedule(pingPeriod, Repetition::Repeating, [this] { appStatus(); });
+    appTimer = platform_.handlers.schedule(platform_.timers, pingPeriod, Repetition::Repeating,
+                                           [this] { appStatus(); });
     if (auto* cell = toggleMinSec.cellAs<KXButtonCell>()) {
         cell->setOnTitle("Min");
         cell->setOffTitle("Sec");
@@ -50,23 +53,38 @@ void Zarvil_Preferences::mainViewDidLoad() {
 }
 
 void Zarvil_Preferences::setUpAuthorization() {
-    authView.onClick = [this] { checkAuthorization(Interaction::MayAskUser); };
+    authView.onClick = [this] {
+        guidance.lockWasClicked();
+        clickLock();
+    };
     authView.onUpdateStatus = [this] { checkAuthorization(Interaction::None); };
     authView.setAuthorizationRights({{std::string(product::adminRight)}});
     authView.setDelegate(this);
     authView.updateStatus();
 }
 
+void Zarvil_Preferences::clickLock() {
+    if (!isUnlocked()) {
+        checkAuthorization(Interaction::MayAskUser);
+        return;
+    }
+    platform_.authorization.release(product::adminRight);
+    authView.show(authorizationState::locked, {});
+}
+
 void Zarvil_Preferences::checkAuthorization(Interaction interaction) {
     if (authView.authorizationState() == authorizationState::inProgress)
         return;
     authView.show(authorizationState::inProgress, {});
-    platform_.authorization.check(product::adminRight, interaction,
-                                  [this](const AuthorizationOutcome& outcome) {
-                                      authView.show(outcome.granted ? authorizationState::unlocked
-                                                                    : authorizationState::locked,
-                                                    outcome.reason);
-                                  });
+    platform_.authorization.check(
+        product::adminRight, interaction,
+        [this, alive = std::weak_ptr<char>(lifetime_)](const AuthorizationOutcome& outcome) {
+            // The user may take minutes to answer, and the pane may be gone by then.
+            if (!alive.expired())
+                authView.show(outcome.granted ? authorizationState::unlocked
+                                              : authorizationState::locked,
+                              outcome.reason);
+        });
 }
 
 bool Zarvil_Preferences::isUnlocked() const {
@@ -75,8 +93,9 @@ bool Zarvil_Preferences::isUnlocked() const {
 
 void Zarvil_Preferences::willSelect() {
     for (TextField* field : {&scriptsTitle, &pushUserName})
-        textChanges_.addTextObserver(this, *field,
-                                     [this](TextField& edited) { scriptsTitleChanged(edited); });
+        textChanges_.addTextObserver(this, *field, [this](TextField& edited) {
+            platform_.handlers.run([this, &edited] { scriptsTitleChanged(edited); });
+        });
 }
 
 UnselectReply Zarvil_Preferences::shouldUnselect() {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "devices/DeviceList.h"
 #include "interface/AuthorizationView.h"
 #include "interface/Button.h"
 #include "interface/CollectionView.h"
 #include "interface/Panel.h"
 #include "interface/ProgressIndicator.h"
 #include "interface/TextField.h"
+#include "pane/ListPlaceholders.h"
 #include "pane/Platform.h"
+#include "scripts/ScriptProgress.h"
+#include "scripts/ScriptRecord.h"
 
 namespace zarvil {
 
@@ -27,8 +31,8 @@ public:
     TextField notLaunchedDesc;
 
     // Devices.
-    ArrayController arrayController;
-    ArrayController savedArrayController;
+    ArrayController arrayController{deviceHash};
+    ArrayController savedArrayController{deviceHash};
     CollectionView connectedDevices;
     CollectionView selectedDevices;
 
@@ -61,10 +65,11 @@ public:
     TextField pushValidationStatus;
 
     // Scripts.
-    ArrayController scriptsArrayController;
+    ArrayController scriptsArrayController{scriptHash};
     Button useScriptsButton{ButtonKind::Toggle};
     TextField scriptsTitle;
     Button createNewScript;
+    ScriptProgress scriptProgress;
     CollectionView scriptsCollection;
 
     // Maintenance.
@@ -74,6 +79,8 @@ public:
     Button uninstallButton;
     Panel uninstallModal;
     Button link;
+
+    ListPlaceholders placeholders;
 
 private:
     void showAgentAsAbsent();
@@ -95,6 +102,9 @@ void visitOutlets(Outlets& outlets, Visitor&& visitor) {
 
     visitor("connectedDevices", outlets.connectedDevices);
     visitor("selectedDevices", outlets.selectedDevices);
+    visitor("noneConnected", outlets.placeholders.noneConnected);
+    visitor("noneWatched", outlets.placeholders.noneWatched);
+    visitor("devicesUnknown", outlets.placeholders.devicesUnknown);
 
     visitor("launchAtLogin", outlets.launchAtLogin);
     visitor("showIcon", outlets.showIcon);
@@ -126,6 +136,7 @@ void visitOutlets(Outlets& outlets, Visitor&& visitor) {
     visitor("scriptsTitle", outlets.scriptsTitle);
     visitor("createNewScript", outlets.createNewScript);
     visitor("scriptsCollection", outlets.scriptsCollection);
+    visitor("noScripts", outlets.placeholders.noScripts);
 
     visitor("checkForUpdates", outlets.checkForUpdates);
     visitor("checkForUpdatesNow", outlets.checkForUpdatesNow);

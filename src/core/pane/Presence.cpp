@@ -18,12 +18,13 @@ std::string Zarvil_Preferences::agentApplicationPath() const {
 
 void Zarvil_Preferences::appStatus() {
     appOfflineTimer.reset();
-    appOfflineTimer =
-        platform_.timers.schedule(answerTimeout, Repetition::Once, [this] { appDidNotAnswer(); });
+    appOfflineTimer = platform_.handlers.schedule(platform_.timers, answerTimeout, Repetition::Once,
+                                                  [this] { appDidNotAnswer(); });
     post(message::ping);
 }
 
 void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
+    guidance.agentDidAnswer();
     if (lostConnection) {
         lostConnection = false;
         emptyDeviceLists();
@@ -45,6 +46,7 @@ void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
 }
 
 void Zarvil_Preferences::appDidNotAnswer() {
+    guidance.agentDidNotAnswer();
     lostConnection = true;
     launchButton.setEnabled(true);
     appOfflineTimer.reset();
@@ -80,7 +82,7 @@ void Zarvil_Preferences::emptyDeviceLists() {
 
 void Zarvil_Preferences::launchApp(Control* /*sender*/) {
     launchButton.setEnabled(false);
-    platform_.workspace.launchApplication(agentApplicationPath());
+    guidance.launchDidBegin(platform_.workspace.launchApplication(agentApplicationPath()));
 }
 
 void Zarvil_Preferences::quitApp(Control* sender) {
@@ -107,7 +109,7 @@ void Zarvil_Preferences::toggleOnOff(Control* sender) {
 void Zarvil_Preferences::stateChanged(const Message* message) {
     appDidAnswer(nullptr);
     // Flipping also echoes the agent's own state back to it, on purpose.
-    if (message->info().boolForKey(payload::state) != state)
+    if (infoOf(message).boolForKey(payload::state) != state)
         toggleOnOff(nullptr);
 }
 
@@ -116,11 +118,30 @@ void Zarvil_Preferences::quitePrefs(const Message* /*message*/) {
     platform_.processes.exit(0);
 }
 
+void Zarvil_Preferences::linkChanged(LinkEvent event) {
+    switch (event) {
+    case LinkEvent::Up:
+        guidance.busDidChange(true);
+        break;
+    case LinkEvent::Down:
+        // No need to wait for an answer: what the user changed meanwhile would be lost.
+        guidance.busDidChange(false);
+        appDidNotAnswer();
+        break;
+    case LinkEvent::NewPeer:
+        // What is on screen is the former agent's. The new one's first answer asks for its own.
+        lostConnection = true;
+        appStatus();
+        break;
+    }
+}
+
 bool Zarvil_Preferences::killHost() {
+    const std::string identifier = platform_.workspace.mainBundleIdentifier();
     const auto running = platform_.workspace.runningApplications();
-    const auto host = std::ranges::find(running, platform_.workspace.mainBundleIdentifier(),
-                                        &RunningApplication::bundleIdentifier);
-    if (host == running.end())
+    const auto host = std::ranges::find(running, identifier, &RunningApplication::bundleIdentifier);
+    // Without an identifier of its own the host cannot be told from others without one.
+    if (identifier.empty() || host == running.end())
         return false;
     platform_.processes.kill(host->processIdentifier);
     return true;

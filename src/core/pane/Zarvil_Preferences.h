@@ -3,6 +3,7 @@
 #include "devices/DeviceList.h"
 #include "devices/ZVCollectionItem.h"
 #include "interface/NotificationCenter.h"
+#include "pane/Guidance.h"
 #include "pane/Outlets.h"
 #include "pane/Platform.h"
 #include "scripts/ZVScriptCollectionItem.h"
@@ -20,8 +21,8 @@ enum class UnselectReply : int { Cancel = 0, Now = 1, Later = 2 };
 /// at once. It keeps no settings; whatever it shows came from the agent or from the user.
 ///
 /// Everything runs on the main thread: the host's callbacks, the actions, the timers and the
-/// agent's messages. Methods bear the first keyword of their wire names, misspellings included;
-/// `performAction` reaches the actions by the whole name.
+/// agent's messages, of which none begins while another one runs. Methods bear the first keyword of
+/// their wire names, misspellings included; `performAction` reaches the actions by the whole name.
 class Zarvil_Preferences final : public Outlets,
                                  public ActionTarget,
                                  public CollectionViewDelegate,
@@ -99,6 +100,7 @@ public:
     void unloadScripts();
     void create(Control* sender);
     void removeScript(const Record& record) override;
+    [[nodiscard]] bool admitsRemoval() override;
     void useScripts(Control* sender);
     void scriptsTitleChanged(TextField& field);
     void updateNewScriptsTitle(Control* sender);
@@ -120,6 +122,9 @@ public:
     void fbLike(Control* sender);
     void tweet(Control* sender);
     void feedback(Control* sender);
+
+    /// What is said of all this beside the outlets.
+    Guidance guidance;
 
     // State shared by the concerns.
     std::string appId;
@@ -150,7 +155,10 @@ private:
     static const std::vector<NamedHandler>& handlers();
 
     void registerForAgentMessages();
+    void handle(MessageHandler method, const Message& message);
+    void linkChanged(LinkEvent event);
     void setUpAuthorization();
+    void clickLock();
     void checkAuthorization(Interaction interaction);
     void closeTip();
     [[nodiscard]] std::string agentApplicationPath() const;
@@ -174,6 +182,7 @@ private:
 
     void addDevice(const Record& record);
     void removeDevice(const Dictionary& device);
+    void moveDevice(const Record& record, bool watch);
     void addSavedDevice(const Record& record);
     /// Whether an unsaved device goes back to the list of connected devices.
     [[nodiscard]] bool staysConnected(const Dictionary& device) const;
@@ -194,8 +203,6 @@ private:
 
     Platform& platform_;
     DeviceList allConnectedDevices_;
-    DeviceList unwatchedDevices_{arrayController};
-    DeviceList watchedDevices_{savedArrayController};
     NotificationCenter textChanges_;
     Panel* ttip = nullptr;
     std::unique_ptr<Timer> appTimer;
@@ -203,7 +210,10 @@ private:
     std::optional<std::string> newScriptTitleVal_;
     /// Of scripts that are not listed at the moment.
     std::vector<ScriptDraft> scriptDrafts_;
+    std::optional<double> lastRemoval_; ///< by a press, as the clock tells
     std::vector<Subscription> agentMessages_;
+    Subscription link_;
+    std::shared_ptr<char> lifetime_ = std::make_shared<char>();
 };
 
 } // namespace zarvil

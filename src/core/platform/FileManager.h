@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Error.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstdint>
 #include <optional>
@@ -20,11 +21,8 @@ struct Replacement {
 };
 
 /// The file system. Paths are absolute, UTF-8, with "/" between components.
-class FileManager {
+class FileManager : NonCopyable {
 public:
-    FileManager() = default;
-    FileManager(const FileManager&) = delete;
-    FileManager& operator=(const FileManager&) = delete;
     virtual ~FileManager() = default;
 
     /// Replaces a leading "~" by the user's home folder.

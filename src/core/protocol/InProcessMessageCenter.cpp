@@ -8,6 +8,11 @@ Subscription InProcessMessageCenter::addObserver(std::string_view name, Handler 
     return observers_.try_emplace(std::string(name)).first->second.add(std::move(handler));
 }
 
+Subscription InProcessMessageCenter::observeLink(LinkObserver observer) {
+    observer(LinkEvent::Up);
+    return links_.add(std::move(observer));
+}
+
 void InProcessMessageCenter::deliver() {
     if (delivering_)
         return;

@@ -15,12 +15,17 @@ public:
     void post(Message message) override;
     Subscription addObserver(std::string_view name, Handler handler) override;
 
+    Subscription observeLink(LinkObserver observer) override;
+    /// Plays the fate of a bus.
+    void announce(LinkEvent event) { links_.notify(event); }
+
     /// Delivers what waits and what the handlers post meanwhile, in order. Within a handler it
     /// does nothing: the delivery under way goes on to the new messages by itself.
     void deliver();
 
 private:
     std::map<std::string, ObserverList<const Message&>, std::less<>> observers_;
+    ObserverList<LinkEvent> links_;
     std::deque<Message> pending_;
     bool delivering_ = false;
 };

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "protocol/Subscription.h"
 #include "protocol/Value.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -28,20 +30,39 @@ struct Message {
     friend bool operator==(const Message&, const Message&) = default;
 };
 
+/// The payload of a handler's message, empty when there is no message either.
+[[nodiscard]] inline const Dictionary& infoOf(const Message* message) {
+    static const Message none{""};
+    return (message ? *message : none).info();
+}
+/// What becomes of the way to the other side.
+enum class LinkEvent : std::uint8_t {
+    Up,
+    /// Nothing carries messages at present; the center goes on trying by itself.
+    Down,
+    /// Another process speaks for the other side from now on and knows nothing of what was said.
+    NewPeer,
+};
+
 /// Posts and observes named messages system-wide. Posting is fire-and-forget: without a receiver
 /// a message is lost without error. Handlers run on the main thread, never inside `post`, in the
 /// order in which the messages were sent. Used on the main thread only.
-class MessageCenter {
+class MessageCenter : NonCopyable {
 public:
     using Handler = std::function<void(const Message&)>;
+    using LinkObserver = std::function<void(LinkEvent)>;
 
-    MessageCenter() = default;
-    MessageCenter(const MessageCenter&) = delete;
-    MessageCenter& operator=(const MessageCenter&) = delete;
     virtual ~MessageCenter() = default;
 
     virtual void post(Message message) = 0;
     virtual Subscription addObserver(std::string_view name, Handler handler) = 0;
+
+    /// Calls the observer at once with `Up` or `Down`, then with every event, in order with the
+    /// messages. A center that nothing can cut off is always up.
+    virtual Subscription observeLink(LinkObserver observer) {
+        observer(LinkEvent::Up);
+        return {};
+    }
 };
 
 } // namespace zarvil

@@ -1,8 +1,7 @@
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/Settings.h"
 #include "scripts/ScriptFile.h"
-
-#include <algorithm>
+#include "scripts/ScriptRecord.h"
 
 namespace zarvil {
 
@@ -18,15 +17,12 @@ Record makeScript(std::string_view title, std::string_view text) {
 } // namespace
 
 bool Zarvil_Preferences::scriptExists(std::string_view title) const {
-    return std::ranges::any_of(scriptsArrayController.arrangedObjects(), [&](const Record& record) {
-        const std::string* listed = record->contents().stringForKey(script::title);
-        return listed && *listed == title;
-    });
+    return scriptOfTitle(scriptsArrayController, title) != nullptr;
 }
 
 void Zarvil_Preferences::handToItem(const Record& record) {
     // By contents: of equal scripts only the first one's item is given a record, on purpose.
-    const auto index = scriptsArrayController.indexOfObject(record->contents());
+    const auto index = scriptsArrayController.indexOfObject(record);
     if (!index)
         return;
     if (const auto item = scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index)) {
@@ -121,6 +117,16 @@ void Zarvil_Preferences::removeScript(const Record& record) {
         scriptsArrayController.removeObject(record);
     scriptsArrayController.rearrangeObjects();
     showTitleFault();
+}
+
+bool Zarvil_Preferences::admitsRemoval() {
+    constexpr double longestDoubleClick = 0.5; // seconds
+    const double now = platform_.clock.timeIntervalSinceReferenceDate();
+    // A clock that was set back does not hold the buttons up.
+    if (lastRemoval_ && now >= *lastRemoval_ && now - *lastRemoval_ < longestDoubleClick)
+        return false;
+    lastRemoval_ = now;
+    return true;
 }
 
 void Zarvil_Preferences::useScripts(Control* sender) {

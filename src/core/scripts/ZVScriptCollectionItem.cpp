@@ -38,8 +38,24 @@ const std::string* ZVScriptCollectionItem::stringOfRecord(std::string_view key) 
     return data_ ? data_->contents().stringForKey(key) : nullptr;
 }
 
+void ZVScriptCollectionItem::runAsHandler(void (ZVScriptCollectionItem::*operation)()) {
+    platform_.handlers.run(
+        [this, self = weak_from_this().lock(), operation] { (this->*operation)(); });
+}
+
 void ZVScriptCollectionItem::edit(Control* /*sender*/) {
-    const auto self = weak_from_this().lock();
+    runAsHandler(&ZVScriptCollectionItem::toggleEditing);
+}
+
+void ZVScriptCollectionItem::execute(Control* /*sender*/) {
+    runAsHandler(&ZVScriptCollectionItem::executeNow);
+}
+
+void ZVScriptCollectionItem::remove(Control* /*sender*/) {
+    runAsHandler(&ZVScriptCollectionItem::removeNow);
+}
+
+void ZVScriptCollectionItem::toggleEditing() {
     setEditing(!editing());
     if (editing())
         beginEditing();
@@ -91,7 +107,7 @@ void ZVScriptCollectionItem::noteFailure(const std::optional<Error>& failure, Di
         saved_.reset();
     else if (!saved_)
         saved_ = std::move(before);
-    failure_ = failure;
+    saveFailure_ = failure;
     note_.set(failure
                   ? ScriptNote{platform_.strings.localizedString(notSaved), failure->description}
                   : ScriptNote{});
@@ -109,7 +125,7 @@ std::optional<ScriptDraft> ZVScriptCollectionItem::draft() const {
         return field ? field->stringValue() : stored ? *stored : std::string();
     };
     return ScriptDraft{saved_.value_or(data_->contents()), typed(eTitle_, script::title),
-                       typed(eText_, script::text), failure_};
+                       typed(eText_, script::text), saveFailure_};
 }
 
 void ZVScriptCollectionItem::resume(const ScriptDraft& draft) {
@@ -144,27 +160,30 @@ void ZVScriptCollectionItem::storeEdited(std::string_view key, const ScriptEditF
         data_->setObject(key, fallback);
 }
 
-void ZVScriptCollectionItem::execute(Control* /*sender*/) {
-    const auto self = weak_from_this().lock();
+void ZVScriptCollectionItem::executeNow() {
     if (editing())
-        edit();
+        toggleEditing();
     const std::string* stored = stringOfRecord(script::text);
     if (isEmpty(stored)) {
         platform_.errors.presentError(
             cocoaError(emptyScriptCode, platform_.strings.localizedString(emptyScript)));
         return;
     }
-    const std::string source = *stored;
-    if (auto failure = platform_.scripts.run(source))
-        platform_.errors.presentError(cocoaError(failure->number, std::move(failure->message)));
+    const std::string* title = stringOfRecord(script::title);
+    progress_.run(isEmpty(title) ? untitled : *title, *stored);
 }
 
-void ZVScriptCollectionItem::remove(Control* /*sender*/) {
-    const auto self = weak_from_this().lock();
+void ZVScriptCollectionItem::removeNow() {
     removeFile();
     const Record record = data_;
     if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))
         owner->removeScript(record);
+}
+
+void ZVScriptCollectionItem::userDidPressRemove() {
+    auto* owner = dynamic_cast<ScriptOwner*>(owner_);
+    if (!owner || owner->admitsRemoval())
+        remove();
 }
 
 void ZVScriptCollectionItem::removeFile() {

@@ -3,7 +3,9 @@
 #include "interface/CollectionView.h"
 #include "interface/TextField.h"
 #include "pane/Platform.h"
+#include "protocol/NonCopyable.h"
 #include "scripts/ScriptFile.h"
+#include "scripts/ScriptProgress.h"
 
 #include <memory>
 #include <string>
@@ -13,20 +15,25 @@ namespace zarvil {
 
 /// Capability of an item's owner: it drops a record whose file is gone. The item may be released
 /// during the call.
-class ScriptOwner {
+class ScriptOwner : NonCopyable {
 public:
-    ScriptOwner() = default;
-    ScriptOwner(const ScriptOwner&) = delete;
-    ScriptOwner& operator=(const ScriptOwner&) = delete;
     virtual ~ScriptOwner() = default;
 
     virtual void removeScript(const Record& record) = 0;
+    /// Whether a press on a remove button counts: the next card moves under the pointer, and a
+    /// double click must not remove that one too.
+    [[nodiscard]] virtual bool admitsRemoval() = 0;
 };
 
 /// A text field in the system font, for editing within a script's card.
 class ScriptEditField final : public TextField {
 public:
+    /// Larger texts would stop the window; they are not laid out for editing and stay as they are.
+    static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
+
     ScriptEditField(Rect frame, double fontSize) : fontSize_(fontSize) { setFrame(frame); }
+
+    [[nodiscard]] bool isTooLarge() const { return stringValue().size() > largestEditableText; }
 
     /// In points of the card.
     [[nodiscard]] double fontSize() const { return fontSize_; }
@@ -69,24 +76,37 @@ struct ScriptNote {
     bool operator==(const ScriptNote&) const = default;
 };
 
+/// A button of a card as it is shown; the accessible name tells it from those of other cards.
+struct ButtonCaption {
+    std::string title;
+    std::string toolTip;
+    std::string accessibleName;
+};
+
 /// Shows one script and lets the user edit, run and delete it. It edits the record that it shares
-/// with the list. An alert that an operation shows may let the list change meanwhile; an item that
-/// a shared pointer holds outlives its own operations.
+/// with the list. Its actions are handlers; an item that a shared pointer holds outlives them.
 class ZVScriptCollectionItem final : public CollectionViewItem,
                                      public std::enable_shared_from_this<ZVScriptCollectionItem> {
 public:
-    /// The ports must outlive the item.
-    explicit ZVScriptCollectionItem(Platform& platform) : platform_(platform) {}
+    /// The ports and the progress must outlive the item.
+    ZVScriptCollectionItem(Platform& platform, ScriptProgress& progress)
+        : platform_(platform), progress_(progress) {}
 
     // Actions.
     /// Begins editing, or ends it and saves: the file of the former title gives way to that of the
     /// new one. When this fails, the former file stays, nothing is shown but the note, and the next
     /// save tries again.
     void edit(Control* sender = nullptr);
-    /// Runs the script once and waits for its end; saves first while editing.
+    /// Runs the script once; saves first while editing. The pane is blocked until it has ended.
     void execute(Control* sender = nullptr);
     /// Deletes the file and has the owner drop the record.
     void remove(Control* sender = nullptr);
+
+    // Presses of the card's buttons.
+    void userDidPressEdit() { edit(); }
+    void userDidPressRun() { execute(); }
+    /// Not the second press of a double click.
+    void userDidPressRemove();
 
     /// Takes the edit fields over into the record. An emptied field keeps the record's old value.
     void validateData();
@@ -106,6 +126,29 @@ public:
     /// The flag alone; `edit` brings the fields.
     void setEditing(bool editing) { editing_ = editing; }
 
+    /// The script runs at the moment; its card says so and cannot run it again.
+    [[nodiscard]] const Property<bool>& runningProperty() const { return running_; }
+    void setRunning(bool running) { running_.set(running); }
+    /// Why the last run failed, as the card says it until the next run or edit; empty otherwise.
+    [[nodiscard]] const Property<std::string>& failureProperty() const { return failure_; }
+    void setFailure(std::string line) { failure_.set(std::move(line)); }
+
+    // Texts of the card, fit for display.
+    [[nodiscard]] std::string shownTitle() const;
+    /// The first lines of the text; none for an empty one, which `emptyText` stands for.
+    [[nodiscard]] std::vector<std::string> shownLines() const;
+    [[nodiscard]] std::string emptyText() const;
+    [[nodiscard]] std::string cardName() const;
+    [[nodiscard]] ButtonCaption runCaption() const;
+    [[nodiscard]] ButtonCaption editCaption() const;
+    [[nodiscard]] ButtonCaption removeCaption() const;
+    /// What editing means, beside the buttons.
+    [[nodiscard]] std::string editingHint() const;
+    [[nodiscard]] std::string titleFieldName() const;
+    [[nodiscard]] std::string textFieldName() const;
+    /// Stands in place of a text that is too large to be edited.
+    [[nodiscard]] std::string tooLargeText() const;
+
     /// Null for an item that no record was handed to.
     [[nodiscard]] const Record& data() const { return data_; }
     void setData(Record data) { data_ = std::move(data); }
@@ -123,6 +166,10 @@ public:
 
 private:
     [[nodiscard]] const std::string* stringOfRecord(std::string_view key) const;
+    void runAsHandler(void (ZVScriptCollectionItem::*operation)());
+    void toggleEditing();
+    void executeNow();
+    void removeNow();
     void beginEditing();
     void save();
     /// The file's title; null for a script without a file.
@@ -131,16 +178,23 @@ private:
     /// `before` is the record as the file had it.
     void noteFailure(const std::optional<Error>& failure, Dictionary before);
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
+    [[nodiscard]] std::string localized(std::string_view key) const;
+    [[nodiscard]] std::string aboutThis(std::string_view key) const;
+    /// Of the record of this row, which an item without `data` shows as well.
+    [[nodiscard]] std::string_view stringOfRow(std::string_view key) const;
 
     Platform& platform_;
+    ScriptProgress& progress_;
     ScriptItemView view_;
     ScriptEditField* eTitle_ = nullptr;
     ScriptEditField* eText_ = nullptr;
     bool editing_ = false;
+    Property<bool> running_{false};
+    Property<std::string> failure_;
     Record data_;
     /// While the last save has failed: the record as its file still has it, and why.
     std::optional<Dictionary> saved_;
-    std::optional<Error> failure_;
+    std::optional<Error> saveFailure_;
     Property<ScriptNote> note_;
     CollectionViewDelegate* owner_ = nullptr;
     TextField* text_ = nullptr;

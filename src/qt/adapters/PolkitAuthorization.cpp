@@ -7,8 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QFile>
+#include <QDBusReply>
 #include <QMap>
 #include <QtDebug>
 
@@ -70,7 +69,7 @@ constexpr uint allowUserInteraction = 1;
 constexpr int quietLimit = 10'000;        // milliseconds
 constexpr int interactiveLimit = 600'000; // the user looks for a password meanwhile
 
-using Answer = QDBusPendingReply<PolkitResult>;
+constexpr const char* authority = "org.freedesktop.PolicyKit1";
 
 QString translated(const char* text) {
     return QCoreApplication::translate("PolkitAuthorization", text);
@@ -84,92 +83,124 @@ AuthorizationOutcome unavailable() {
                                      "service (polkit) is not available."));
 }
 
-/// When this process started, in the kernel's ticks: with the process identifier it names the
-/// process beyond doubt. The field is the 22nd, and the second may hold any character.
-quint64 startTime() {
-    QFile stat("/proc/self/stat");
-    if (!stat.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray line = stat.readAll();
-    const QByteArrayList fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    constexpr qsizetype startTimeField = 22 - 3;
-    return fields.value(startTimeField).toULongLong();
+AuthorizationOutcome cancelled() {
+    return refusal(QT_TRANSLATE_NOOP("PolkitAuthorization", "The authentication was cancelled."));
 }
 
-PolkitSubject thisProcess() {
-    return {"unix-process",
-            {{"pid", static_cast<uint>(QCoreApplication::applicationPid())},
-             {"start-time", startTime()}}};
+QDBusMessage authorityCall(const char* method) {
+    return QDBusMessage::createMethodCall(authority, "/org/freedesktop/PolicyKit1/Authority",
+                                          "org.freedesktop.PolicyKit1.Authority", method);
 }
 
-QDBusMessage question(const QString& action, Interaction interaction) {
-    auto call = QDBusMessage::createMethodCall(
-        "org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority",
-        "org.freedesktop.PolicyKit1.Authority", "CheckAuthorization");
-    call << QVariant::fromValue(thisProcess()) << action
-         << QVariant::fromValue(QMap<QString, QString>())
-         << (interaction == Interaction::MayAskUser ? allowUserInteraction : 0U) << QString();
-    return call;
+AuthorizationOutcome outcomeOfError(const QDBusMessage& error) {
+    qWarning().noquote() << "polkit:" << error.errorName() << error.errorMessage();
+    const QString prefix = QLatin1String(authority) + ".Error.";
+    if (error.errorName() == prefix + "Cancelled")
+        return cancelled();
+    // polkit has no error of its own for an action that it does not know.
+    if (error.errorName() == prefix + "Failed" && error.errorMessage().contains("not registered"))
+        return refusal(QT_TRANSLATE_NOOP("PolkitAuthorization",
+                                         "Administrator rights cannot be checked: Zarvil's policy "
+                                         "for the authorization service (polkit) is not "
+                                         "installed."));
+    if (error.errorName().startsWith(prefix))
+        return refusal(QT_TRANSLATE_NOOP("PolkitAuthorization",
+                                         "Administrator rights cannot be checked: the "
+                                         "authorization service (polkit) has failed."));
+    return unavailable();
 }
 
-AuthorizationOutcome outcomeOf(const Answer& answer, Interaction interaction) {
-    if (answer.isError()) {
-        const QString error = answer.error().name();
-        qWarning().noquote() << "polkit:" << error << answer.error().message();
-        if (error == QLatin1String("org.freedesktop.PolicyKit1.Error.Cancelled"))
-            return refusal(
-                QT_TRANSLATE_NOOP("PolkitAuthorization", "The authentication was cancelled."));
-        return unavailable();
-    }
-    const PolkitResult result = answer.value();
+/// `asked` when the user was asked for a password, which polkit answers with a plain no if it was
+/// wrong.
+AuthorizationOutcome outcomeOf(const PolkitResult& result, bool asked) {
     if (result.authorized)
         return {true, {}};
     if (result.details.contains("polkit.dismissed"))
-        return refusal(
-            QT_TRANSLATE_NOOP("PolkitAuthorization", "The authentication was cancelled."));
-    if (result.challenge && interaction == Interaction::MayAskUser)
+        return cancelled();
+    if (result.challenge && asked)
         return refusal(QT_TRANSLATE_NOOP(
             "PolkitAuthorization",
             "No authentication agent is running that could ask for an administrator's password."));
     if (result.challenge)
         return refusal(
             QT_TRANSLATE_NOOP("PolkitAuthorization", "An administrator's password is needed."));
+    if (asked)
+        return refusal(QT_TRANSLATE_NOOP("PolkitAuthorization", "The authentication has failed."));
     return refusal(
         QT_TRANSLATE_NOOP("PolkitAuthorization", "You do not have administrator rights."));
 }
 
 } // namespace
 
-PolkitAuthorization::PolkitAuthorization(BusConnection::Connect connect)
-    : system_(std::move(connect)) {
+struct PolkitAuthorization::Question {
+    QString action;
+    bool mayAsk;
+    Reply reply;
+    bool asks = false; ///< this time; every question is first put quietly
+
+    [[nodiscard]] QDBusMessage message(const QString& sender) const {
+        auto call = authorityCall("CheckAuthorization");
+        call << QVariant::fromValue(PolkitSubject{"system-bus-name", {{"name", sender}}}) << action
+             << QVariant::fromValue(QMap<QString, QString>()) << (asks ? allowUserInteraction : 0U)
+             << QString();
+        return call;
+    }
+};
+
+PolkitAuthorization::PolkitAuthorization(BusOptions system) : system_(std::move(system)) {
     qDBusRegisterMetaType<QMap<QString, QString>>();
     qDBusRegisterMetaType<PolkitSubject>();
     qDBusRegisterMetaType<PolkitResult>();
 }
 
 QString PolkitAuthorization::actionOf(std::string_view right) {
-    return QString::fromStdString(std::string(product::agentIdentifier) + "." + std::string(right));
+    return QString::fromUtf8(product::agentIdentifier) + "." + QString::fromUtf8(right);
 }
 
 void PolkitAuthorization::check(std::string_view right, Interaction interaction, Reply reply) {
-    system_.whenReady(this, [this, action = actionOf(right), interaction,
-                             reply = std::move(reply)](const QDBusConnection& bus) {
-        if (bus.isConnected())
-            ask(bus, action, interaction, reply);
-        else
-            reply(unavailable());
+    ask({actionOf(right), interaction == Interaction::MayAskUser, std::move(reply)});
+}
+
+void PolkitAuthorization::ask(const Question& question) {
+    system_.whenReady(this, [this, question](const QDBusConnection& bus) {
+        if (!bus.isConnected()) {
+            question.reply(unavailable());
+            return;
+        }
+        auto* watcher = new QDBusPendingCallWatcher(
+            bus.asyncCall(question.message(bus.baseService()),
+                          question.asks ? interactiveLimit : quietLimit),
+            this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, question] {
+            watcher->deleteLater();
+            answered(question, watcher->reply());
+        });
     });
 }
 
-void PolkitAuthorization::ask(const QDBusConnection& bus, const QString& action,
-                              Interaction interaction, const Reply& reply) {
-    const int limit = interaction == Interaction::MayAskUser ? interactiveLimit : quietLimit;
-    auto* watcher =
-        new QDBusPendingCallWatcher(bus.asyncCall(question(action, interaction), limit), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, interaction, reply] {
-        watcher->deleteLater();
-        reply(outcomeOf(Answer(*watcher), interaction));
-    });
+void PolkitAuthorization::answered(const Question& question, const QDBusMessage& answer) {
+    const QDBusReply<PolkitResult> result(answer);
+    if (!result.isValid()) {
+        question.reply(outcomeOfError(answer));
+        return;
+    }
+    temporaryRight_ = result.value().details.value("polkit.temporary_authorization_id");
+    if (result.value().challenge && question.mayAsk && !question.asks) {
+        Question aloud = question;
+        aloud.asks = true;
+        ask(aloud);
+        return;
+    }
+    question.reply(outcomeOf(result.value(), question.asks));
+}
+
+// Nobody waits for the answer: polkit forgets such a right by itself after a while.
+void PolkitAuthorization::release(std::string_view /*right*/) {
+    if (temporaryRight_.isEmpty() || !system_.connection())
+        return;
+    auto call = authorityCall("RevokeTemporaryAuthorizationById");
+    call << std::exchange(temporaryRight_, {});
+    system_.connection()->send(call);
 }
 
 } // namespace zarvil

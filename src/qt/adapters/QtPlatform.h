@@ -1,10 +1,9 @@
 #pragma once
 
-#include "bus/BusConnection.h"
 #include "pane/Platform.h"
+#include "platform/AlertQueue.h"
 #include "qt/adapters/PolkitAuthorization.h"
 #include "qt/adapters/QtClock.h"
-#include "qt/adapters/QtErrorPresenter.h"
 #include "qt/adapters/QtModalLoop.h"
 #include "qt/adapters/QtStringTable.h"
 #include "qt/adapters/QtTimers.h"
@@ -17,7 +16,7 @@ namespace zarvil {
 
 /// Owns every port that the pane is given: the adapters on Qt, and those that are handed to it.
 /// Needs an application object.
-class QtPlatform {
+class QtPlatform : NonCopyable {
 public:
     /// The ports that need no Qt, or more of it than the adapters here.
     struct Parts {
@@ -27,24 +26,26 @@ public:
         std::unique_ptr<ProcessControl> processes;
     };
 
-    /// `root` is put before the absolute product paths.
-    QtPlatform(Parts parts, std::string root);
+    /// `root` is put before the absolute product paths. The bus must outlive this.
+    QtPlatform(Parts parts, MessageBus& session, std::string root);
     QtPlatform(const QtPlatform&) = delete;
     QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() = default;
 
     [[nodiscard]] Platform& platform() { return platform_; }
+    /// Where the pane's errors arrive.
+    [[nodiscard]] AlertQueue& alerts() { return alerts_; }
 
 private:
+    HandlerQueue handlers_;
     Parts parts_;
-    BusConnection session_{BusConnection::sessionBus()};
     QtTimers timers_;
     QtClock clock_;
-    QtWorkspace workspace_{session_};
+    QtWorkspace workspace_;
     QtUserDefaults defaults_;
-    QtErrorPresenter errors_;
     PolkitAuthorization authorization_;
     QtStringTable strings_;
+    AlertQueue alerts_{handlers_, strings_};
     QtModalLoop modal_;
     Platform platform_;
 };

@@ -1,12 +1,10 @@
 #include "qt/adapters/QtWorkspace.h"
 
+#include "bus/BusDaemon.h"
+#include "bus/MessageBus.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "bus/BusConnection.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingReply>
-#include <QDBusReply>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -15,7 +13,6 @@
 #include <QtDebug>
 
 #include <chrono>
-#include <utility>
 
 namespace zarvil {
 
@@ -23,10 +20,6 @@ namespace {
 
 constexpr int answerLimit = 1000; // milliseconds
 constexpr std::chrono::milliseconds connectLimit{1000};
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 QString executableOf(const QString& bundle) {
     const QString name = QFileInfo(bundle).completeBaseName();
@@ -40,25 +33,14 @@ QString executableOf(const QString& bundle) {
 
 /// Empty for an application whose identifier is not known without its bundle.
 QString identifierOf(const QString& bundle) {
-    const bool isAgent = bundle.endsWith(text(product::agentApplication));
-    return isAgent ? text(product::agentIdentifier) : QString();
-}
-
-QDBusMessage busCall(const QString& method, const QVariantList& arguments = {}) {
-    auto call = QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                               "org.freedesktop.DBus", method);
-    call.setArguments(arguments);
-    return call;
-}
-
-bool isApplicationName(const QString& name) {
-    return !name.startsWith(':') && name != QLatin1String("org.freedesktop.DBus");
+    const bool isAgent = bundle.endsWith(QString::fromUtf8(product::agentApplication));
+    return isAgent ? QString::fromUtf8(product::agentIdentifier) : QString();
 }
 
 } // namespace
 
 bool QtWorkspace::launchApplication(std::string_view path) {
-    const QString bundle = text(path);
+    const QString bundle = QString::fromUtf8(path);
     if (!QFileInfo::exists(bundle))
         return activate(identifierOf(bundle));
     const QString executable = executableOf(bundle);
@@ -70,35 +52,24 @@ bool QtWorkspace::launchApplication(std::string_view path) {
 }
 
 bool QtWorkspace::activate(const QString& identifier) {
-    const auto bus = identifier.isEmpty() ? std::nullopt : session_.wait(connectLimit);
+    if (identifier.isEmpty())
+        return false;
+    const auto& bus = session_.wait(connectLimit);
     return bus && bus->send(busCall("StartServiceByName", {identifier, 0U}));
 }
 
 std::vector<RunningApplication> QtWorkspace::runningApplications() const {
-    const auto bus = session_.wait(connectLimit);
-    if (!bus)
-        return {};
-    const QDBusReply<QStringList> names =
-        bus->call(busCall("ListNames"), QDBus::Block, answerLimit);
-    // All questions go out before the first answer is waited for, so that the limits do not add up.
-    std::vector<std::pair<QString, QDBusPendingReply<uint>>> answers;
-    for (const QString& name : names.value())
-        if (isApplicationName(name))
-            answers.emplace_back(
-                name, bus->asyncCall(busCall("GetConnectionUnixProcessID", {name}), answerLimit));
     std::vector<RunningApplication> running;
-    for (auto& [name, processIdentifier] : answers) {
-        processIdentifier.waitForFinished();
-        if (processIdentifier.isValid())
-            running.push_back({name.toStdString(), processIdentifier.value()});
-    }
+    if (const auto& bus = session_.wait(connectLimit))
+        for (const auto& [name, process] : ownedNames(*bus, answerLimit))
+            running.push_back({name.toStdString(), process});
     return running;
 }
 
 std::string QtWorkspace::mainBundleIdentifier() const { return bus::hostName; }
 
 bool QtWorkspace::openURL(std::string_view url) {
-    const QUrl address(text(url), QUrl::StrictMode);
+    const QUrl address(QString::fromUtf8(url), QUrl::StrictMode);
     return address.isValid() && QDesktopServices::openUrl(address);
 }
 

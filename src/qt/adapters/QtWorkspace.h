@@ -6,13 +6,13 @@
 
 namespace zarvil {
 
-class BusConnection;
+class MessageBus;
 
 /// Applications as bundle folders, on the session bus and in the desktop's associations.
 class QtWorkspace final : public Workspace {
 public:
     /// `session` must outlive this.
-    explicit QtWorkspace(BusConnection& session) : session_(session) {}
+    explicit QtWorkspace(MessageBus& session) : session_(session) {}
 
     /// Starts the executable of the bundle and does not wait for it; without a bundle at `path`
     /// asks the bus to start the application's identifier, and then true means only that the bus
@@ -28,7 +28,7 @@ public:
 private:
     bool activate(const QString& identifier);
 
-    BusConnection& session_;
+    MessageBus& session_;
 };
 
 } // namespace zarvil

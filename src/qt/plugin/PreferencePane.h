@@ -9,12 +9,17 @@
 
 namespace zarvil {
 
+class MessageBus;
+
 /// What the host tells a pane about the place that it runs in.
 struct PaneOptions {
     /// Put before the absolute product paths; empty for the real ones.
     QString root;
     /// The bundle folder that the pane was loaded from, absolute.
     QString bundlePath;
+    /// The process's one connection to the session bus. It owns the host's name, so that others
+    /// know what a pane sends by it. Never null when a pane gets it; outlives the pane.
+    MessageBus* session = nullptr;
 };
 
 /// A preference pane as the host sees it. The root object of the plug-in in a pane's bundle
@@ -55,5 +60,5 @@ public:
 
 /// Changes whenever the interface does, so that a host refuses a pane built for another one. A
 /// macro, since the meta-object compiler reads no constants.
-#define ZARVIL_PREFERENCE_PANE_IID "com.Tessrow.PreferencePane/1.0"
+#define ZARVIL_PREFERENCE_PANE_IID "com.Tessrow.PreferencePane/1.1"
 Q_DECLARE_INTERFACE(zarvil::PreferencePane, ZARVIL_PREFERENCE_PANE_IID)

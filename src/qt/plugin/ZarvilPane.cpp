@@ -1,16 +1,19 @@
 #include "qt/plugin/ZarvilPane.h"
 
+#include "bus/DBusMessageCenter.h"
 #include "pane/Zarvil_Preferences.h"
 #include "posix/PosixFileManager.h"
 #include "posix/PosixProcessControl.h"
 #include "posix/PosixScriptRunner.h"
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
+#include "qt/binding/AlertBox.h"
 #include "qt/binding/OutletBinder.h"
-#include "bus/DBusMessageCenter.h"
+#include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QtDebug>
 
@@ -38,25 +41,29 @@ private:
     posix::PosixProcessControl processes_;
 };
 
-QtPlatform::Parts partsOfThePlatform() {
-    DBusOptions options;
-    options.acceptFrom = QString::fromLatin1(bus::agentName);
-    auto messages = std::make_unique<DBusMessageCenter>(options);
+QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
+    auto messages = std::make_unique<DBusMessageCenter>(session, bus::agentName);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
     return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
-            std::make_unique<posix::PosixScriptRunner>(), std::move(processes)};
+            std::make_unique<posix::PosixScriptRunner>([](const std::function<void()>& call) {
+                QMetaObject::invokeMethod(qApp, call, Qt::QueuedConnection);
+            }),
+            std::move(processes)};
 }
 
 } // namespace
 
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
-    explicit Loaded(const QString& root)
-        : platform(partsOfThePlatform(), qt::fromQt(root)),
+    explicit Loaded(const PaneOptions& options)
+        : platform(partsOfThePlatform(*options.session), *options.session,
+                   qt::fromQt(options.root)),
           controller(platform.platform()),
-          view(std::make_unique<qt::PaneView>()) {
+          view(std::make_unique<qt::PaneView>()),
+          alerts(platform.alerts(), *view),
+          scriptWindow(controller.scriptProgress, *view) {
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
-            qWarning().noquote() << "Layout:" << qt::toQt(fault);
+            qWarning().noquote() << "Layout:" << QString::fromUtf8(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
         QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
@@ -65,6 +72,8 @@ struct ZarvilPane::Loaded {
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;
+    qt::AlertBox alerts;
+    qt::ScriptWindow scriptWindow;
     qt::Subscriptions bindings;
 };
 
@@ -82,7 +91,7 @@ QIcon ZarvilPane::icon() const { return {}; }
 
 QWidget* ZarvilPane::mainView() {
     if (!loaded_)
-        loaded_ = std::make_unique<Loaded>(options_.root);
+        loaded_ = std::make_unique<Loaded>(options_);
     return loaded_->view.get();
 }
 

@@ -33,7 +33,6 @@ public:
     [[nodiscard]] std::vector<QWidget*> focusChain() const;
 
 signals:
-    void removeRequested(zarvil::qt::ScriptCard* card);
     /// Edit fields came or went.
     void focusChainChanged();
 
@@ -43,10 +42,10 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QPushButton* addButton(const QString& text, const QString& toolTip);
+    QPushButton* addButton(void (ZVScriptCollectionItem::*press)());
     void showRecord();
-    void showTitle(const QString& title);
-    void showText(std::string_view text);
+    void showTitle();
+    void showText();
     void showFields(const ScriptItemView::Subviews& fields);
     void showEditing(bool editing);
     void showNote(const ScriptNote& note);

@@ -40,6 +40,23 @@ TEST_F(Lifecycle, theLockShowsWhatTheAuthorityAnswersAndAsksOnlyOnAClick) {
     EXPECT_EQ(authorization.questions[1].interaction, Interaction::MayAskUser);
     authorization.questions[1].reply({true, {}});
     EXPECT_TRUE(pane.isUnlocked());
+    pane.authView.performClick();
+    EXPECT_FALSE(pane.isUnlocked()) << "a click locks an open lock";
+    EXPECT_EQ(authorization.released, std::vector<std::string>{"system.privilege.admin"});
+    EXPECT_EQ(authorization.questions.size(), 2U);
+}
+
+TEST_F(Lifecycle, anAuthoritysLateAnswerTouchesNoPaneThatIsGone) {
+    auto passing = std::make_unique<Zarvil_Preferences>(platform);
+    passing->mainViewDidLoad();
+    const int before = passing->authView.authorizationState();
+    int shown = before;
+    const Subscription watching =
+        passing->authView.stateProperty().observe([&](int state, Transition) { shown = state; });
+    const auto reply = authorization.questions.back().reply;
+    passing.reset();
+    reply({true, {}}); // a sanitizer sees what it touches
+    EXPECT_EQ(shown, before);
 }
 
 TEST_F(Lifecycle, editsAreHeardOnlyWhileThePaneIsShown) {

@@ -240,6 +240,39 @@ TEST_F(Presence, aStormOfStatesEndsInTheLastOneWithAnEchoAFlip) {
     EXPECT_EQ(time.pendingCount(), 1U);
 }
 
+TEST_F(Presence, aLostLinkIsSaidInWordsAndGreysAtOnce) {
+    const std::string lost = "The session bus does not answer, so Zarvil cannot be reached.";
+    loadWithAgent();
+    ASSERT_NE(pane.guidance.agentHint.stringValue(), lost);
+    bus.announce(LinkEvent::Down);
+    EXPECT_EQ(pane.guidance.agentHint.stringValue(), lost);
+    EXPECT_FALSE(pane.guidance.agentHint.isHidden());
+    EXPECT_TRUE(looksAbsent());
+    bus.announce(LinkEvent::Up);
+    EXPECT_NE(pane.guidance.agentHint.stringValue(), lost);
+    EXPECT_TRUE(looksAbsent()) << "the agent has not answered yet";
+}
+
+TEST_F(Presence, aNewAgentIsAskedForItsOwnSettingsAndLists) {
+    loadWithAgent();
+    fillLists();
+    bus.announce(LinkEvent::NewPeer);
+    EXPECT_EQ(takeSentNames(), std::vector<std::string>{"ZVPing"});
+    agentSends(message::pingAnswer);
+    EXPECT_EQ(takeSentNames(), std::vector<std::string>{"ZVPrefsLoaded"});
+    EXPECT_TRUE(pane.arrayController.empty());
+    EXPECT_TRUE(pane.savedArrayController.empty());
+    EXPECT_TRUE(looksRunning());
+}
+
+TEST_F(Presence, aHostWithoutAnIdentifierIsNobodyElse) {
+    load();
+    workspace.hostIdentifier.clear();
+    workspace.running = {{"", 42}};
+    agentSends(message::quitPrefs);
+    EXPECT_EQ(processes.log, std::vector<std::string>{"exit 0"});
+}
+
 TEST_F(Presence, quitPrefsKillsTheFirstHostListedAndExitsInAnyCase) {
     load();
     agentSends(message::quitPrefs);

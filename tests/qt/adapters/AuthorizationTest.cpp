@@ -1,66 +1,13 @@
-#include "HungBus.h"
+#include "FakeServices.h"
 #include "PrivateBus.h"
-#include "bus/BusProbe.h"
 #include "qt/adapters/PolkitAuthorization.h"
 
-#include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDBusMessage>
-#include <QDBusVirtualObject>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <optional>
-#include <unistd.h>
 
 namespace zarvil {
 namespace {
-
-constexpr const char* authorityName = "org.freedesktop.PolicyKit1";
-
-/// Answers as told, and remembers the question.
-class FakeAuthority final : public QDBusVirtualObject {
-public:
-    QString introspect(const QString&) const override { return {}; }
-
-    bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
-        if (call.member() != QLatin1String("CheckAuthorization"))
-            return false;
-        signature = call.signature();
-        const auto subject = call.arguments().at(0).value<QDBusArgument>();
-        subject.beginStructure();
-        subject >> kind >> subjectDetails;
-        subject.endStructure();
-        action = call.arguments().at(1).toString();
-        flags = call.arguments().at(3).toUInt();
-        connection.send(error.isEmpty() ? call.createReply(result())
-                                        : call.createErrorReply(error, "told to"));
-        return true;
-    }
-
-    QVariant result() const {
-        QDBusArgument out;
-        out.beginStructure();
-        out << authorized << challenge;
-        out.beginMap(QMetaType::fromType<QString>(), QMetaType::fromType<QString>());
-        if (dismissed) {
-            out.beginMapEntry();
-            out << QStringLiteral("polkit.dismissed") << QStringLiteral("true");
-            out.endMapEntry();
-        }
-        out.endMap();
-        out.endStructure();
-        return QVariant::fromValue(out);
-    }
-
-    bool authorized = false, challenge = false, dismissed = false;
-    QString error;
-
-    QString signature, kind, action;
-    QVariantMap subjectDetails;
-    uint flags = 99;
-};
 
 AuthorizationOutcome ask(Authorization& authorization, Interaction interaction) {
     std::optional<AuthorizationOutcome> outcome;
@@ -75,36 +22,36 @@ AuthorizationOutcome ask(Authorization& authorization, Interaction interaction) 
     return outcome.value_or(AuthorizationOutcome{true, "no reply"});
 }
 
-/// Field 22 of the process's status, counted without the code under test.
-quint64 startTimeOfThisProcess() {
-    QFile stat("/proc/self/stat");
-    EXPECT_TRUE(stat.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(stat.readAll());
-    return text.section(") ", -1).section(' ', 19, 19).toULongLong();
-}
-
 constexpr const char* unavailable = "Administrator rights cannot be checked: the authorization "
                                     "service (polkit) is not available.";
 
-TEST(PolkitAuthorizationTest, withoutABusOrAnAuthorityNothingIsGranted) {
+BusOptions onDemand(const PrivateBus& bus) {
+    BusOptions options = bus.options();
+    options.firstRetry.reset();
+    return options;
+}
+
+TEST(PolkitAuthorizationTest, aSystemBusOrAnAuthorityThatComesLateOrAgainIsUsedAtTheNextClick) {
     PrivateBus bus;
-    const BusConnection::Connect connects[] = {
-        [] { return QDBusConnection::connectToBus("unix:path=/nonexistent/bus", "absent"); },
-        [&bus] { return bus.connect("system"); }};
-    for (const auto& connect : connects) {
-        PolkitAuthorization authorization(connect);
-        const auto outcome = ask(authorization, Interaction::MayAskUser);
-        EXPECT_FALSE(outcome.granted);
-        EXPECT_EQ(outcome.reason, unavailable);
+    bus.stop();
+    PolkitAuthorization authorization(onDemand(bus));
+    const auto click = [&] { return ask(authorization, Interaction::MayAskUser); };
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(click().reason, unavailable);
+        bus.start();
+        EXPECT_EQ(click().reason, unavailable) << "nobody owns polkit's name";
+        auto daemon = bus.connect(QStringLiteral("authority-%1").arg(round));
+        fake::Authority authority(daemon);
+        authority.quiet.authorized = true;
+        EXPECT_TRUE(click().granted);
+        bus.stop();
     }
 }
 
 TEST(PolkitAuthorizationTest, aSystemBusThatHangsHoldsUpNoOtherConnection) {
-    const QTemporaryDir folder;
-    const HungBus hung(folder.filePath("bus"));
-    const QByteArray before = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", hung.address().toUtf8());
-    PolkitAuthorization authorization;
+    PrivateBus hung;
+    hung.freeze();
+    PolkitAuthorization authorization(onDemand(hung));
     std::optional<AuthorizationOutcome> outcome;
     authorization.check("x", Interaction::None, [&](const auto& reply) { outcome = reply; });
     PrivateBus bus;
@@ -113,65 +60,73 @@ TEST(PolkitAuthorizationTest, aSystemBusThatHangsHoldsUpNoOtherConnection) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return outcome.has_value(); }));
     EXPECT_EQ(outcome->reason, unavailable);
     EXPECT_FALSE(BusConnection::anyHangs());
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", before);
 }
 
 TEST(PolkitAuthorizationTest, theAuthoritysAnswerDecides) {
     PrivateBus bus;
-    FakeAuthority authority;
-    auto daemon = bus.connect("authority");
-    ASSERT_TRUE(daemon.registerVirtualObject("/org/freedesktop/PolicyKit1/Authority", &authority));
-    ASSERT_TRUE(daemon.registerService(authorityName));
-    PolkitAuthorization authorization([&bus] { return bus.connect("system"); });
-    const auto quiet = Interaction::None;
-    const auto asking = Interaction::MayAskUser;
-    const QString prefix = "org.freedesktop.PolicyKit1.Error.";
-    const char* noAgent =
-        "No authentication agent is running that could ask for an administrator's password.";
+    fake::Authority authority(bus.connect("authority"));
+    PolkitAuthorization authorization(onDemand(bus));
+    const QString error = "org.freedesktop.PolicyKit1.Error.";
+    const char* cancelled = "The authentication was cancelled.";
+    using Answer = fake::Authority::Answer;
+    const Answer yes{true, false, {}, {}, {}}, no{}, challenge{false, true, {}, {}, {}};
+    const Answer unregistered{false, false, {}, error + "Failed", "Action x is not registered"};
     const struct {
         Interaction interaction;
-        bool authorized, challenge, dismissed;
-        QString error;
-        const char* reason;
+        Answer quiet, aloud;
+        const char* questions;
+        std::string reason;
     } cases[] = {
-        {asking, true, false, false, {}, ""},
-        {quiet, true, true, false, {}, ""},
-        {quiet, false, true, false, {}, "An administrator's password is needed."},
-        {asking, false, true, false, {}, noAgent},
-        {asking, false, false, false, {}, "You do not have administrator rights."},
-        {asking, false, true, true, {}, "The authentication was cancelled."},
-        {asking, true, false, false, prefix + "Cancelled", "The authentication was cancelled."},
-        {asking, true, false, false, prefix + "Failed", unavailable},
+        {Interaction::None, yes, no, "quiet ", ""},
+        {Interaction::None, challenge, yes, "quiet ", "An administrator's password is needed."},
+        {Interaction::MayAskUser, yes, no, "quiet ", ""},
+        {Interaction::MayAskUser, no, yes, "quiet ", "You do not have administrator rights."},
+        {Interaction::MayAskUser, challenge, yes, "quiet asks ", ""},
+        {Interaction::MayAskUser, challenge, no, "quiet asks ", "The authentication has failed."},
+        {Interaction::MayAskUser, challenge, challenge, "quiet asks ",
+         "No authentication agent is running that could ask for an administrator's password."},
+        {Interaction::MayAskUser,
+         challenge,
+         {false, false, "polkit.dismissed", {}, {}},
+         "quiet asks ",
+         cancelled},
+        {Interaction::MayAskUser,
+         challenge,
+         {false, false, {}, error + "Cancelled", {}},
+         "quiet asks ",
+         cancelled},
+        {Interaction::None, unregistered, no, "quiet ",
+         "Administrator rights cannot be checked: Zarvil's policy for the authorization service "
+         "(polkit) is not installed."},
+        {Interaction::None,
+         {false, false, {}, error + "Failed", "Other"},
+         no,
+         "quiet ",
+         "Administrator rights cannot be checked: the authorization service (polkit) has failed."},
     };
     for (const auto& row : cases) {
-        authority.authorized = row.authorized;
-        authority.challenge = row.challenge;
-        authority.dismissed = row.dismissed;
-        authority.error = row.error;
+        authority.quiet = row.quiet;
+        authority.aloud = row.aloud;
+        authority.questions.clear();
         const auto outcome = ask(authorization, row.interaction);
         EXPECT_EQ(outcome.reason, row.reason);
         EXPECT_EQ(outcome.granted, outcome.reason.empty());
-        EXPECT_EQ(authority.flags, row.interaction == asking ? 1U : 0U);
+        EXPECT_EQ(authority.questions, row.questions) << row.reason;
     }
     EXPECT_EQ(authority.signature, "(sa{sv})sa{ss}us");
     EXPECT_EQ(authority.action, "com.Tessrow.Zarvil.system.privilege.admin");
-    EXPECT_EQ(authority.kind, "unix-process");
-    EXPECT_EQ(authority.subjectDetails.value("pid").toUInt(), static_cast<uint>(getpid()));
-    EXPECT_EQ(authority.subjectDetails.value("start-time").toULongLong(), startTimeOfThisProcess());
+    EXPECT_EQ(authority.kind, "system-bus-name");
+    EXPECT_EQ(authority.subjectDetails, (QVariantMap{{"name", authority.sender}}));
 }
 
-TEST(BusProbeTest, onlySilenceCountsAsHanging) {
-    const QTemporaryDir folder;
-    const HungBus hung(folder.filePath("bus"));
+TEST(PolkitAuthorizationTest, lockingGivesBackWhatAPasswordHasOpened) {
     PrivateBus bus;
-    constexpr std::chrono::milliseconds limit{500};
-    for (const QByteArray& address :
-         {bus.address().toUtf8(), bus.address().toUtf8() + ";unix:path=/nowhere",
-          QByteArray("unix:path=/nonexistent/bus"), QByteArray("tcp:host=localhost"),
-          QByteArray("unix:path=" + QByteArray(300, 'x')), QByteArray()})
-        EXPECT_TRUE(busAnswers(address, limit)) << address.toStdString();
-    EXPECT_FALSE(busAnswers(hung.address().toUtf8(), limit));
-    EXPECT_FALSE(busAnswers(hung.address().toUtf8() + ",guid=00", limit));
+    fake::Authority authority(bus.connect("authority"));
+    PolkitAuthorization authorization(onDemand(bus));
+    authority.quiet = {true, false, "polkit.temporary_authorization_id", {}, {}};
+    ASSERT_TRUE(ask(authorization, Interaction::None).granted);
+    authorization.release("system.privilege.admin");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return authority.revoked == "t1"; }));
 }
 
 } // namespace
