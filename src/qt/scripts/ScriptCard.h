@@ -32,7 +32,7 @@ public:
     /// The widgets that take the keyboard, in the order in which Tab visits them.
     [[nodiscard]] std::vector<QWidget*> focusChain() const;
 
-signals:
+Q_SIGNALS:
     /// Edit fields came or went.
     void focusChainChanged();
 
