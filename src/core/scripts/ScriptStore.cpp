@@ -70,18 +70,19 @@ void Zarvil_Preferences::resumeDrafts() {
 
 /// The script that the draft belongs to: the same one, else the only one of its title.
 std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const ScriptDraft& draft) {
-    auto index = scriptsArrayController.indexOfObject(draft.saved);
+    auto index = scriptsArrayController.indexOfObject(makeRecord(draft.saved));
     if (!index) {
         const std::string* title = draft.saved.stringForKey(script::title);
-        const auto& records = scriptsArrayController.arrangedObjects();
-        const auto isOfTitle = [title](const Record& record) {
-            const std::string* listed = record->contents().stringForKey(script::title);
-            return title && listed && *listed == *title;
-        };
-        if (std::ranges::count_if(records, isOfTitle) != 1)
+        const auto records = scriptsArrayController.arrangedObjects();
+        std::vector<std::size_t> ofTitle;
+        for (std::size_t listed = 0; title && listed < records.size(); ++listed) {
+            const std::string* other = records[listed]->contents().stringForKey(script::title);
+            if (other && *other == *title)
+                ofTitle.push_back(listed);
+        }
+        if (ofTitle.size() != 1)
             return nullptr;
-        index =
-            static_cast<std::size_t>(std::ranges::find_if(records, isOfTitle) - records.begin());
+        index = ofTitle.front();
     }
     return scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index);
 }

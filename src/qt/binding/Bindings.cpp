@@ -17,6 +17,7 @@
 #include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -117,11 +118,12 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     }
     QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
                      [&model] { model.userDidPressReturn(); });
-    // Return ends the edit for the widget as well, which then still has the keyboard.
-    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&model, &widget] {
-        if (!widget.hasFocus())
-            model.userDidLeave();
-    });
+    // Not `editingFinished`: after Return it does not tell that the field is left.
+    QObject::connect(qApp, &QApplication::focusChanged, &widget,
+                     [&model, &widget](QWidget* left, QWidget* /*entered*/) {
+                         if (left == &widget)
+                             model.userDidLeave();
+                     });
 }
 
 void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept) {

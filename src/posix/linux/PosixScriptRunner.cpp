@@ -1,10 +1,10 @@
 #include "posix/PosixScriptRunner.h"
 
 #include "posix/FileDescriptor.h"
-#include "posix/ProcessGuard.h"
-#include "posix/ScriptProcess.h"
 #include "posix/SystemError.h"
 #include "posix/Utf8.h"
+#include "posix/linux/ProcessGuard.h"
+#include "posix/linux/ScriptProcess.h"
 #include "protocol/NonCopyable.h"
 
 #include <cerrno>

@@ -1,6 +1,6 @@
-#include "posix/ProcessGuard.h"
+#include "posix/linux/ProcessGuard.h"
 
-#include "posix/ChildSetup.h"
+#include "posix/linux/ChildSetup.h"
 
 #include <array>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "posix/ChildSetup.h"
+#include "posix/linux/ChildSetup.h"
 
 #include <cerrno>
 #include <unistd.h>

@@ -1,8 +1,8 @@
-#include "posix/ScriptProcess.h"
+#include "posix/linux/ScriptProcess.h"
 
-#include "posix/ChildSetup.h"
-#include "posix/ProcessGuard.h"
 #include "posix/Utf8.h"
+#include "posix/linux/ChildSetup.h"
+#include "posix/linux/ProcessGuard.h"
 
 #include <algorithm>
 #include <array>
