@@ -53,7 +53,7 @@ void Zarvil_Preferences::mainViewDidLoad() {
 }
 
 void Zarvil_Preferences::setUpAuthorization() {
-    authView.onClick = [this] { clickLock(); };
+    authView.onClick = [this] { platform_.handlers.run([this] { clickLock(); }); };
     authView.onUpdateStatus = [this] { checkAuthorization(Interaction::None); };
     authView.setAuthorizationRights({{std::string(product::adminRight)}});
     authView.setDelegate(this);
@@ -77,10 +77,15 @@ void Zarvil_Preferences::checkAuthorization(Interaction interaction) {
         product::adminRight, interaction,
         [this, alive = std::weak_ptr<char>(lifetime_)](const AuthorizationOutcome& outcome) {
             // The user may take minutes to answer, and the pane may be gone by then.
-            if (!alive.expired())
-                authView.show(outcome.granted ? authorizationState::unlocked
-                                              : authorizationState::locked,
-                              outcome.reason);
+            if (alive.expired())
+                return;
+            platform_.handlers.run(
+                [this](const AuthorizationOutcome& decided) {
+                    authView.show(decided.granted ? authorizationState::unlocked
+                                                  : authorizationState::locked,
+                                  decided.reason);
+                },
+                outcome);
         });
 }
 
