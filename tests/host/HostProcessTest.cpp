@@ -184,7 +184,7 @@ TEST_F(HostProcessTest, aSecondStartRaisesTheFirstOrSaysOnceThatItHangs) {
 }
 
 TEST(UnixSignalsTest, aSignalLeavesTheErrorNumberOfWhatItInterrupts) {
-    UnixSignals signals;
+    UnixSignals watcher;
     // More than the way to the event loop can take.
     for (int count = 0; count < 100'000; ++count) {
         errno = ENOENT;
