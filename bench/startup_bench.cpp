@@ -3,10 +3,13 @@
 // pane whose agent answers. Runs on a private display and bus, which the script `startup` sets up.
 #include <xcb/xcb.h>
 
+#include <poll.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -16,7 +19,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace {
@@ -29,12 +31,19 @@ constexpr auto settleTime = std::chrono::seconds(2);
 constexpr int pingPeriod = 3; // seconds
 constexpr int idlePings = 10;
 
+[[noreturn]] void giveUp(const std::string& program, const char* why) {
+    std::fprintf(stderr, "bench: %s %s\n", program.c_str(), why);
+    std::exit(EXIT_FAILURE);
+}
+
 /// A started program, ended when this goes.
 class Process {
 public:
-    explicit Process(const Command& command) : pid_(fork()) {
-        if (pid_ != 0)
+    explicit Process(const Command& command) : name_(command.front()), pid_(fork()) {
+        if (pid_ != 0) {
+            ended_ = static_cast<int>(syscall(SYS_pidfd_open, pid_, 0));
             return;
+        }
         std::vector<char*> arguments;
         for (const std::string& argument : command)
             arguments.push_back(const_cast<char*>(argument.c_str()));
@@ -47,12 +56,24 @@ public:
     ~Process() {
         kill(pid_, SIGTERM);
         waitpid(pid_, nullptr, 0);
+        close(ended_);
     }
 
     [[nodiscard]] std::string folder() const { return "/proc/" + std::to_string(pid_); }
+    [[nodiscard]] const std::string& name() const { return name_; }
+    /// Readable once the program has ended.
+    [[nodiscard]] int endDescriptor() const { return ended_; }
+    /// Lets time pass. A program that ends meanwhile ends the benchmark.
+    void runFor(std::chrono::milliseconds time) const {
+        pollfd end{ended_, POLLIN, 0};
+        if (poll(&end, 1, static_cast<int>(time.count())) > 0)
+            giveUp(name_, "ended while it was measured");
+    }
 
 private:
+    std::string name_;
     pid_t pid_;
+    int ended_ = -1;
 };
 
 /// Waits for top-level windows to be mapped.
@@ -65,21 +86,33 @@ public:
         xcb_flush(connection_.get());
     }
 
-    void forgetEvents() {
-        while (const auto event = std::unique_ptr<xcb_generic_event_t, decltype(&free)>(
-                   xcb_poll_for_event(connection_.get()), free)) {
-        }
-    }
+    void forgetEvents() { takeMapping(); }
 
-    void waitForMappedWindow() {
-        while (const auto event = std::unique_ptr<xcb_generic_event_t, decltype(&free)>(
-                   xcb_wait_for_event(connection_.get()), free)) {
-            if ((event->response_type & 0x7FU) == XCB_MAP_NOTIFY)
-                return;
+    /// A program that ends or shows nothing ends the benchmark.
+    void waitForMappedWindow(const Process& process) {
+        constexpr int limit = 30'000; // milliseconds
+        std::array<pollfd, 2> awaited{{{xcb_get_file_descriptor(connection_.get()), POLLIN, 0},
+                                       {process.endDescriptor(), POLLIN, 0}}};
+        while (!takeMapping()) {
+            if (poll(awaited.data(), awaited.size(), limit) == 0)
+                giveUp(process.name(), "shows no window");
+            if (awaited[1].revents != 0)
+                giveUp(process.name(), "ended before it showed a window");
+            if (xcb_connection_has_error(connection_.get()) != 0)
+                giveUp(process.name(), "has lost its display");
         }
     }
 
 private:
+    /// Whether a window was mapped among the events that are there.
+    bool takeMapping() {
+        bool mapped = false;
+        while (const auto event = std::unique_ptr<xcb_generic_event_t, decltype(&free)>(
+                   xcb_poll_for_event(connection_.get()), free))
+            mapped = mapped || (event->response_type & 0x7FU) == XCB_MAP_NOTIFY;
+        return mapped;
+    }
+
     std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection_;
 };
 
@@ -104,10 +137,10 @@ void measure(Display& display, const Command& command, Figures& figures) {
     display.forgetEvents();
     const auto start = Clock::now();
     const Process process(command);
-    display.waitForMappedWindow();
+    display.waitForMappedWindow(process);
     figures.milliseconds.push_back(
         std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-    std::this_thread::sleep_for(settleTime);
+    process.runFor(settleTime);
     figures.kibibytes.push_back(
         static_cast<double>(numberAfter(process.folder() + "/smaps_rollup", "Pss:")));
 }
@@ -131,10 +164,10 @@ std::map<std::string, long> contextSwitches(const Process& process) {
 double switchesPerPing(Display& display, const Command& command) {
     display.forgetEvents();
     const Process process(command);
-    display.waitForMappedWindow();
-    std::this_thread::sleep_for(settleTime * 3);
+    display.waitForMappedWindow(process);
+    process.runFor(settleTime * 3);
     auto before = contextSwitches(process);
-    std::this_thread::sleep_for(std::chrono::seconds(pingPeriod * idlePings));
+    process.runFor(std::chrono::seconds(pingPeriod * idlePings));
     long switches = 0;
     for (const auto& [thread, count] : contextSwitches(process))
         switches += count - before[thread];

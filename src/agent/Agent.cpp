@@ -7,18 +7,18 @@
 
 #include <QTimer>
 
+#include <chrono>
+
 namespace zarvil::agent {
 
 namespace {
+
+constexpr std::chrono::seconds writeAgainAfter{1};
 
 Dictionary withEntry(std::string_view key, Value value) {
     Dictionary info;
     info.setObject(key, std::move(value));
     return info;
-}
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 } // namespace
@@ -81,7 +81,7 @@ void Agent::stateSet(const Dictionary& info) {
 void Agent::prefsChanged(const Dictionary& info) {
     const std::string* key = info.stringForKey(payload::prefKey);
     const Value* value = info.objectForKey(payload::prefObj);
-    const QString name = key ? text(*key) : QStringLiteral("without a key");
+    const QString name = key ? QString::fromUtf8(*key) : QStringLiteral("without a key");
     if (key && value && parts_.settings.store(*key, *value)) {
         parts_.log.note("Stored the setting " + name);
         writeSettingsSoon();
@@ -122,7 +122,7 @@ void Agent::saveAsked(const Dictionary& info) {
         return;
     }
     const bool added = parts_.settings.addSavedDevice(*device);
-    parts_.log.note((added ? "Saved " : "Already saved: ") + text(describe(*device)));
+    parts_.log.note((added ? "Saved " : "Already saved: ") + QString::fromUtf8(describe(*device)));
     writeSettingsSoon();
 }
 
@@ -132,7 +132,7 @@ void Agent::forgetAsked(const Dictionary& info) {
         parts_.log.problem(QStringLiteral("Asked to forget a device that is not saved"));
         return;
     }
-    parts_.log.note("Forgot " + text(describe(*device)));
+    parts_.log.note("Forgot " + QString::fromUtf8(describe(*device)));
     writeSettingsSoon();
 }
 
@@ -143,7 +143,7 @@ void Agent::pushCheckAsked(const Dictionary& info) {
 }
 
 void Agent::deviceAppeared(const Dictionary& device) {
-    parts_.log.note("Connected: " + text(describe(device)));
+    parts_.log.note("Connected: " + QString::fromUtf8(describe(device)));
     connected_.emplace_back(device);
     send({message::deviceConnected, device});
 }
@@ -152,7 +152,7 @@ bool Agent::deviceWent(const Dictionary& device) {
     const std::optional<Dictionary> gone = takeDevice(connected_, device);
     if (!gone)
         return false;
-    parts_.log.note("Disconnected: " + text(describe(*gone)));
+    parts_.log.note("Disconnected: " + QString::fromUtf8(describe(*gone)));
     send({message::deviceDisconnected, *gone});
     return true;
 }
@@ -194,7 +194,8 @@ void Agent::writeSettingsSoon() {
         return;
     QTimer::singleShot(0, this, [this] {
         writePending_ = false;
-        parts_.settings.write();
+        if (!parts_.settings.write())
+            QTimer::singleShot(writeAgainAfter, this, &Agent::writeSettingsSoon);
     });
 }
 

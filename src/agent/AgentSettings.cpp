@@ -1,12 +1,13 @@
 #include "agent/AgentSettings.h"
 
 #include "agent/DeviceRecord.h"
-#include "agent/PropertyListFile.h"
+#include "agent/Json.h"
 #include "protocol/Settings.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -62,10 +63,6 @@ Value normalized(const Value& value, setting::Type type) {
     return type == setting::Type::Boolean ? Value(value.boolValue()) : value;
 }
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 } // namespace
 
 AgentSettings::AgentSettings(QString path, AgentLog& log) : path_(std::move(path)), log_(log) {
@@ -117,17 +114,22 @@ bool AgentSettings::removeSavedDevice(const Dictionary& device) {
     return removed;
 }
 
-void AgentSettings::write() {
-    if (!std::exchange(changed_, false))
-        return;
+bool AgentSettings::write() {
+    if (!changed_)
+        return true;
     Dictionary contents = stored_;
     contents.setObject(savedDevicesKey, savedDevices_);
     QDir().mkpath(QFileInfo(path_).path());
     QSaveFile file(path_);
     if (file.open(QIODevice::WriteOnly) && file.write(writePropertyList(contents)) >= 0 &&
-        file.commit())
-        return;
-    log_.problem("Cannot write the settings " + path_ + ": " + file.errorString());
+        file.commit()) {
+        changed_ = false;
+        reported_ = false;
+        return true;
+    }
+    if (!std::exchange(reported_, true))
+        log_.problem("Cannot write the settings " + path_ + ": " + file.errorString());
+    return false;
 }
 
 void AgentSettings::read() {
@@ -138,18 +140,22 @@ void AgentSettings::read() {
         keepAside(file.errorString());
         return;
     }
-    const auto contents = readPropertyList(file.readAll());
-    if (const auto* reason = std::get_if<QString>(&contents))
-        keepAside(*reason);
+    QJsonParseError error;
+    const auto document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError)
+        keepAside(QStringLiteral("at byte %1: %2").arg(error.offset).arg(error.errorString()));
+    else if (!document.isObject())
+        keepAside(QStringLiteral("it holds no object"));
     else
-        adopt(std::get<Dictionary>(contents));
+        adopt(dictionaryFrom(document.object()));
 }
 
 void AgentSettings::adopt(const Dictionary& stored) {
     for (const auto& [key, value] : stored.entries()) {
         const setting::Description* known = storable(key);
         if (known && !hasType(value, known->type))
-            log_.problem("Ignored the stored setting " + text(key) + ": it has a wrong type");
+            log_.problem("Ignored the stored setting " + QString::fromUtf8(key) +
+                         ": it has a wrong type");
         else if (key != savedDevicesKey)
             stored_.setObject(key, value);
     }

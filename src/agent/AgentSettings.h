@@ -9,7 +9,7 @@
 
 namespace zarvil::agent {
 
-/// What the agent keeps over restarts, in one property-list file: the settings, the saved devices
+/// What the agent keeps over restarts, in one JSON file: the settings, the saved devices
 /// and whether protection is on. Entries that it does not know stay in the file untouched.
 class AgentSettings {
 public:
@@ -31,8 +31,9 @@ public:
     /// False when it is not saved.
     bool removeSavedDevice(const Dictionary& device);
 
-    /// Writes the file, in one step, if anything changed since it was last written.
-    void write();
+    /// Writes the file, in one step, if anything changed since it was last written. False when it
+    /// could not; that is reported once, and the next call tries again.
+    bool write();
 
 private:
     void read();
@@ -44,6 +45,7 @@ private:
     Dictionary stored_;
     Array savedDevices_;
     bool changed_ = false;
+    bool reported_ = false; ///< the file cannot be written, and that was said
 };
 
 } // namespace zarvil::agent

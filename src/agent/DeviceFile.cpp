@@ -1,46 +1,15 @@
 #include "agent/DeviceFile.h"
 
+#include "agent/Json.h"
 #include "protocol/Messages.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace zarvil::agent {
 
 namespace {
-
-Dictionary dictionaryFrom(const QJsonObject& object);
-
-/// Property lists know no null: it reads as an empty text.
-Value valueFrom(const QJsonValue& json) {
-    switch (json.type()) {
-    case QJsonValue::Bool:
-        return json.toBool();
-    case QJsonValue::Double:
-        if (json.toVariant().typeId() == QMetaType::LongLong)
-            return std::int64_t{json.toInteger()};
-        return json.toDouble();
-    case QJsonValue::Array: {
-        Array array;
-        for (const QJsonValue element : json.toArray())
-            array.push_back(valueFrom(element));
-        return array;
-    }
-    case QJsonValue::Object:
-        return dictionaryFrom(json.toObject());
-    default:
-        return json.toString().toStdString();
-    }
-}
-
-Dictionary dictionaryFrom(const QJsonObject& object) {
-    Dictionary dictionary;
-    for (auto entry = object.begin(); entry != object.end(); ++entry)
-        dictionary.setObject(entry.key().toStdString(), valueFrom(entry.value()));
-    return dictionary;
-}
 
 bool isIdentified(const Dictionary& record) {
     return record.stringForKey(payload::deviceName) && record.stringForKey(payload::deviceVendor) &&

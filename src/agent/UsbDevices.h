@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "protocol/Value.h"
 
 #include <QString>
@@ -17,13 +18,11 @@ struct udev_monitor;
 namespace zarvil::agent {
 
 /// The USB devices of this computer, hubs left out, as they come and go. Needs an event loop.
-class UsbDevices {
+class UsbDevices : NonCopyable {
 public:
     using Report = std::function<void(const Dictionary&)>;
 
     UsbDevices(Report appeared, Report went);
-    UsbDevices(const UsbDevices&) = delete;
-    UsbDevices& operator=(const UsbDevices&) = delete;
     ~UsbDevices();
 
     /// Reports every device that is there, then each change. The reason, in words, when devices

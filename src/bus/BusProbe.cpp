@@ -1,5 +1,7 @@
 #include "bus/BusProbe.h"
 
+#include "protocol/NonCopyable.h"
+
 #include <QByteArrayList>
 
 #include <algorithm>
@@ -27,15 +29,13 @@ QByteArray socketName(const QByteArray& addresses) {
     return {};
 }
 
-class Socket {
+class Socket : NonCopyable {
 public:
     Socket() : handle_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {}
     ~Socket() {
         if (handle_ >= 0)
             close(handle_);
     }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
 
     bool connectTo(const QByteArray& name) const {
         sockaddr_un address{};

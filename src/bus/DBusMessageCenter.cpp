@@ -124,7 +124,8 @@ void DBusMessageCenter::send(const Message& message) {
         qCWarning(busLog, "Did not send %s", message.name.c_str());
         return;
     }
-    QDBusMessage signal = QDBusMessage::createSignal(bus::path, bus::interface, text(message.name));
+    QDBusMessage signal =
+        QDBusMessage::createSignal(bus::path, bus::interface, QString::fromUtf8(message.name));
     signal << QVariant(*std::move(payload));
     connection_->send(signal);
     unflushed_ = true;
@@ -151,13 +152,13 @@ void DBusMessageCenter::deliver(const QDBusMessage& signal) {
 // One match a message name, so that the bus does not wake this process for its own broadcasts.
 void DBusMessageCenter::watch(const std::string& name) {
     if (connection_)
-        connection_->connect(QString(), bus::path, bus::interface, text(name), this,
+        connection_->connect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
                              SLOT(receive(QDBusMessage)));
 }
 
 void DBusMessageCenter::unwatch(const std::string& name) {
     if (connection_)
-        connection_->disconnect(QString(), bus::path, bus::interface, text(name), this,
+        connection_->disconnect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
                                 SLOT(receive(QDBusMessage)));
 }
 

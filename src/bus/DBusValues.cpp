@@ -54,7 +54,7 @@ std::size_t sizeBound(const Value& value) {
 }
 
 QString encodeText(const std::string& text) {
-    QString encoded = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    QString encoded = QString::fromUtf8(text);
     encoded.replace(QChar::Null, QChar::ReplacementCharacter);
     return encoded;
 }
@@ -147,7 +147,7 @@ Dictionary decodeDictionary(const QDBusArgument& argument) {
         if (std::optional<Value> value = decode(variant))
             dictionary.setObject(*text, std::move(*value));
         else
-            warnOfForeign(variant, "under \"" + QString::fromStdString(*text) + '"');
+            warnOfForeign(variant, "under \"" + QString::fromUtf8(*text) + '"');
     }
     argument.endMap();
     return dictionary;

@@ -29,7 +29,7 @@ public:
     void follow(MessageBus& session);
     [[nodiscard]] Look look() const;
 
-private slots:
+private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key);
 
 private:

@@ -1,5 +1,7 @@
 #include "host/Bundle.h"
 
+#include "interface/DisplayText.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -18,14 +20,21 @@ namespace {
 QString translated(const char* text) { return QCoreApplication::translate("Bundle", text); }
 
 BundleFailure failure(BundleFault fault, const QString& path, const QString& message) {
-    return {fault, path, message};
+    // It quotes the bundle's own words and path.
+    const std::string shown = showableText(message.toStdString(), longestShownMessage);
+    return {fault, path, QString::fromStdString(shown)};
+}
+
+QString shownName(const QString& name) {
+    return QString::fromStdString(showableText(name.toStdString(), longestShownLine));
 }
 
 using InfoOutcome = std::variant<QJsonObject, BundleFailure>;
 
 InfoOutcome readInfo(const QString& path) {
     QFile file(path + "/Contents/Info.json");
-    if (!file.open(QIODevice::ReadOnly))
+    // What is no plain file may never end, or never begin.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return failure(BundleFault::NotABundle, path,
                        translated("\"%1\" is not a preference pane: its Contents/Info.json cannot "
                                   "be read.")
@@ -85,13 +94,14 @@ BundleOutcome readBundle(const QString& path) {
                        translated("The preference pane \"%1\" is broken: its library \"%2\" is "
                                   "missing.")
                            .arg(folder, info.value("library").toString()));
+    const QString icon = fileWithin(folder, info.value("icon").toString());
     return Bundle{folder,
-                  info.value("name").toString(),
+                  shownName(info.value("name").toString()),
                   info.value("identifier").toString(),
                   info.value("version").toString(),
                   library,
                   info.value("principalClass").toString(),
-                  fileWithin(folder, info.value("icon").toString())};
+                  QFileInfo(icon).isFile() ? icon : QString()};
 }
 
 std::vector<BundleOutcome> findBundles(const QStringList& folders) {
@@ -114,7 +124,9 @@ std::vector<BundleOutcome> findBundles(const QStringList& folders) {
 }
 
 QStringList bundleFolders() {
-    return {QDir::homePath() + "/Library/PreferencePanes", QStringLiteral(ZARVIL_PANES_FOLDER)};
+    return {QDir::homePath() + "/Library/PreferencePanes",
+            QDir::cleanPath(QCoreApplication::applicationDirPath() + '/' +
+                            QStringLiteral(ZARVIL_PANES_FROM_PROGRAM))};
 }
 
 PaneOutcome loadPane(const Bundle& bundle) {

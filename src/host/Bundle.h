@@ -14,7 +14,7 @@ namespace zarvil::host {
 /// What a pane's bundle says of itself, read from its Contents/Info.json.
 struct Bundle {
     QString path; ///< the bundle folder, absolute
-    QString name; ///< what the user sees in a list of panes
+    QString name; ///< what the user sees in a list of panes, fit for display
     QString identifier;
     QString version;
     QString library;        ///< the plug-in, absolute
@@ -41,7 +41,8 @@ using PaneOutcome = std::variant<std::unique_ptr<PreferencePane>, BundleFailure>
 /// first counts. A folder that is missing holds none; a broken bundle is listed as such.
 [[nodiscard]] std::vector<BundleOutcome> findBundles(const QStringList& folders);
 
-/// Where panes are installed: the user's folder, then the system's.
+/// Where panes are installed: the user's folder, then the one that was installed with the program,
+/// wherever both are now. Needs the application object.
 [[nodiscard]] QStringList bundleFolders();
 
 /// Loads the plug-in, which stays loaded for the life of the process. A pane can be loaded once.

@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
 #include <variant>
 
 namespace zarvil::host {
@@ -23,11 +22,12 @@ struct UsageError {
     QString message;
 };
 
-/// `arguments` come without the program's name. `environmentAppearance` counts unless an option
-/// says otherwise; empty for none.
+/// `arguments` start with the program's name. `environmentAppearance` counts unless an option says
+/// otherwise; empty for none.
 [[nodiscard]] std::variant<CommandLine, UsageError>
 parseCommandLine(const QStringList& arguments, const QString& environmentAppearance);
 
+/// Needs the application object.
 [[nodiscard]] QString helpText();
 
 } // namespace zarvil::host

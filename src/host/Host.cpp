@@ -133,7 +133,7 @@ namespace {
 
 QStringList argumentsOf(int argc, char** argv) {
     QStringList arguments;
-    for (int index = 1; index < argc; ++index)
+    for (int index = 0; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
     return arguments;
 }
@@ -205,8 +205,10 @@ int runHost(int argc, char** argv) {
     if (const auto* error = std::get_if<UsageError>(&parsed))
         return failUsage(*error);
     const auto& commandLine = std::get<CommandLine>(parsed);
-    if (commandLine.wish == CommandLine::Wish::Help)
+    if (commandLine.wish == CommandLine::Wish::Help) {
+        const QCoreApplication application(argc, argv);
         return print(helpText());
+    }
     if (commandLine.wish == CommandLine::Wish::Version)
         return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
     if (!hasDisplay()) {

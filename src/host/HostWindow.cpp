@@ -1,5 +1,7 @@
 #include "host/HostWindow.h"
 
+#include "qt/widgets/ToolTip.h"
+
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -56,7 +58,7 @@ void HostWindow::makeList() {
             entry.driver ? entry.driver->bundle().name : tr("Broken pane"), list_);
         if (entry.driver && !entry.driver->bundle().icon.isEmpty())
             item->setIcon(QIcon(entry.driver->bundle().icon));
-        item->setToolTip(entry.fault);
+        item->setToolTip(qt::plainToolTip(entry.fault));
     }
     connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0 && static_cast<std::size_t>(row) != current_)
@@ -184,7 +186,7 @@ void HostWindow::finish() {
         settings_.setValue(geometryKey, saveGeometry());
     finished_ = true;
     hide();
-    emit closed();
+    Q_EMIT closed();
 }
 
 } // namespace zarvil::host

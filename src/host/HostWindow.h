@@ -35,7 +35,7 @@ public:
     /// Leaves the pane, whatever it answers, and closes.
     void closeRegardless();
 
-signals:
+Q_SIGNALS:
     /// The window is hidden and its pane has been left.
     void closed();
 

@@ -4,7 +4,7 @@ namespace zarvil::host {
 
 namespace {
 
-/// The colours that the roles derive from.
+/// The colors that the roles derive from.
 struct Colors {
     QRgb window;
     QRgb base;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Bundle.h"
+#include "protocol/NonCopyable.h"
 
 #include <QPointer>
 
@@ -12,7 +13,7 @@ namespace zarvil::host {
 
 /// Drives one pane's life in the order that a pane may rely on. Loads the pane at its first
 /// showing, so that panes never shown cost nothing.
-class PaneDriver {
+class PaneDriver : NonCopyable {
 public:
     /// Whether the pane has been left; false when it wants to stay.
     using Left = std::function<void(bool left)>;

@@ -69,6 +69,6 @@ void SingleInstance::raiseFirst(const QDBusConnection& bus, std::function<void(b
             });
 }
 
-void SingleInstance::Activate(const QVariantMap& /*hints*/) { emit activated(); }
+void SingleInstance::Activate(const QVariantMap& /*hints*/) { Q_EMIT activated(); }
 
 } // namespace zarvil::host

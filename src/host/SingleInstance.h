@@ -34,7 +34,7 @@ public:
     /// answered within a second: one in health does within milliseconds, and the user waits.
     void raiseFirst(const QDBusConnection& bus, std::function<void(bool answered)> report);
 
-public slots:
+public Q_SLOTS:
     /// Called over the bus by a second instance. The platform's hints are not used.
     Q_SCRIPTABLE void Activate(const QVariantMap& hints);
 

@@ -40,7 +40,7 @@ UnixSignals::UnixSignals() {
     notifier_ = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
     connect(notifier_.get(), &QSocketNotifier::activated, this, [this] {
         drainPipe();
-        emit endRequested();
+        Q_EMIT endRequested();
     });
     struct sigaction action {};
     action.sa_flags = SA_RESTART;

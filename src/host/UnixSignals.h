@@ -15,7 +15,7 @@ public:
     /// Gives the signals their default effect again.
     ~UnixSignals() override;
 
-signals:
+Q_SIGNALS:
     void endRequested();
 
 private:

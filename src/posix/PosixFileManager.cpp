@@ -4,6 +4,7 @@
 #include "posix/SystemError.h"
 #include "posix/Utf8.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <dirent.h>
@@ -20,7 +21,7 @@ namespace zarvil::posix {
 
 namespace {
 
-constexpr mode_t fileMode = 0666;   // less the process's mask
+constexpr mode_t fileMode = 0600;
 constexpr mode_t folderMode = 0777; // less the process's mask
 
 std::string homeFolder() {
@@ -59,6 +60,24 @@ int writeDirectly(const std::string& path, std::string_view text) {
     return failure;
 }
 
+/// The mode of the first of the items that is a file, else that of a new one.
+mode_t modeOf(std::initializer_list<const std::string*> items) {
+    constexpr mode_t permissions = 07777;
+    struct stat status {};
+    for (const std::string* item : items) {
+        if (::lstat(item->c_str(), &status) == 0 && S_ISREG(status.st_mode))
+            return status.st_mode & permissions;
+    }
+    return fileMode;
+}
+
+/// 0 or the error number.
+int writeAtomically(const std::string& path, std::string_view text) {
+    AtomicFile file(path);
+    const int failure = file.prepare(text, modeOf({&path}));
+    return failure == 0 ? file.commit() : failure;
+}
+
 /// 0 or the error number. Asked before a folder is emptied that could then not be removed itself.
 int refusalToRemove(const std::string& path) {
     struct stat status {};
@@ -68,6 +87,61 @@ int refusalToRemove(const std::string& path) {
     const auto parent = std::filesystem::path(item).parent_path();
     const char* folder = parent.empty() ? "." : parent.c_str();
     return ::faccessat(AT_FDCWD, folder, W_OK | X_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+/// 0 or the error number.
+int remove(const std::string& path) {
+    std::error_code failure(refusalToRemove(path), std::generic_category());
+    if (!failure)
+        std::filesystem::remove_all(path, failure);
+    return failure.value();
+}
+
+/// Whether the item of that path lies below the folder, wherever links lead.
+bool isWithin(const std::string& path, const std::string& folder) {
+    std::error_code failure;
+    const auto place = std::filesystem::canonical(path.substr(0, path.rfind('/') + 1), failure);
+    if (failure)
+        return false;
+    const auto outer = std::filesystem::canonical(folder, failure);
+    return !failure && std::ranges::mismatch(outer, place).in1 == outer.end();
+}
+
+bool isFolder(const std::string& path) {
+    struct stat status {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Error numbers of the two halves.
+struct Outcome {
+    int removal = 0;
+    int write = 0;
+};
+
+Outcome replace(const std::string& former, const std::string& path, std::string_view text) {
+    Outcome outcome{refusalToRemove(former), 0};
+    AtomicFile file(path);
+    outcome.write = file.prepare(text, modeOf({&former, &path}));
+    // What lies within the former item would go with it.
+    if (outcome.write == 0 && isWithin(path, former))
+        outcome.write = ENOENT;
+    if (outcome.write != 0)
+        return outcome;
+    if (outcome.removal == 0 && path == former && isFolder(former))
+        outcome.removal = remove(former); // no file can be renamed over a folder
+    outcome.write = file.commit();
+    if (outcome.write != 0 || outcome.removal != 0)
+        return outcome;
+    // Two spellings may name one file, which then takes the new one, as where case is ignored.
+    if (file.isAt(former))
+        static_cast<void>(::rename(former.c_str(), path.c_str()));
+    else if (path != former)
+        outcome.removal = remove(former);
+    return outcome;
+}
+
+std::optional<Error> errorOf(std::string_view attempt, std::string_view path, int failure) {
+    return failure == 0 ? std::nullopt : std::optional(systemError(attempt, path, failure));
 }
 
 struct CloseDirectory {
@@ -136,12 +210,20 @@ std::optional<Error> PosixFileManager::writeText(std::string_view text, std::str
     int failure = EINVAL;
     if (!hasNul(path)) {
         const std::string file(path);
-        failure = atomicity == Atomicity::Atomic ? AtomicFile::replace(file, text)
+        failure = atomicity == Atomicity::Atomic ? writeAtomically(file, text)
                                                  : writeDirectly(file, text);
     }
-    if (failure == 0)
-        return std::nullopt;
-    return systemError("save the file", path, failure);
+    return errorOf("save the file", path, failure);
+}
+
+Replacement PosixFileManager::replaceItem(std::string_view former, std::string_view text,
+                                          std::string_view path) {
+    if (hasNul(former))
+        return {systemError("remove", former, EINVAL), writeText(text, path, Atomicity::Atomic)};
+    const Outcome outcome = hasNul(path) ? Outcome{refusalToRemove(std::string(former)), EINVAL}
+                                         : replace(std::string(former), std::string(path), text);
+    return {errorOf("remove", former, outcome.removal),
+            errorOf("save the file", path, outcome.write)};
 }
 
 std::optional<Error> PosixFileManager::createDirectory(std::string_view path) {
@@ -151,13 +233,7 @@ std::optional<Error> PosixFileManager::createDirectory(std::string_view path) {
 }
 
 std::optional<Error> PosixFileManager::removeItem(std::string_view path) {
-    std::error_code failure(hasNul(path) ? EINVAL : refusalToRemove(std::string(path)),
-                            std::generic_category());
-    if (!failure)
-        std::filesystem::remove_all(path, failure);
-    if (!failure)
-        return std::nullopt;
-    return systemError("remove", path, failure.value());
+    return errorOf("remove", path, hasNul(path) ? EINVAL : remove(std::string(path)));
 }
 
 } // namespace zarvil::posix

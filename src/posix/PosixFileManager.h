@@ -20,6 +20,8 @@ public:
 
     [[nodiscard]] std::optional<Error> writeText(std::string_view text, std::string_view path,
                                                  Atomicity atomicity) override;
+    [[nodiscard]] Replacement replaceItem(std::string_view former, std::string_view text,
+                                          std::string_view path) override;
     [[nodiscard]] std::optional<Error> createDirectory(std::string_view path) override;
     [[nodiscard]] std::optional<Error> removeItem(std::string_view path) override;
 

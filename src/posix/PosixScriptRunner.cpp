@@ -5,6 +5,7 @@
 #include "posix/ScriptProcess.h"
 #include "posix/SystemError.h"
 #include "posix/Utf8.h"
+#include "protocol/NonCopyable.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -47,7 +48,7 @@ std::vector<std::string> interpreterOf(std::string_view source) {
 }
 
 /// A script's text in a file that only this user can read, for as long as this lives.
-class TemporaryScript {
+class TemporaryScript : NonCopyable {
 public:
     TemporaryScript() {
         const char* folder = std::getenv("TMPDIR");
@@ -57,8 +58,6 @@ public:
             failure_ = errno;
         exists_ = file_.isOpen();
     }
-    TemporaryScript(const TemporaryScript&) = delete;
-    TemporaryScript& operator=(const TemporaryScript&) = delete;
     ~TemporaryScript() {
         if (exists_)
             ::unlink(path_.c_str());

@@ -1,72 +1,16 @@
 #include "posix/Utf8.h"
 
-#include <cstdint>
+#include "interface/DisplayText.h"
 
 namespace zarvil::posix {
 
-namespace {
-
-/// Length of the well-formed sequence at the start of the bytes, 0 without one.
-std::size_t sequenceLength(std::string_view bytes) {
-    const auto at = [&bytes](std::size_t index) {
-        return index < bytes.size() ? static_cast<std::uint8_t>(bytes[index]) : std::uint8_t{0};
-    };
-    const auto continues = [&at](std::size_t from, std::size_t end) {
-        for (std::size_t index = from; index < end; ++index) {
-            if ((at(index) & 0xC0) != 0x80)
-                return false;
-        }
-        return true;
-    };
-    const std::uint8_t lead = at(0);
-    const std::uint8_t second = at(1);
-    if (lead < 0x80)
-        return bytes.empty() ? 0 : 1;
-    if (lead >= 0xC2 && lead <= 0xDF)
-        return continues(1, 2) ? 2 : 0;
-    if ((lead & 0xF0) == 0xE0) {
-        const bool overlong = lead == 0xE0 && second < 0xA0;
-        const bool surrogate = lead == 0xED && second > 0x9F;
-        return !overlong && !surrogate && continues(1, 3) ? 3 : 0;
-    }
-    if (lead >= 0xF0 && lead <= 0xF4) {
-        const bool overlong = lead == 0xF0 && second < 0x90;
-        const bool beyondUnicode = lead == 0xF4 && second > 0x8F;
-        return !overlong && !beyondUnicode && continues(1, 4) ? 4 : 0;
-    }
-    return 0;
-}
-
-} // namespace
-
-bool isValidUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const std::size_t length = sequenceLength(bytes);
-        if (length == 0)
-            return false;
-        bytes.remove_prefix(length);
-    }
-    return true;
-}
-
 std::string printableLine(std::string_view bytes) {
-    constexpr char deleteCharacter = 0x7F;
-    std::string line;
-    while (!bytes.empty()) {
-        const std::size_t length = sequenceLength(bytes);
-        const auto lead = static_cast<std::uint8_t>(bytes.front());
-        if (length == 0)
-            line += "\uFFFD";
-        else if (lead < 0x20 || bytes.front() == deleteCharacter)
-            line += ' ';
-        else
-            line += bytes.substr(0, length);
-        bytes.remove_prefix(length == 0 ? 1 : length);
-    }
-    const std::size_t first = line.find_first_not_of(' ');
-    if (first == std::string::npos)
+    constexpr std::string_view blanks = " \t\r\n\v\f";
+    const std::size_t first = bytes.find_first_not_of(blanks);
+    if (first == std::string_view::npos)
         return {};
-    return line.substr(first, line.find_last_not_of(' ') - first + 1);
+    return showableText(bytes.substr(first, bytes.find_last_not_of(blanks) - first + 1),
+                        longestShownMessage);
 }
 
 } // namespace zarvil::posix

@@ -1,7 +1,9 @@
 #include "AgentHarness.h"
-#include "agent/PropertyListFile.h"
 
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace zarvil::agent {
 namespace {
@@ -51,20 +53,8 @@ TEST_F(Settings, ofAnUnknownKeyOrAWrongTypeAreDropped) {
 }
 
 TEST_F(Settings, ofAFileThatCannotBeReadAreKeptAside) {
-    const QByteArray header = "<?xml version=\"1.0\"?><plist version=\"1.0\">";
-    QByteArray deep;
-    for (int level = 0; level < 10'000; ++level)
-        deep += "<array>";
     const std::vector<QByteArray> corrupt{
-        "",
-        "no XML",
-        QByteArray("\0\xff\xfe", 3),
-        header,
-        header + "<array/></plist>",
-        header + "<dict><key>a</key></dict></plist>",
-        header + "<dict><key>a</key><integer>x</integer></dict></plist>",
-        header + "<dict><key>a</key><true/></dict>",
-        header + "<dict><key>a</key>" + deep,
+        "", "no JSON", QByteArray("\0\xff\xfe", 3), "[]", "{\"a\":", QByteArray(10'000, '['),
     };
     qsizetype kept = 0;
     for (const QByteArray& contents : corrupt) {
@@ -77,17 +67,13 @@ TEST_F(Settings, ofAFileThatCannotBeReadAreKeptAside) {
     }
     QFile second(settingsFile() + ".unreadable-2");
     ASSERT_TRUE(second.open(QIODevice::ReadOnly));
-    EXPECT_EQ(second.readAll(), "no XML");
+    EXPECT_EQ(second.readAll(), "no JSON");
 }
 
 TEST_F(Settings, ofWrongTypesInTheFileAreLeftOutAndStrangeOnesKept) {
     agent.reset();
-    writeFile("<plist version=\"1.0\"><dict>"
-              "<key>LaunchAtLogin</key><string>yes</string>"
-              "<key>ShutdownDelay</key><integer>7</integer>"
-              "<key>Strange</key><date>2020-01-01T00:00:00Z</date>"
-              "<key>SavedDevices</key><array><string>x</string><dict/></array>"
-              "</dict></plist>");
+    writeFile(R"({"LaunchAtLogin": "yes", "ShutdownDelay": 7, "Strange": [1.5, "day", {"a": true}],
+                  "SavedDevices": ["x", {}]})");
     start();
     EXPECT_EQ(reported().objectForKey(setting::launchAtLogin), nullptr);
     EXPECT_EQ(reported().integerForKey(setting::shutdownDelay), 7);
@@ -96,17 +82,19 @@ TEST_F(Settings, ofWrongTypesInTheFileAreLeftOutAndStrangeOnesKept) {
     restart();
     QFile file(settingsFile());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const auto contents = readPropertyList(file.readAll());
-    ASSERT_TRUE(std::holds_alternative<Dictionary>(contents));
-    EXPECT_TRUE(std::get<Dictionary>(contents).stringForKey("Strange"));
+    const QJsonValue strange = QJsonDocument::fromJson(file.readAll()).object().value("Strange");
+    EXPECT_EQ(strange, QJsonDocument::fromJson(R"([1.5, "day", {"a": true}])").array());
 }
 
-TEST_F(Settings, thatCannotBeWrittenAreReportedAndKeptInMemory) {
+TEST_F(Settings, thatCannotBeWrittenAreReportedKeptInMemoryAndWrittenLater) {
     QFile blocking(folder.filePath("a"));
     ASSERT_TRUE(blocking.open(QIODevice::WriteOnly));
     change(setting::shutdownDelay, 5);
     ASSERT_TRUE(waitFor([&] { return logText().contains("Cannot write the settings"); }));
     EXPECT_EQ(reported().integerForKey(setting::shutdownDelay), 5);
+    ASSERT_TRUE(blocking.remove());
+    EXPECT_TRUE(waitFor([&] { return QFile::exists(settingsFile()); }));
+    EXPECT_EQ(logText().count("Cannot write the settings"), 1);
 }
 
 } // namespace

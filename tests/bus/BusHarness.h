@@ -53,8 +53,8 @@ protected:
     }
 
     static QDBusMessage signal(std::string_view name, const QVariantList& arguments = {}) {
-        QDBusMessage message = QDBusMessage::createSignal(
-            bus::path, bus::interface, QString::fromUtf8(name.data(), qsizetype(name.size())));
+        QDBusMessage message =
+            QDBusMessage::createSignal(bus::path, bus::interface, QString::fromUtf8(name));
         message.setArguments(arguments);
         return message;
     }

@@ -19,8 +19,6 @@ QString contents(const char* name) {
     return QString::fromUtf8(file.readAll());
 }
 
-QString text(std::string_view text) { return QString::fromStdString(std::string(text)); }
-
 QString typeName(setting::Type type) {
     switch (type) {
     case setting::Type::Boolean:
@@ -36,9 +34,9 @@ QString typeName(setting::Type type) {
 Facts directions() {
     Facts names;
     for (const std::string_view name : message::paneToAgent)
-        names.emplace(text(name), "pane-to-agent");
+        names.emplace(QString::fromUtf8(name), "pane-to-agent");
     for (const std::string_view name : message::agentToPane)
-        names.emplace(text(name), "agent-to-pane");
+        names.emplace(QString::fromUtf8(name), "agent-to-pane");
     return names;
 }
 
@@ -67,7 +65,8 @@ TEST(ProtocolDocs, xmlHasEveryMessageAndSettingAndNoOther) {
             signal = name;
         else if (name == "com.Tessrow.Zarvil.Direction")
             messages.emplace(signal, value);
-        else if (name.startsWith("com.Tessrow.Zarvil.Key.") && signal == text(message::savedPrefs))
+        else if (name.startsWith("com.Tessrow.Zarvil.Key.") &&
+                 signal == QString::fromUtf8(message::savedPrefs))
             settings.emplace(name.section('.', -1), value);
         EXPECT_TRUE(xml.name() != u"arg" || xml.attributes().value("type") == u"a{sv}")
             << qPrintable(signal);
@@ -76,7 +75,7 @@ TEST(ProtocolDocs, xmlHasEveryMessageAndSettingAndNoOther) {
     EXPECT_EQ(messages, directions());
     Facts types;
     for (const setting::Description& known : setting::table)
-        types.emplace(text(known.key), typeName(known.type));
+        types.emplace(QString::fromUtf8(known.key), typeName(known.type));
     EXPECT_EQ(settings, types);
 }
 
@@ -93,9 +92,9 @@ TEST(ProtocolDocs, textHasEveryMessageAndSettingAndNoOther) {
     for (const setting::Description& known : setting::table) {
         const QString sent = known.sent == setting::SentByPane::Yes ? "yes" : "no";
         const QString read = known.read == setting::ReadByPane::Yes ? "yes" : "no";
-        ASSERT_TRUE(rows.contains(text(known.key))) << known.key;
+        ASSERT_TRUE(rows.contains(QString::fromUtf8(known.key))) << known.key;
         const QString start = " " + typeName(known.type) + " | " + sent + " | " + read + " |";
-        EXPECT_TRUE(rows.at(text(known.key)).startsWith(start)) << known.key;
+        EXPECT_TRUE(rows.at(QString::fromUtf8(known.key)).startsWith(start)) << known.key;
     }
 }
 

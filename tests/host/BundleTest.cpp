@@ -3,6 +3,8 @@
 
 #include <QLibraryInfo>
 
+#include <sys/stat.h>
+
 namespace zarvil::host {
 namespace {
 
@@ -68,6 +70,22 @@ TEST_F(BundleTest, brokenDescriptionsSayWhatIsWrong) {
     EXPECT_EQ(failureOf(path("none.prefPane"))->fault, BundleFault::NotFound);
     EXPECT_EQ(failureOf(path("file.prefPane"))->fault, BundleFault::NotABundle);
     EXPECT_EQ(failureOf(path("empty.prefPane"))->fault, BundleFault::NotABundle);
+    QDir().mkpath(path("pipe.prefPane/Contents"));
+    ASSERT_EQ(::mkfifo(qPrintable(path("pipe.prefPane/Contents/Info.json")), 0600), 0);
+    EXPECT_EQ(failureOf(path("pipe.prefPane"))->fault, BundleFault::NotABundle);
+}
+
+TEST_F(BundleTest, itsOwnWordsAreMadeFitForDisplay) {
+    auto hostile = info("Broken");
+    hostile["name"] = "\u202Eenap <img src='/dev/zero'>";
+    hostile["library"] = QString(3 << 20, 'x');
+    writeInfo("hostile.prefPane", hostile);
+    EXPECT_LT(failureOf(path("hostile.prefPane"))->message.size(), 5000);
+    write("hostile.prefPane/Contents/libsample.so", "");
+    hostile["library"] = "libsample.so";
+    writeInfo("hostile.prefPane", hostile);
+    const auto read = readBundle(path("hostile.prefPane"));
+    EXPECT_EQ(std::get<Bundle>(read).name, "\uFFFDenap <img src='/dev/zero'>");
 }
 
 TEST_F(BundleTest, librariesThatAreNoPaneAreRefused) {

@@ -13,7 +13,7 @@ TEST(CommandLineTest, goodOnesAreUnderstood) {
     const QTemporaryDir folder;
     const QString root = QDir(folder.path()).canonicalPath();
     const auto parsed = [](const QStringList& arguments, const QString& environment = {}) {
-        const auto outcome = parseCommandLine(arguments, environment);
+        const auto outcome = parseCommandLine(QStringList{"program"} + arguments, environment);
         EXPECT_TRUE(std::holds_alternative<CommandLine>(outcome))
             << arguments.join(' ').toStdString();
         return std::holds_alternative<CommandLine>(outcome) ? std::get<CommandLine>(outcome)
@@ -39,8 +39,8 @@ TEST(CommandLineTest, wrongOnesSayWhatIsWrong) {
         QString environment;
         QString says;
     } cases[] = {
-        {{"--wrong"}, {}, "--wrong"},
-        {{"--root"}, {}, "--root needs a value"},
+        {{"--wrong"}, {}, "wrong"},
+        {{"--root"}, {}, "--root"},
         {{"--root", ""}, {}, "is not a folder"},
         {{"--root=" + file.fileName()}, {}, "is not a folder"},
         {{"--appearance", "blue"}, {}, "blue"},
@@ -49,7 +49,8 @@ TEST(CommandLineTest, wrongOnesSayWhatIsWrong) {
         {{""}, {}, "empty"},
     };
     for (const auto& row : cases) {
-        const auto outcome = parseCommandLine(row.arguments, row.environment);
+        const auto outcome =
+            parseCommandLine(QStringList{"program"} + row.arguments, row.environment);
         ASSERT_TRUE(std::holds_alternative<UsageError>(outcome)) << row.says.toStdString();
         EXPECT_TRUE(std::get<UsageError>(outcome).message.contains(row.says))
             << std::get<UsageError>(outcome).message.toStdString();

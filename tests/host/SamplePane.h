@@ -11,9 +11,9 @@ namespace zarvil::sample {
 class SampleView final : public QWidget {
     Q_OBJECT
 public:
-    Q_INVOKABLE void decide(bool leave) { emit decided(leave); }
+    Q_INVOKABLE void decide(bool leave) { Q_EMIT decided(leave); }
 
-signals:
+Q_SIGNALS:
     void decided(bool leave);
 };
 

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <csignal>
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -81,12 +79,59 @@ TEST_F(FileManagerTest, bothWaysOfWritingReplaceTheWholeContentAndKeepTheMode) {
     for (const Atomicity atomicity : {direct, atomic}) {
         const auto path = script("x");
         ASSERT_EQ(files.writeText("a longer first text", path.string(), atomicity), std::nullopt);
+        EXPECT_EQ(fs::status(path).permissions(), fs::perms{0600}) << "new: its owner's alone";
         ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
         ASSERT_EQ(files.writeText("short", path.string(), atomicity), std::nullopt);
         EXPECT_EQ(get(path), "short");
         EXPECT_EQ(fs::status(path).permissions(), fs::perms{0640});
         EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
         fs::remove(path);
+    }
+}
+
+TEST_F(FileManagerTest, aReplacementKeepsTheFormerItemUntilItsSuccessorIsSafe) {
+    struct Case {
+        std::string former, path;
+        int removal, write;
+        std::set<std::string> left;
+    };
+    const Case cases[] = {
+        {"x", "y", 0, 0, {"y", "dir", "link"}},
+        {"x", "x", 0, 0, {"x", "dir", "link"}},
+        {"x", "./x", 0, 0, {"x", "dir", "link"}},
+        {"x", "link/../x", 0, 0, {"x", "dir", "link"}},
+        {"absent", "y", ENOENT, 0, {"x", "y", "dir", "link"}},
+        {"absent", "no/y", ENOENT, ENOENT, {"x", "dir", "link"}},
+        {"x", "no/y", 0, ENOENT, {"x", "dir", "link"}},
+        {"x", "dir", 0, EISDIR, {"x", "dir", "link"}},
+        {"x", "nul\0"s, 0, EINVAL, {"x", "dir", "link"}},
+        {"nul\0"s, "y", EINVAL, 0, {"x", "y", "dir", "link"}},
+        {"x", std::string(300, 'n'), 0, ENAMETOOLONG, {"x", "dir", "link"}},
+        {"dir", "dir", 0, 0, {"x", "dir", "link"}},
+        {"dir", "y", 0, 0, {"x", "y", "link"}},
+        {"dir", "dir/y", 0, ENOENT, {"x", "dir", "link"}},
+        {"dir", "link/y", 0, ENOENT, {"x", "dir", "link"}},
+        {"link", "y", 0, 0, {"x", "y", "dir"}},
+    };
+    for (const Case& c : cases) {
+        fs::remove_all(scripts());
+        fs::create_directories(script("dir"));
+        put(script("dir/kept"), "kept");
+        fs::create_directory_symlink("dir", script("link"));
+        put(script("x"), "old");
+        ASSERT_EQ(::chmod(script("x").c_str(), 0640), 0);
+        const std::string folder = script("").string();
+        const Replacement outcome = files.replaceItem(folder + c.former, "new", folder + c.path);
+        const std::string name = c.former + " by " + c.path;
+        EXPECT_EQ(outcome.removal ? outcome.removal->code : 0, c.removal) << name;
+        EXPECT_EQ(outcome.write ? outcome.write->code : 0, c.write) << name;
+        EXPECT_EQ(namesIn(scripts()), c.left) << name;
+        const std::string kept = get(script("x")) + get(script("dir/kept"));
+        EXPECT_EQ(c.write == 0 ? get(script(c.path)) : kept, c.write == 0 ? "new" : "oldkept")
+            << name;
+        if (c.write == 0 && c.former == "x") {
+            EXPECT_EQ(fs::status(script(c.path)).permissions(), fs::perms{0640}) << name;
+        }
     }
 }
 
@@ -159,6 +204,7 @@ TEST_F(FileManagerTest, aReadOnlyFolderRefusesEveryChangeAndLosesNothing) {
         };
         return refused(files.writeText("new", script("x").string(), atomic)) &&
                refused(files.writeText("", script("y").string(), direct)) &&
+               refused(files.replaceItem(script("x").string(), "", script("y").string()).removal) &&
                refused(files.removeItem(script("x").string())) &&
                refused(files.removeItem(script("folder").string())) &&
                refused(files.removeItem(script("folder").string() + "//")) &&
@@ -180,7 +226,9 @@ TEST_F(FileManagerTest, aFileThatOutgrowsTheLimitLeavesTheOldOneAndNoRemains) {
         const std::string text(1 << 20, 't');
         const auto saved = files.writeText(text, script("x").string(), atomic);
         const auto created = files.writeText(text, script("y").string(), direct);
-        return saved && saved->code == EFBIG && created && created->code == EFBIG;
+        const auto renamed = files.replaceItem(script("x").string(), text, script("z").string());
+        return saved && saved->code == EFBIG && created && created->code == EFBIG &&
+               !renamed.removal && renamed.write && renamed.write->code == EFBIG;
     }));
     EXPECT_EQ(get(script("x")), "old");
     EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
@@ -191,16 +239,6 @@ TEST_F(FileManagerTest, theNextSaveTakesAwayWhatAKilledOneLeftBehind) {
     ASSERT_EQ(files.writeText("whole", script("x").string(), atomic), std::nullopt);
     EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
     EXPECT_EQ(get(script("x")), "whole");
-}
-
-TEST_F(FileManagerTest, aSaveLeavesTheTemporaryFileOfAnotherProcessAlone) {
-    put(script(".zarvil-save"), "being written");
-    const int held = ::open(script(".zarvil-save").c_str(), O_RDONLY | O_CLOEXEC);
-    ASSERT_EQ(::flock(held, LOCK_EX), 0);
-    EXPECT_EQ(files.writeText("mine", script("x").string(), atomic), std::nullopt);
-    EXPECT_THAT(namesIn(scripts()), ElementsAre(".zarvil-save", "x"));
-    EXPECT_EQ(get(script(".zarvil-save")), "being written");
-    ::close(held);
 }
 
 } // namespace

@@ -84,7 +84,7 @@ TEST_F(ScriptRunnerTest, aFailureCarriesTheStatusAndTheLastLineOfTheErrorOutput)
         {"exit 3", {3, "The script failed with exit status 3 and gave no reason."}},
         {"echo first >&2; echo last >&2; exit 4", {4, "last"}},
         {"printf 'last\\n \\n\\n\\t\\n' >&2; exit 1", {1, "last"}},
-        {"printf ' \\033[31mred\\r\\n' >&2; exit 1", {1, "[31mred"}},
+        {"printf ' \\033[31mred\\r\\n' >&2; exit 1", {1, "\u241B[31mred"}},
         {"printf 'a\\377b' >&2; exit 1", {1, "a\uFFFDb"}},
         {"printf 'last\\n' >&2; head -c 300000 /dev/zero | tr '\\0' '\\n' >&2; exit 1",
          {1, "last"}},

@@ -103,6 +103,24 @@ TEST_F(ScriptsFolder, foldersAndLinksAmongTheScriptsAreListedEmpty) {
     EXPECT_THAT(namesIn(scripts()), ElementsAre("sub.d"));
 }
 
+TEST_F(ScriptsFolder, aByteOrderMarkIsNoPartOfTheText) {
+    put(script("marked.zvscript"), "\xEF\xBB\xBF#!/bin/sh\n");
+    disk.reload();
+    disk.edit("marked", "renamed", "");
+    EXPECT_EQ(get(script("renamed.zvscript")), "#!/bin/sh\n");
+}
+
+TEST_F(ScriptsFolder, aTitleThatNamesNoFileKeepsTheFormerOne) {
+    put(script("a.zvscript"), "old");
+    disk.reload();
+    disk.edit("a", "no/such", "typed");
+    EXPECT_EQ(get(script("a.zvscript")), "old");
+    disk.edit("no/such", "b", "");
+    EXPECT_EQ(get(script("b.zvscript")), "typed");
+    EXPECT_THAT(namesIn(scripts()), ElementsAre("b.zvscript"));
+    EXPECT_THAT(disk.errors.presented, IsEmpty());
+}
+
 TEST_F(ScriptsFolder, aFileInTheFoldersPlaceIsShownAndKept) {
     fs::remove(scripts());
     put(scripts(), "in the way");

@@ -237,6 +237,21 @@ public:
         files[key] = text;
         return std::nullopt;
     }
+    Replacement replaceItem(std::string_view former, std::string_view text,
+                            std::string_view path) override {
+        const std::string key(path);
+        log.push_back("replace " + std::string(former) + " by " + key);
+        const bool refused = kindOfItem(former) == FileKind::Missing;
+        Replacement outcome{refused ? std::optional(failure(former)) : std::nullopt, {}};
+        if (failing.contains(key) || !folders.contains(key.substr(0, key.rfind('/')))) {
+            outcome.write = failure(path);
+            return outcome;
+        }
+        if (!refused)
+            files.erase(std::string(former));
+        files[key] = text;
+        return outcome;
+    }
     std::optional<Error> createDirectory(std::string_view path) override {
         log.push_back("create folder " + std::string(path));
         const std::string key(path);

@@ -81,7 +81,7 @@ private:
         return "(" + text(rect.x) + ", " + text(rect.y) + ", " + text(rect.width) + ", " +
                text(rect.height) + ")";
     }
-    /// A gray is "white/alpha", any other colour "red,green,blue/alpha".
+    /// A gray is "white/alpha", any other color "red,green,blue/alpha".
     static std::string text(const Color& color) {
         if (color.red == color.green && color.green == color.blue)
             return text(color.red) + "/" + text(color.alpha);

@@ -137,12 +137,9 @@ class Session:
 
     def stored(self, key):
         """What the agent has stored under a key, as text; None when it has not."""
-        import plistlib
-
         if not self.settings_file.exists():
             return None
-        with open(self.settings_file, "rb") as file:
-            return plistlib.load(file).get(key)
+        return json.loads(self.settings_file.read_text()).get(key)
 
     # The bus.
 
@@ -295,7 +292,7 @@ class Pane:
         wait_until(lambda: self.alert() is None, "the alert is gone")
 
     def pixels(self, name):
-        """The colours that a thing has on the screen, as red, green and blue of 0 to 255."""
+        """The colors that a thing has on the screen, as red, green and blue of 0 to 255."""
         area = self.get(name).get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         picture = subprocess.run(
             ["import", "-silent", "-window", "root", "-crop",

@@ -106,23 +106,23 @@ class Alerts(SystemTest):
         super().start()
         self.pane.choose_tab("Alerts")
 
-    def shows_colour(self, label, colour):
-        return any(all(abs(is_ - wanted) <= 2 for is_, wanted in zip(pixel, colour))
+    def shows_color(self, label, color):
+        return any(all(abs(is_ - wanted) <= 2 for is_, wanted in zip(pixel, color))
                    for pixel in self.pane.pixels(label))
 
     def test_every_verdict_of_a_push_check_is_told_and_acted_upon(self):
         self.start()
         self.pane.press(self.SWITCH)
         wait_until(lambda: self.session.stored("UsePushover"), "the switch is stored")
-        for code, text, colour, kept in (
+        for code, text, color, kept in (
                 (0, "Settings are valid!", self.GREEN, True),
                 (1, "Connection timeout! Check your Internet connection!", self.RED, True),
                 (2, "Invalid settings! Check your User ID and Device ID(if any)", self.RED, False),
                 (7, "Unknow error!", self.RED, False)):
             with self.subTest(code=code):
-                self.check_verdict(code, text, colour, kept)
+                self.check_verdict(code, text, color, kept)
 
-    def check_verdict(self, code, text, colour, kept):
+    def check_verdict(self, code, text, color, kept):
         self.tell(f"push {code}")
         self.pane.enter(self.USER, f"user{code}")
         self.pane.enter(self.DEVICE, f"device{code}")
@@ -138,7 +138,7 @@ class Alerts(SystemTest):
         for name in (self.USER, self.DEVICE, self.TEST):
             self.assertTrue(self.pane.enabled(name), name)
         # The box fades in.
-        wait_until(lambda: self.shows_colour(text, colour), "the verdict has its colour")
+        wait_until(lambda: self.shows_color(text, color), "the verdict has its color")
         wait_until(lambda: self.stored_ids() == (ids if kept else ("", "")), "the IDs are right")
         self.assertEqual((self.pane.text(self.USER), self.pane.text(self.DEVICE)), ids)
 

@@ -3,7 +3,6 @@
 import hashlib
 import os
 import pathlib
-import plistlib
 import signal
 import subprocess
 import unittest
@@ -82,7 +81,7 @@ class Uninstall(MaintenanceTest):
         (scripts / "Say goodbye.scpt").write_text("say \"goodbye\"")
         self.session.settings_file.parent.mkdir()
         (self.session.settings_file.parent / "com.Tessrow.Other.plist").write_text("{}")
-        self.session.settings_file.write_bytes(plistlib.dumps({"ShutdownDelay": 75}))
+        self.session.settings_file.write_text(json.dumps({"ShutdownDelay": 75}))
 
     @property
     def application(self):

@@ -138,6 +138,7 @@ void Zarvil_Preferences::pushValidationFinished(const Message* message) {
     pushValidationStatus.setAttributedStringValue(
         AttributedString(platform_.strings.localizedString(verdict.text), look));
     pushValidationStatus.setHidden(false);
+    guidance.verdictSymbol.setSymbol(verdict.color == approving ? Symbol::Tick : Symbol::Warning);
 }
 
 // The fields keep what the user typed; only what the agent stores is emptied.

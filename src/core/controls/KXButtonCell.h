@@ -31,7 +31,7 @@ public:
     /// Whether the two titles are drawn beside the knob.
     void setShowStateExtras(bool show) { _showStateExtras = show; }
     [[nodiscard]] bool showStateExtras() const { return _showStateExtras; }
-    /// Colour of the titles; white when unset.
+    /// Color of the titles; white when unset.
     void setFontColor(std::optional<Color> color) { _fontColor = color; }
     [[nodiscard]] std::optional<Color> fontColor() const { return _fontColor; }
     /// Fill under the track's gradient; nothing when unset.

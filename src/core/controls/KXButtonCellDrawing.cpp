@@ -6,7 +6,7 @@ namespace zarvil {
 
 namespace {
 
-/// The constants are single-precision ones, as the colours of the original were.
+/// The constants are single-precision ones, as colors of the original platform were.
 constexpr Color black(float alpha) { return Color::gray(0, static_cast<double>(alpha)); }
 
 constexpr Color washOut = Color::gray(1, static_cast<double>(0.66F));

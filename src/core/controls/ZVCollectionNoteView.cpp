@@ -6,7 +6,7 @@ namespace {
 
 constexpr double cornerRadius = 8;
 constexpr double outlineWidth = 1;
-/// The pale colour lies at the top: y grows upwards.
+/// The pale color lies at the top: y grows upwards.
 constexpr double cardAngle = -90;
 constexpr Shadow cardShadow{Color::gray(0, 0.5), 3, {0, 0}};
 

@@ -6,7 +6,7 @@ namespace zarvil {
 
 namespace {
 
-/// The first colours lie at the top: y grows upwards here.
+/// The first colors lie at the top: y grows upwards here.
 constexpr Bevel panelBevel{6, -90, 0.5F, 0.2F};
 constexpr double grooveDistance = 40;
 constexpr Color grooveLight = Color::gray(1, static_cast<double>(0.4F));

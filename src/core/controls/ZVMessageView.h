@@ -2,26 +2,21 @@
 
 #include "interface/View.h"
 #include "platform/Canvas.h"
+#include "protocol/NonCopyable.h"
 
 #include <memory>
 
 namespace zarvil {
 
 /// Capabilities of a delegate that runs a countdown; it may have either, both or none.
-class TimerPausing {
+class TimerPausing : NonCopyable {
 public:
-    TimerPausing() = default;
-    TimerPausing(const TimerPausing&) = delete;
-    TimerPausing& operator=(const TimerPausing&) = delete;
     virtual ~TimerPausing() = default;
     virtual void pauseTimer() = 0;
 };
 
-class TimerResuming {
+class TimerResuming : NonCopyable {
 public:
-    TimerResuming() = default;
-    TimerResuming(const TimerResuming&) = delete;
-    TimerResuming& operator=(const TimerResuming&) = delete;
     virtual ~TimerResuming() = default;
     virtual void resumeTimer() = 0;
 };

@@ -6,7 +6,7 @@ namespace zarvil {
 
 namespace {
 
-/// The first colours lie at the top: y grows downwards here, so the angle differs from the panel's
+/// The first colors lie at the top: y grows downwards here, so the angle differs from the panel's
 /// on purpose.
 constexpr Bevel normalBevel{4, 90, 0.7F, 0.4F};
 constexpr Bevel pressedBevel{4, 90, 0.1F, 0.3F};

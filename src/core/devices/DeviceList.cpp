@@ -26,92 +26,60 @@ bool isSameDevice(const Dictionary& left, const Dictionary& right) {
     });
 }
 
-/// Equal for the same device; defined for incomplete records too, so that they are found again.
 std::size_t identityHash(const Dictionary& device) {
+    if (!hasIdentity(device))
+        return contentHash(device);
     std::size_t hash = 0;
     for (const std::string_view key : identityKeys) {
         constexpr std::size_t multiplier = 0x9e3779b97f4a7c15U; // 2^64 divided by the golden ratio
-        const std::string* text = device.stringForKey(key);
-        hash = hash * multiplier + (text ? std::hash<std::string_view>{}(*text) : 0);
+        hash = hash * multiplier + std::hash<std::string_view>{}(*device.stringForKey(key));
     }
     return hash;
 }
 
 } // namespace
 
-DeviceList::DeviceList(const ArrayController& followed)
-    : followedChanges_(
-          followed.observe([this](const ListChange& change) { contentDidChange(change); })) {}
+std::size_t deviceHash(const MutableRecord& device) { return identityHash(device.contents()); }
+
+Record firstSameDevice(const ArrayController& list, const Dictionary& device) {
+    return list.firstOfHash(identityHash(device), [&device](const Record& record) {
+        return isSameDevice(record->contents(), device);
+    });
+}
 
 void DeviceList::add(Record record) {
-    serials_.reset();
-    auto& sameHash = positions_[identityHash(record->contents())];
+    const Dictionary& device = record->contents();
+    if (const Value* serial = device.objectForKey(payload::deviceSerial))
+        ++serials_[*serial];
+    auto& sameHash = positions_[identityHash(device)];
     sameHash.push_back(records_.insert(records_.end(), std::move(record)));
 }
 
-void DeviceList::remove(const Record& record) {
-    const auto listed = positions_.find(identityHash(record->contents()));
+void DeviceList::removeSameDevice(const Dictionary& device) {
+    const auto listed = positions_.find(identityHash(device));
     if (listed == positions_.end())
         return;
     auto& sameHash = listed->second;
-    const auto found = std::ranges::find_if(
-        sameHash, [&record](Position position) { return *position == record; });
+    const auto found = std::ranges::find_if(sameHash, [&device](Position position) {
+        return isSameDevice((*position)->contents(), device);
+    });
     if (found == sameHash.end())
         return;
-    serials_.reset();
-    const Position position = *found;
+    const auto serial = serials_.find(*device.objectForKey(payload::deviceSerial));
+    if (--serial->second == 0)
+        serials_.erase(serial);
+    records_.erase(*found);
     sameHash.erase(found);
     if (sameHash.empty())
         positions_.erase(listed);
-    records_.erase(position);
 }
 
 void DeviceList::clear() {
-    serials_.reset();
+    serials_.clear();
     positions_.clear();
     records_.clear();
 }
 
-Record DeviceList::firstSameDevice(const Dictionary& device) const {
-    // Spares an incomplete device the comparison with all the incomplete ones that share its hash.
-    if (!hasIdentity(device))
-        return nullptr;
-    const auto listed = positions_.find(identityHash(device));
-    if (listed == positions_.end())
-        return nullptr;
-    for (const Position position : listed->second) {
-        if (isSameDevice((*position)->contents(), device))
-            return *position;
-    }
-    return nullptr;
-}
-
-bool DeviceList::containsSerial(const Value& serial) const {
-    if (!serials_)
-        collectSerials();
-    return serials_->contains(serial);
-}
-
-void DeviceList::collectSerials() const {
-    serials_.emplace();
-    for (const Record& record : records_) {
-        if (const Value* serial = record->contents().objectForKey(payload::deviceSerial))
-            serials_->insert(*serial);
-    }
-}
-
-void DeviceList::contentDidChange(const ListChange& change) {
-    switch (change.kind) {
-    case ListChange::Kind::Inserted:
-        add(change.record);
-        break;
-    case ListChange::Kind::Removed:
-        remove(change.record);
-        break;
-    case ListChange::Kind::Cleared:
-        clear();
-        break;
-    }
-}
+bool DeviceList::containsSerial(const Value& serial) const { return serials_.contains(serial); }
 
 } // namespace zarvil

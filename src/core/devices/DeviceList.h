@@ -1,34 +1,37 @@
 #pragma once
 
 #include "interface/ArrayController.h"
+#include "protocol/NonCopyable.h"
 
 #include <list>
-#include <optional>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace zarvil {
 
+/// Equal for the same device. Incomplete records, which are the same as nothing, spread by their
+/// contents.
+[[nodiscard]] std::size_t deviceHash(const MutableRecord& device);
+
+/// The first record, in a list that is hashed by `deviceHash`, whose name, vendor and serial all
+/// equal the device's, byte by byte, or null. A value that is missing or is no string never equals
+/// anything.
+[[nodiscard]] Record firstSameDevice(const ArrayController& list, const Dictionary& device);
+
 /// Device records in the order of their arrival, equal ones side by side, and two ways to look
 /// one up. A look-up gives the answer of a walk in order without walking. Records are not edited
 /// while they are listed.
-class DeviceList {
+class DeviceList : NonCopyable {
 public:
     DeviceList() = default;
-    /// Follows the arranged objects of a controller, which it does not own.
-    explicit DeviceList(const ArrayController& followed);
     DeviceList(const DeviceList&) = delete;
     DeviceList& operator=(const DeviceList&) = delete;
 
     void add(Record record);
-    /// Removes this very record, once.
-    void remove(const Record& record);
+    /// Removes the first same device, if there is one.
+    void removeSameDevice(const Dictionary& device);
     void clear();
 
-    /// The first record whose name, vendor and serial all equal the device's, byte by byte, or
-    /// null. A value that is missing or is no string never equals anything.
-    [[nodiscard]] Record firstSameDevice(const Dictionary& device) const;
     /// Whether a record's serial is an equal object, whatever its kind.
     [[nodiscard]] bool containsSerial(const Value& serial) const;
     [[nodiscard]] const std::list<Record>& records() const { return records_; }
@@ -39,16 +42,10 @@ private:
         std::size_t operator()(const Value& value) const { return contentHash(value); }
     };
 
-    void contentDidChange(const ListChange& change);
-    void collectSerials() const;
-
     std::list<Record> records_;
     /// Positions under one hash stand in the order of arrival.
     std::unordered_map<std::size_t, std::vector<Position>> positions_;
-    /// Collected when first asked for and dropped by every change: many are asked for in a row
-    /// only while nothing arrives.
-    mutable std::optional<std::unordered_set<Value, ContentHash>> serials_;
-    Subscription followedChanges_;
+    std::unordered_map<Value, std::size_t, ContentHash> serials_; ///< how many have each
 };
 
 } // namespace zarvil

@@ -69,7 +69,7 @@ void Zarvil_Preferences::newSavedDevice(const Message* message) {
 
 void Zarvil_Preferences::addDevice(const Record& record) {
     allConnectedDevices_.add(record);
-    if (watchedDevices_.firstSameDevice(record->contents()))
+    if (firstSameDevice(savedArrayController, record->contents()))
         return;
     arrayController.addObject(record);
     arrayController.rearrangeObjects();
@@ -77,9 +77,8 @@ void Zarvil_Preferences::addDevice(const Record& record) {
 
 // A watched device stays in its list, ticked, while it is unplugged.
 void Zarvil_Preferences::removeDevice(const Dictionary& device) {
-    if (const Record known = allConnectedDevices_.firstSameDevice(device))
-        allConnectedDevices_.remove(known);
-    if (const Record shown = unwatchedDevices_.firstSameDevice(device)) {
+    allConnectedDevices_.removeSameDevice(device);
+    if (const Record shown = firstSameDevice(arrayController, device)) {
         arrayController.removeObject(shown);
         arrayController.rearrangeObjects();
     }
@@ -88,7 +87,7 @@ void Zarvil_Preferences::removeDevice(const Dictionary& device) {
 void Zarvil_Preferences::addSavedDevice(const Record& record) {
     savedArrayController.addObject(record);
     // The first of equal records gets the tick, even if this one stands behind it.
-    const auto index = savedArrayController.indexOfObject(record->contents());
+    const auto index = savedArrayController.indexOfObject(record);
     if (!index)
         return;
     if (const auto item = selectedDevices.itemAtIndexAs<ZVCollectionItem>(*index))

@@ -2,6 +2,7 @@
 
 #include "interface/CollectionView.h"
 #include "interface/Property.h"
+#include "platform/StringTable.h"
 
 namespace zarvil {
 
@@ -9,11 +10,8 @@ class ZVCollectionItem;
 
 /// Capability of a collection view's delegate: it is told when the user ticked or unticked an
 /// item. The item may leave its list, and the view may drop it, during the call.
-class DeviceStateDelegate {
+class DeviceStateDelegate : NonCopyable {
 public:
-    DeviceStateDelegate() = default;
-    DeviceStateDelegate(const DeviceStateDelegate&) = delete;
-    DeviceStateDelegate& operator=(const DeviceStateDelegate&) = delete;
     virtual ~DeviceStateDelegate() = default;
 
     virtual void stateDidChange(ZVCollectionItem& item) = 0;
@@ -22,6 +20,9 @@ public:
 /// Shows one device record with a check box: ticked means saved for watching.
 class ZVCollectionItem final : public CollectionViewItem {
 public:
+    /// The table must outlive the item.
+    explicit ZVCollectionItem(const StringTable& strings) : strings_(strings) {}
+
     // Events in.
     /// The user clicked the check box: takes the new state and tells the delegate.
     void userDidSetState(unsigned long state);
@@ -30,16 +31,33 @@ public:
 
     // State.
     /// 0 not saved, 1 saved.
-    [[nodiscard]] unsigned long state() const { return state_.get(); }
-    void setState(unsigned long state) { state_.set(state); }
-    [[nodiscard]] const Property<unsigned long>& stateProperty() const { return state_; }
+    [[nodiscard]] unsigned long state() const { return state_; }
+    void setState(unsigned long state);
+
+    // Texts, fit for display.
+    [[nodiscard]] std::string name() const;
+    /// Vendor and serial number, below the name.
+    [[nodiscard]] std::string detail() const;
+    /// All three, longer, a line each.
+    [[nodiscard]] std::string toolTip() const;
+    /// What an assistive program calls the row.
+    [[nodiscard]] std::string spokenName() const;
 
     /// The card that the item stands on.
     [[nodiscard]] View& note() { return note_; }
 
 private:
-    Property<unsigned long> state_{0};
+    [[nodiscard]] std::string text(std::string_view key, std::size_t limit) const;
+    [[nodiscard]] std::string name(std::size_t limit) const;
+    [[nodiscard]] std::string serial(std::size_t limit) const;
+    [[nodiscard]] std::string joined(std::string_view separator, std::size_t limit) const;
+
+    const StringTable& strings_;
+    unsigned long state_ = 0;
     View note_;
 };
+
+/// A device's place in a list that is sorted by name.
+[[nodiscard]] std::string deviceSortKey(const MutableRecord& device);
 
 } // namespace zarvil

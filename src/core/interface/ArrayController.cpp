@@ -1,98 +1,77 @@
 #include "interface/ArrayController.h"
 
-#include <algorithm>
-
 namespace zarvil {
 
 void ArrayController::addObject(Record record) {
-    const Serial serial = nextSerial_++;
-    const std::size_t hash = contentHash(record->contents());
-    list(hash, serial);
-    entries_.push_back({serial, hash, record->observeEdits([this, serial] { rehash(serial); })});
-    records_.push_back(std::move(record));
-    const ListChange change{ListChange::Kind::Inserted, records_.size() - 1, records_.back()};
-    observers_.notify(change);
+    auto added = std::make_unique<Entry>(
+        Entry{nextSerial_++, hash_(*record), std::move(record), Subscription()});
+    Entry& entry = *added;
+    entry.edits = entry.record->observeEdits([this, &entry] { recordWasEdited(entry); });
+    list(entry);
+    entries_.insert(entries_.size(), std::move(added));
+    observers_.notify({ListChange::Kind::Inserted, entry.serial, entry.record});
 }
 
 void ArrayController::removeObject(const Record& record) {
-    if (const auto same = indexOfIdentity(record))
-        removeAt(*same);
-    else if (const auto equal = indexOfObject(record->contents()))
-        removeAt(*equal);
+    const Entry* listed =
+        firstEntry(hash_(*record), [&](const Record& candidate) { return candidate == record; });
+    if (!listed)
+        listed = firstEqual(record);
+    if (!listed)
+        return;
+    unlist(*listed);
+    const auto removed = entries_.take(indexOf(*listed));
+    observers_.notify({ListChange::Kind::Removed, removed->serial, removed->record});
 }
 
 void ArrayController::removeAllArrangedObjects() {
-    if (records_.empty())
+    if (entries_.empty())
         return;
-    records_.clear();
+    entriesByHash_.clear();
     entries_.clear();
-    serialsByHash_.clear();
     observers_.notify({ListChange::Kind::Cleared, 0, nullptr});
 }
 
-std::optional<std::size_t> ArrayController::indexOfObject(const Dictionary& contents) const {
-    const auto listed = serialsByHash_.find(contentHash(contents));
-    if (listed == serialsByHash_.end())
-        return std::nullopt;
-    for (const Serial serial : listed->second) {
-        const std::size_t index = indexOfSerial(serial);
-        if (records_[index]->contents() == contents)
-            return index;
-    }
-    return std::nullopt;
+std::optional<std::size_t> ArrayController::indexOfObject(const Record& record) const {
+    const Entry* equal = firstEqual(record);
+    return equal ? std::optional(indexOf(*equal)) : std::nullopt;
 }
 
 Subscription ArrayController::observe(Observer observer) const {
-    for (std::size_t index = 0; index < records_.size(); ++index)
-        observer({ListChange::Kind::Inserted, index, records_[index]});
+    for (const auto& entry : entries_)
+        observer({ListChange::Kind::Inserted, entry->serial, entry->record});
     return observers_.add(std::move(observer));
 }
 
-std::size_t ArrayController::indexOfSerial(Serial serial) const {
-    const auto found = std::ranges::lower_bound(entries_, serial, {}, &Entry::serial);
-    return static_cast<std::size_t>(found - entries_.begin());
+const ArrayController::Entry* ArrayController::firstEqual(const Record& record) const {
+    return firstEntry(hash_(*record), [&](const Record& candidate) {
+        return candidate == record || candidate->contents() == record->contents();
+    });
 }
 
-std::optional<std::size_t> ArrayController::indexOfIdentity(const Record& record) const {
-    const auto listed = serialsByHash_.find(contentHash(record->contents()));
-    if (listed == serialsByHash_.end())
-        return std::nullopt;
-    for (const Serial serial : listed->second) {
-        const std::size_t index = indexOfSerial(serial);
-        if (records_[index] == record)
-            return index;
-    }
-    return std::nullopt;
+std::size_t ArrayController::indexOf(const Entry& entry) const {
+    return entries_.partitionPoint(
+        [&entry](const auto& candidate) { return candidate->serial < entry.serial; });
 }
 
-void ArrayController::rehash(Serial serial) {
-    const std::size_t index = indexOfSerial(serial);
-    Entry& entry = entries_[index];
+void ArrayController::recordWasEdited(Entry& entry) {
     unlist(entry);
-    entry.hash = contentHash(records_[index]->contents());
-    list(entry.hash, serial);
+    entry.hash = hash_(*entry.record);
+    list(entry);
+    observers_.notify({ListChange::Kind::Edited, entry.serial, entry.record});
 }
 
-void ArrayController::list(std::size_t hash, Serial serial) {
-    auto& serials = serialsByHash_[hash];
-    serials.insert(std::ranges::upper_bound(serials, serial), serial);
+void ArrayController::list(Entry& entry) {
+    auto& sameHash = entriesByHash_[entry.hash];
+    sameHash.insert(std::ranges::upper_bound(sameHash, entry.serial, {}, &Entry::serial), &entry);
 }
 
 void ArrayController::unlist(const Entry& entry) {
-    const auto listed = serialsByHash_.find(entry.hash);
-    auto& serials = listed->second;
-    serials.erase(std::ranges::lower_bound(serials, entry.serial));
-    if (serials.empty())
-        serialsByHash_.erase(listed);
-}
-
-void ArrayController::removeAt(std::size_t index) {
-    const auto offset = static_cast<std::ptrdiff_t>(index);
-    const Record removed = records_[index];
-    unlist(entries_[index]);
-    entries_.erase(entries_.begin() + offset);
-    records_.erase(records_.begin() + offset);
-    observers_.notify({ListChange::Kind::Removed, index, removed});
+    const auto listed = entriesByHash_.find(entry.hash);
+    auto& sameHash = listed->second;
+    sameHash.erase(std::ranges::lower_bound(sameHash, entry.serial, {}, &Entry::serial));
+    if (sameHash.empty())
+        entriesByHash_.erase(listed);
 }
 
 } // namespace zarvil

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "interface/ChunkedList.h"
 #include "interface/Record.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,27 +12,79 @@
 
 namespace zarvil {
 
-/// How a list changed: a record came or went at an index, or all records went.
+/// Orders the records of a list by their addition; a record keeps its serial while its index
+/// shifts. Never used twice by one list.
+using RecordSerial = std::uint64_t;
+
+/// How a list changed: a record came, went or was edited, or all records went.
 struct ListChange {
-    enum class Kind : std::uint8_t { Inserted, Removed, Cleared };
+    enum class Kind : std::uint8_t { Inserted, Removed, Edited, Cleared };
     Kind kind;
-    std::size_t index;
-    Record record; ///< null when all went
+    RecordSerial serial; ///< 0 when all went
+    Record record;       ///< null when all went
 };
 
-/// The records of a list in the order in which they are shown. No sort order is set, so that is
-/// the order of their addition. Looking a record up answers as a walk in order would, in constant
-/// time.
+/// The records of a list in the order of their addition. Looking a record up answers as a walk in
+/// order would, in constant time.
 class ArrayController {
+    struct Entry {
+        RecordSerial serial;
+        std::size_t hash; ///< kept current by watching the record's edits
+        Record record;
+        Subscription edits;
+    };
+    using Entries = ChunkedList<std::unique_ptr<Entry>>;
+
 public:
     using Observer = std::function<void(const ListChange&)>;
+    /// Equal for records of equal contents.
+    using Hash = std::size_t (*)(const MutableRecord&);
 
-    ArrayController() = default;
+    /// The records, as a range and by index.
+    class ArrangedObjects {
+    public:
+        class Iterator {
+        public:
+            using value_type = Record;
+            using difference_type = std::ptrdiff_t;
+
+            Iterator() = default;
+            explicit Iterator(Entries::Iterator entry) : entry_(entry) {}
+            const Record& operator*() const { return (*entry_)->record; }
+            Iterator& operator++() {
+                ++entry_;
+                return *this;
+            }
+            Iterator operator++(int) { return Iterator(entry_++); }
+            friend bool operator==(const Iterator&, const Iterator&) = default;
+
+        private:
+            Entries::Iterator entry_;
+        };
+
+        explicit ArrangedObjects(const Entries& entries) : entries_(&entries) {}
+        [[nodiscard]] Iterator begin() const { return Iterator(entries_->begin()); }
+        [[nodiscard]] Iterator end() const { return Iterator(entries_->end()); }
+        [[nodiscard]] std::size_t size() const { return entries_->size(); }
+        [[nodiscard]] const Record& operator[](std::size_t index) const {
+            return (*entries_)[index]->record;
+        }
+        /// Throws behind the end.
+        [[nodiscard]] const Record& at(std::size_t index) const {
+            return entries_->at(index)->record;
+        }
+
+    private:
+        const Entries* entries_;
+    };
+
+    /// A hash of what records are most often looked up by serves `firstOfHash` as well.
+    explicit ArrayController(Hash hash = &hashOfContents) : hash_(hash) {}
     ArrayController(const ArrayController&) = delete;
     ArrayController& operator=(const ArrayController&) = delete;
 
-    [[nodiscard]] const std::vector<Record>& arrangedObjects() const { return records_; }
-    [[nodiscard]] bool empty() const { return records_.empty(); }
+    [[nodiscard]] ArrangedObjects arrangedObjects() const { return ArrangedObjects(entries_); }
+    [[nodiscard]] bool empty() const { return entries_.empty(); }
 
     /// Shares the record; equal ones may stand side by side.
     void addObject(Record record);
@@ -40,33 +94,46 @@ public:
     /// Sorts anew: without a sort order the records stay as they were added.
     void rearrangeObjects() {}
 
-    /// Index of the first record of equal contents.
-    [[nodiscard]] std::optional<std::size_t> indexOfObject(const Dictionary& contents) const;
+    /// Index of the first record of contents equal to those of this one.
+    [[nodiscard]] std::optional<std::size_t> indexOfObject(const Record& record) const;
+    [[nodiscard]] RecordSerial serialAtIndex(std::size_t index) const {
+        return entries_[index]->serial;
+    }
+    /// The first record that a walk over those of one hash finds, or null.
+    template <typename Predicate>
+    [[nodiscard]] Record firstOfHash(std::size_t hash, Predicate&& matches) const {
+        const Entry* entry = firstEntry(hash, matches);
+        return entry ? entry->record : nullptr;
+    }
 
     /// The new observer is first told of every record that is listed.
     Subscription observe(Observer observer) const;
 
+    [[nodiscard]] static std::size_t hashOfContents(const MutableRecord& record) {
+        return contentHash(record.contents());
+    }
+
 private:
-    /// Orders the records by their addition; a record keeps its number while its index shifts.
-    using Serial = std::uint64_t;
-    struct Entry {
-        Serial serial;
-        std::size_t hash; ///< of the contents, kept current by watching the record's edits
-        Subscription edits;
-    };
-
-    [[nodiscard]] std::size_t indexOfSerial(Serial serial) const;
-    [[nodiscard]] std::optional<std::size_t> indexOfIdentity(const Record& record) const;
-    void rehash(Serial serial);
-    void list(std::size_t hash, Serial serial);
+    template <typename Predicate>
+    [[nodiscard]] const Entry* firstEntry(std::size_t hash, Predicate&& matches) const {
+        const auto listed = entriesByHash_.find(hash);
+        if (listed == entriesByHash_.end())
+            return nullptr;
+        const auto found = std::ranges::find_if(
+            listed->second, [&](const Entry* entry) { return matches(entry->record); });
+        return found == listed->second.end() ? nullptr : *found;
+    }
+    [[nodiscard]] const Entry* firstEqual(const Record& record) const;
+    [[nodiscard]] std::size_t indexOf(const Entry& entry) const;
+    void recordWasEdited(Entry& entry);
+    void list(Entry& entry);
     void unlist(const Entry& entry);
-    void removeAt(std::size_t index);
 
-    std::vector<Record> records_;
-    std::vector<Entry> entries_; ///< beside `records_`, with ascending serials
-    /// Serials in ascending order, so that the first match is the walk's answer.
-    std::unordered_map<std::size_t, std::vector<Serial>> serialsByHash_;
-    Serial nextSerial_ = 0;
+    Hash hash_;
+    Entries entries_; ///< with ascending serials
+    /// In the order of their serials, so that the first match is the walk's answer.
+    std::unordered_map<std::size_t, std::vector<Entry*>> entriesByHash_;
+    RecordSerial nextSerial_ = 1;
     mutable ObserverList<const ListChange&> observers_;
 };
 

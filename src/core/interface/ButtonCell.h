@@ -2,6 +2,7 @@
 
 #include "interface/Geometry.h"
 #include "interface/Property.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstdint>
 #include <string>
@@ -34,11 +35,8 @@ inline constexpr unsigned trackableArea = 4;
 } // namespace cellHit
 
 /// Capability of a control view that can redraw one cell at once.
-class CellDrawing {
+class CellDrawing : NonCopyable {
 public:
-    CellDrawing() = default;
-    CellDrawing(const CellDrawing&) = delete;
-    CellDrawing& operator=(const CellDrawing&) = delete;
     virtual ~CellDrawing() = default;
 
     virtual void drawCell(ButtonCell& cell) = 0;
@@ -46,11 +44,8 @@ public:
 
 /// The part of a button that holds its state and follows the mouse. This base is the standard
 /// button; drawn controls derive from it. Points are in the control view's coordinates.
-class ButtonCell {
+class ButtonCell : NonCopyable {
 public:
-    ButtonCell() = default;
-    ButtonCell(const ButtonCell&) = delete;
-    ButtonCell& operator=(const ButtonCell&) = delete;
     virtual ~ButtonCell() = default;
 
     void setState(int state) { state_.set(state); }

@@ -1,51 +1,147 @@
 #include "interface/CollectionView.h"
 
+#include <tuple>
+
 namespace zarvil {
 
-CollectionView::CollectionView(ArrayController& content, Prototype prototype)
+using Kind = RowChange::Kind;
+using Phase = RowChange::Phase;
+
+void CollectionViewItem::appearanceDidChange() {
+    if (!collectionView_)
+        return;
+    if (const auto row = collectionView_->rowOfSerial(serial_))
+        collectionView_->notify(Kind::Changed, Phase::After, *row);
+}
+
+CollectionView::CollectionView(ArrayController& content, Prototype prototype, SortKey sortKey)
     : content_(content),
       prototype_(std::move(prototype)),
+      sortKey_(sortKey),
       contentChanges_(
           content.observe([this](const ListChange& change) { contentDidChange(change); })) {}
 
 CollectionView::~CollectionView() {
-    for (const auto& item : items_)
-        release(item);
+    for (const auto& row : rows_)
+        release(*row);
 }
 
 std::shared_ptr<CollectionViewItem> CollectionView::itemAtIndex(std::size_t index) {
-    if (index >= items_.size())
+    if (index >= content_.arrangedObjects().size())
         return nullptr;
-    auto& item = items_[index];
-    if (!item) {
-        item = prototype_();
-        item->setRepresentedObject(content_.arrangedObjects()[index]);
-        item->setCollectionView(this);
-    }
-    return item;
+    const auto listed = rowsBySerial_.find(content_.serialAtIndex(index));
+    return listed == rowsBySerial_.end() ? nullptr : itemOf(*listed->second);
+}
+
+std::shared_ptr<CollectionViewItem> CollectionView::itemAtRow(std::size_t row) {
+    return row < rows_.size() ? itemOf(*rows_[row]) : nullptr;
+}
+
+RecordSerial CollectionView::serialAtRow(std::size_t row) const {
+    return row < rows_.size() ? rows_[row]->serial : 0;
+}
+
+std::optional<std::size_t> CollectionView::rowOfSerial(RecordSerial serial) const {
+    const auto listed = rowsBySerial_.find(serial);
+    return listed == rowsBySerial_.end() ? std::nullopt
+                                         : std::optional(placeOf(listed->second->key, serial));
+}
+
+Subscription CollectionView::observeRows(RowObserver observer) const {
+    return observers_.add(std::move(observer));
 }
 
 void CollectionView::contentDidChange(const ListChange& change) {
-    const auto offset = static_cast<std::ptrdiff_t>(change.index);
     switch (change.kind) {
     case ListChange::Kind::Inserted:
-        items_.insert(items_.begin() + offset, nullptr);
+        insert(change);
         break;
     case ListChange::Kind::Removed:
-        release(items_[change.index]);
-        items_.erase(items_.begin() + offset);
+        remove(change.serial);
+        break;
+    case ListChange::Kind::Edited:
+        moveToItsPlace(change.serial);
+        notify(Kind::Changed, Phase::After, *rowOfSerial(change.serial));
         break;
     case ListChange::Kind::Cleared:
-        for (const auto& item : items_)
-            release(item);
-        items_.clear();
+        clear();
         break;
     }
+    rowCount_.set(rows_.size());
 }
 
-void CollectionView::release(const std::shared_ptr<CollectionViewItem>& item) {
-    if (item)
-        item->setCollectionView(nullptr);
+void CollectionView::insert(const ListChange& change) {
+    auto added = std::make_unique<Row>(Row{sortKey_ ? sortKey_(*change.record) : std::string(),
+                                           change.serial, change.record, nullptr});
+    Row& row = *added;
+    const std::size_t place = placeOf(row.key, row.serial);
+    notify(Kind::Inserted, Phase::Before, place);
+    rows_.insert(place, std::move(added));
+    rowsBySerial_.emplace(row.serial, &row);
+    notify(Kind::Inserted, Phase::After, place);
+}
+
+void CollectionView::remove(RecordSerial serial) {
+    const auto listed = rowsBySerial_.find(serial);
+    const std::size_t place = placeOf(listed->second->key, serial);
+    notify(Kind::Removed, Phase::Before, place);
+    const auto removed = rows_.take(place);
+    rowsBySerial_.erase(serial);
+    release(*removed);
+    notify(Kind::Removed, Phase::After, place);
+}
+
+void CollectionView::moveToItsPlace(RecordSerial serial) {
+    if (!sortKey_)
+        return;
+    Row& row = *rowsBySerial_.find(serial)->second;
+    std::string key = sortKey_(*row.record);
+    const std::size_t from = placeOf(row.key, serial);
+    const std::size_t behind = placeOf(key, serial);
+    const std::size_t to = behind > from ? behind - 1 : behind;
+    if (to == from) {
+        row.key = std::move(key);
+        return;
+    }
+    notify(Kind::Moved, Phase::Before, from, to);
+    auto moved = rows_.take(from);
+    row.key = std::move(key);
+    rows_.insert(to, std::move(moved));
+    notify(Kind::Moved, Phase::After, from, to);
+}
+
+void CollectionView::clear() {
+    notify(Kind::Cleared, Phase::Before, 0);
+    const auto gone = std::exchange(rows_, {});
+    rowsBySerial_.clear();
+    for (const auto& row : gone)
+        release(*row);
+    notify(Kind::Cleared, Phase::After, 0);
+}
+
+std::size_t CollectionView::placeOf(const std::string& key, RecordSerial serial) const {
+    return rows_.partitionPoint([&](const auto& other) {
+        return std::tie(other->key, other->serial) < std::tie(key, serial);
+    });
+}
+
+std::shared_ptr<CollectionViewItem> CollectionView::itemOf(Row& row) {
+    if (!row.item) {
+        row.item = prototype_();
+        row.item->representedObject_ = row.record;
+        row.item->serial_ = row.serial;
+        row.item->collectionView_ = this;
+    }
+    return row.item;
+}
+
+void CollectionView::notify(Kind kind, Phase phase, std::size_t row, std::size_t to) {
+    observers_.notify({kind, phase, row, to});
+}
+
+void CollectionView::release(const Row& row) {
+    if (row.item)
+        row.item->collectionView_ = nullptr;
 }
 
 } // namespace zarvil

@@ -2,52 +2,69 @@
 
 #include "interface/ArrayController.h"
 #include "interface/View.h"
+#include "protocol/NonCopyable.h"
 
 #include <functional>
 #include <memory>
-#include <vector>
+#include <string>
+#include <unordered_map>
 
 namespace zarvil {
 
 class CollectionView;
 
 /// Base of what a collection view tells its delegate; the delegate offers capabilities beside it.
-class CollectionViewDelegate {
+class CollectionViewDelegate : NonCopyable {
 public:
-    CollectionViewDelegate() = default;
-    CollectionViewDelegate(const CollectionViewDelegate&) = delete;
-    CollectionViewDelegate& operator=(const CollectionViewDelegate&) = delete;
     virtual ~CollectionViewDelegate() = default;
 };
 
 /// The controller of one cell of a collection view.
-class CollectionViewItem {
+class CollectionViewItem : NonCopyable {
 public:
-    CollectionViewItem() = default;
-    CollectionViewItem(const CollectionViewItem&) = delete;
-    CollectionViewItem& operator=(const CollectionViewItem&) = delete;
     virtual ~CollectionViewItem() = default;
 
-    void setRepresentedObject(Record record) { representedObject_ = std::move(record); }
     [[nodiscard]] const Record& representedObject() const { return representedObject_; }
     /// Not owned; null before the item stands in a view and after it has left.
-    void setCollectionView(CollectionView* view) { collectionView_ = view; }
     [[nodiscard]] CollectionView* collectionView() const { return collectionView_; }
 
+protected:
+    /// Has the view tell its observers that this item's row looks different.
+    void appearanceDidChange();
+
 private:
+    friend class CollectionView;
     Record representedObject_;
+    RecordSerial serial_ = 0;
     CollectionView* collectionView_ = nullptr;
 };
 
-/// Shows the arranged objects of an array controller: item i shows record i. Items are made when
-/// first asked for and go with their records; whoever calls an item's action that may remove it
-/// holds the item meanwhile.
+/// How the rows of a collection view change. Told twice, before and after, but for `Changed`.
+struct RowChange {
+    enum class Kind : std::uint8_t { Inserted, Removed, Moved, Changed, Cleared };
+    enum class Phase : std::uint8_t { Before, After };
+    Kind kind;
+    Phase phase;
+    std::size_t row = 0;
+    std::size_t to = 0; ///< of a row that moved: its row afterwards
+};
+
+/// Shows the arranged objects of an array controller. It is the one list that front ends observe:
+/// they keep no copy of it. Items are made when first asked for and go with their records; whoever
+/// calls an item's action that may remove it holds the item meanwhile.
+///
+/// Rows are what the user sees, from top to bottom, sorted where the view has an order; the
+/// indices of the arranged objects are not concerned by that.
 class CollectionView : public View {
 public:
     using Prototype = std::function<std::shared_ptr<CollectionViewItem>()>;
+    /// What a record is sorted by for display; records of one key stand in the order of their
+    /// addition, and without this all do.
+    using SortKey = std::string (*)(const MutableRecord&);
+    using RowObserver = std::function<void(const RowChange&)>;
 
     /// The content is not owned and must outlive the view.
-    CollectionView(ArrayController& content, Prototype prototype);
+    CollectionView(ArrayController& content, Prototype prototype, SortKey sortKey = nullptr);
     ~CollectionView() override;
 
     [[nodiscard]] ArrayController& content() const { return content_; }
@@ -55,21 +72,56 @@ public:
     void setDelegate(CollectionViewDelegate* delegate) { delegate_ = delegate; }
     [[nodiscard]] CollectionViewDelegate* delegate() const { return delegate_; }
 
-    /// Null behind the end.
+    /// The item of an arranged object. Null behind the end, and while the content is ahead of the
+    /// rows within one change.
     std::shared_ptr<CollectionViewItem> itemAtIndex(std::size_t index);
     template <typename Item>
     std::shared_ptr<Item> itemAtIndexAs(std::size_t index) {
         return std::dynamic_pointer_cast<Item>(itemAtIndex(index));
     }
 
+    [[nodiscard]] std::size_t rowCount() const { return rows_.size(); }
+    /// Null behind the end.
+    std::shared_ptr<CollectionViewItem> itemAtRow(std::size_t row);
+    template <typename Item>
+    std::shared_ptr<Item> itemAtRowAs(std::size_t row) {
+        return std::dynamic_pointer_cast<Item>(itemAtRow(row));
+    }
+    /// Tells a row apart while its number shifts; 0 behind the end.
+    [[nodiscard]] RecordSerial serialAtRow(std::size_t row) const;
+    [[nodiscard]] std::optional<std::size_t> rowOfSerial(RecordSerial serial) const;
+
+    /// The rows that are there are not replayed: they can be read.
+    Subscription observeRows(RowObserver observer) const;
+    [[nodiscard]] const Property<std::size_t>& rowCountProperty() const { return rowCount_; }
+
 private:
+    friend class CollectionViewItem;
+    struct Row {
+        std::string key;
+        RecordSerial serial;
+        Record record;
+        std::shared_ptr<CollectionViewItem> item; ///< null where not yet asked for
+    };
+
     void contentDidChange(const ListChange& change);
-    void release(const std::shared_ptr<CollectionViewItem>& item);
+    void insert(const ListChange& change);
+    void remove(RecordSerial serial);
+    void moveToItsPlace(RecordSerial serial);
+    void clear();
+    [[nodiscard]] std::size_t placeOf(const std::string& key, RecordSerial serial) const;
+    std::shared_ptr<CollectionViewItem> itemOf(Row& row);
+    void notify(RowChange::Kind kind, RowChange::Phase phase, std::size_t row, std::size_t to = 0);
+    static void release(const Row& row);
 
     ArrayController& content_;
     Prototype prototype_;
+    SortKey sortKey_;
     CollectionViewDelegate* delegate_ = nullptr;
-    std::vector<std::shared_ptr<CollectionViewItem>> items_; ///< null where not yet asked for
+    ChunkedList<std::unique_ptr<Row>> rows_; ///< by key, then serial
+    std::unordered_map<RecordSerial, Row*> rowsBySerial_;
+    Property<std::size_t> rowCount_;
+    mutable ObserverList<const RowChange&> observers_;
     Subscription contentChanges_;
 };
 

@@ -2,7 +2,7 @@
 
 namespace zarvil {
 
-/// A device colour, each component from 0 to 1.
+/// A device color, each component from 0 to 1.
 struct Color {
     double red = 0;
     double green = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/View.h"
+#include "protocol/NonCopyable.h"
 
 #include <string>
 #include <string_view>
@@ -10,11 +11,8 @@ namespace zarvil {
 class Control;
 
 /// Receives the actions of controls under their wire names, such as "toggleShowIcon:".
-class ActionTarget {
+class ActionTarget : NonCopyable {
 public:
-    ActionTarget() = default;
-    ActionTarget(const ActionTarget&) = delete;
-    ActionTarget& operator=(const ActionTarget&) = delete;
     virtual ~ActionTarget() = default;
 
     /// The sender is null when no control sent the action. Unknown actions are left alone.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/Geometry.h"
+#include "protocol/NonCopyable.h"
 
 namespace zarvil {
 
@@ -13,12 +14,10 @@ class Button;
 ///
 /// A cell that does not prefer tracking until mouse-up stops following the pointer that leaves the
 /// button, starts anew when it comes back, and does nothing when it is let go outside.
-class MouseLoop {
+class MouseLoop : NonCopyable {
 public:
     /// The button must outlive the loop.
     explicit MouseLoop(Button& button) : button_(button) {}
-    MouseLoop(const MouseLoop&) = delete;
-    MouseLoop& operator=(const MouseLoop&) = delete;
 
     /// False, and nothing begins, when the button is disabled or the point misses it.
     bool press(Point point);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <functional>
 #include <vector>
 
@@ -8,13 +10,9 @@ namespace zarvil {
 class TextField;
 
 /// Tells observers within this process that a user edited a text field. Main thread only.
-class NotificationCenter {
+class NotificationCenter : NonCopyable {
 public:
     using Handler = std::function<void(TextField&)>;
-
-    NotificationCenter() = default;
-    NotificationCenter(const NotificationCenter&) = delete;
-    NotificationCenter& operator=(const NotificationCenter&) = delete;
 
     /// Observes the edits of one field. An observer added twice is called twice.
     void addTextObserver(const void* observer, const TextField& field, Handler handler);

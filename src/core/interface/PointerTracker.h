@@ -2,6 +2,7 @@
 
 #include "interface/Geometry.h"
 #include "interface/TrackingArea.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,12 +17,10 @@ class View;
 enum class WindowActivity : std::uint8_t { Key, NotKey };
 
 /// Tells a view of the pointer's coming and going over its tracking areas, once each.
-class PointerTracker {
+class PointerTracker : NonCopyable {
 public:
     /// The view must outlive the tracker.
     explicit PointerTracker(View& view) : view_(view) {}
-    PointerTracker(const PointerTracker&) = delete;
-    PointerTracker& operator=(const PointerTracker&) = delete;
 
     /// To be called when the pointer moves and when the window's activity changes. The location is
     /// in the view's coordinates; none when the pointer is outside the view. A window that loses

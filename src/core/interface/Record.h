@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "protocol/ObserverList.h"
 #include "protocol/Value.h"
 
@@ -9,11 +10,9 @@ namespace zarvil {
 
 /// A dictionary that a list and the item that shows it share by reference, and that tells when it
 /// was edited. Has identity; copying its contents makes an independent record.
-class MutableRecord {
+class MutableRecord : NonCopyable {
 public:
     explicit MutableRecord(Dictionary contents) : contents_(std::move(contents)) {}
-    MutableRecord(const MutableRecord&) = delete;
-    MutableRecord& operator=(const MutableRecord&) = delete;
 
     [[nodiscard]] const Dictionary& contents() const { return contents_; }
     void setObject(std::string_view key, Value value) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/Geometry.h"
+#include "protocol/NonCopyable.h"
 
 #include <memory>
 
@@ -17,11 +18,8 @@ inline constexpr unsigned activeAlways = 128;
 } // namespace trackingOption
 
 /// Base of what a tracking area can carry for its view; it offers capabilities beside it.
-class TrackingDelegate {
+class TrackingDelegate : NonCopyable {
 public:
-    TrackingDelegate() = default;
-    TrackingDelegate(const TrackingDelegate&) = delete;
-    TrackingDelegate& operator=(const TrackingDelegate&) = delete;
     virtual ~TrackingDelegate() = default;
 };
 

@@ -3,6 +3,7 @@
 #include "interface/Geometry.h"
 #include "interface/Property.h"
 #include "interface/TrackingArea.h"
+#include "protocol/NonCopyable.h"
 
 #include <algorithm>
 #include <memory>
@@ -10,7 +11,8 @@
 
 namespace zarvil {
 
-/// Alpha values of dimming. Both widen a single-precision constant, as the originals do.
+/// Alpha values of dimming. Both widen a single-precision constant, as on the original
+/// platform.
 namespace alpha {
 
 inline constexpr double dimmed = static_cast<double>(0.3F);
@@ -21,11 +23,8 @@ inline constexpr double active = 1.0;
 
 /// What every element of a layout shows: visibility, dimming, place. Views have identity: they
 /// are neither copied nor moved.
-class View {
+class View : NonCopyable {
 public:
-    View() = default;
-    View(const View&) = delete;
-    View& operator=(const View&) = delete;
     virtual ~View() = default;
 
     void setHidden(bool hidden) { hidden_.set(hidden); }

@@ -64,12 +64,16 @@ void Zarvil_Preferences::setupPrefs(const Message* message) {
     show(showFailureNotifi, setting::showFailNotifi);
     show(checkForUpdates, setting::enableAutomaticChecks);
     testing = settings.boolForKey(setting::testing);
+    guidance.testDidChange(testing);
     testSettingsButton.setEnabled(!testing);
     showSavedScripts(settings);
     lostConnection = false;
 }
 
 void Zarvil_Preferences::showSavedDelay(const Dictionary& settings) {
+    guidance.delayDidChange(settings.objectForKey(setting::shutdownDelay)
+                                ? std::optional(settings.integerForKey(setting::shutdownDelay))
+                                : std::nullopt);
     if (toggleMinSec.state() == buttonState::on)
         shutdownDelayText.setFloatValue(settings.floatForKey(setting::shutdownDelay) /
                                         secondsPerMinute);
@@ -135,6 +139,7 @@ void Zarvil_Preferences::setShutdownDelay(Control* sender) {
     const std::int64_t seconds = toggleMinSec.state() == buttonState::on
                                      ? secondsFromMinutes(field->floatValue())
                                      : field->integerValue();
+    guidance.delayDidChange(seconds);
     postSetting(setting::shutdownDelay, seconds);
 }
 
@@ -156,6 +161,7 @@ void Zarvil_Preferences::toggleMinutesSeconds(Control* sender) {
 
 void Zarvil_Preferences::testShutdown(Control* sender) {
     testing = true;
+    guidance.testDidChange(true);
     if (sender)
         sender->setEnabled(false);
     post(message::testShutdown);
@@ -164,6 +170,7 @@ void Zarvil_Preferences::testShutdown(Control* sender) {
 void Zarvil_Preferences::testFinished(const Message* /*message*/) {
     testSettingsButton.setEnabled(state && !lostConnection);
     testing = false;
+    guidance.testDidChange(false);
 }
 
 } // namespace zarvil

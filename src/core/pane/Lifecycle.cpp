@@ -13,7 +13,7 @@ constexpr double pingPeriod = 3.0; // seconds
 } // namespace
 
 Zarvil_Preferences::Zarvil_Preferences(Platform& platform)
-    : Outlets(platform), platform_(platform) {
+    : Outlets(platform), guidance(*this, platform.strings), platform_(platform) {
     connectedDevices.setDelegate(this);
     selectedDevices.setDelegate(this);
     visitOutlets(*this, [this](std::string_view /*name*/, View& outlet) {
@@ -53,7 +53,12 @@ void Zarvil_Preferences::mainViewDidLoad() {
 }
 
 void Zarvil_Preferences::setUpAuthorization() {
-    authView.onClick = [this] { platform_.handlers.run([this] { clickLock(); }); };
+    authView.onClick = [this] {
+        platform_.handlers.run([this] {
+            guidance.lockWasClicked();
+            clickLock();
+        });
+    };
     authView.onUpdateStatus = [this] { checkAuthorization(Interaction::None); };
     authView.setAuthorizationRights({{std::string(product::adminRight)}});
     authView.setDelegate(this);

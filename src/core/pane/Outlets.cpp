@@ -12,7 +12,9 @@ std::unique_ptr<ButtonCell> switchCell(Platform& platform) {
     return std::make_unique<KXButtonCell>(platform.stickyClick, platform.clock);
 }
 
-std::shared_ptr<CollectionViewItem> deviceItem() { return std::make_shared<ZVCollectionItem>(); }
+CollectionView::Prototype deviceItem(const Platform& platform) {
+    return [&strings = platform.strings] { return std::make_shared<ZVCollectionItem>(strings); };
+}
 
 CollectionView::Prototype scriptItem(Platform& platform, ScriptProgress& progress) {
     return [&] { return std::make_shared<ZVScriptCollectionItem>(platform, progress); };
@@ -22,17 +24,18 @@ CollectionView::Prototype scriptItem(Platform& platform, ScriptProgress& progres
 
 Outlets::Outlets(Platform& platform)
     : togglePowerButton(ButtonKind::Toggle, switchCell(platform)),
-      connectedDevices(arrayController, deviceItem),
-      selectedDevices(savedArrayController, deviceItem),
+      connectedDevices(arrayController, deviceItem(platform), deviceSortKey),
+      selectedDevices(savedArrayController, deviceItem(platform)),
       toggleMinSec(ButtonKind::Toggle, switchCell(platform)),
       scriptProgress(platform),
-      scriptsCollection(scriptsArrayController, scriptItem(platform, scriptProgress)) {
+      scriptsCollection(scriptsArrayController, scriptItem(platform, scriptProgress),
+                        scriptSortKey),
+      placeholders({connectedDevices, selectedDevices, scriptsCollection, useScriptsButton},
+                   platform.strings) {
+    toggleMinSec.setTitle(platform.strings.localizedString("seconds"));
     showAgentAsAbsent();
     greyWhatNeedsTheAgent();
     pushValidationStatus.setHidden(true);
-    noBusDesc.setStringValue(platform.strings.localizedString(
-        "There is no session bus, so Zarvil cannot be reached. Trying again…"));
-    noBusDesc.setHidden(true);
 }
 
 void Outlets::showAgentAsAbsent() {

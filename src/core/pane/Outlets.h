@@ -1,13 +1,16 @@
 #pragma once
 
+#include "devices/DeviceList.h"
 #include "interface/AuthorizationView.h"
 #include "interface/Button.h"
 #include "interface/CollectionView.h"
 #include "interface/Panel.h"
 #include "interface/ProgressIndicator.h"
 #include "interface/TextField.h"
+#include "pane/ListPlaceholders.h"
 #include "pane/Platform.h"
 #include "scripts/ScriptProgress.h"
+#include "scripts/ScriptRecord.h"
 
 namespace zarvil {
 
@@ -26,12 +29,10 @@ public:
     Button launchButton;
     TextField launchedDesc;
     TextField notLaunchedDesc;
-    /// Shown while there is nothing that carries messages to the agent.
-    TextField noBusDesc;
 
     // Devices.
-    ArrayController arrayController;
-    ArrayController savedArrayController;
+    ArrayController arrayController{deviceHash};
+    ArrayController savedArrayController{deviceHash};
     CollectionView connectedDevices;
     CollectionView selectedDevices;
 
@@ -64,7 +65,7 @@ public:
     TextField pushValidationStatus;
 
     // Scripts.
-    ArrayController scriptsArrayController;
+    ArrayController scriptsArrayController{scriptHash};
     Button useScriptsButton{ButtonKind::Toggle};
     TextField scriptsTitle;
     Button createNewScript;
@@ -78,6 +79,8 @@ public:
     Button uninstallButton;
     Panel uninstallModal;
     Button link;
+
+    ListPlaceholders placeholders;
 
 private:
     void showAgentAsAbsent();
@@ -96,10 +99,12 @@ void visitOutlets(Outlets& outlets, Visitor&& visitor) {
     visitor("launchButton", outlets.launchButton);
     visitor("launchedDesc", outlets.launchedDesc);
     visitor("notLaunchedDesc", outlets.notLaunchedDesc);
-    visitor("noBusDesc", outlets.noBusDesc);
 
     visitor("connectedDevices", outlets.connectedDevices);
     visitor("selectedDevices", outlets.selectedDevices);
+    visitor("noneConnected", outlets.placeholders.noneConnected);
+    visitor("noneWatched", outlets.placeholders.noneWatched);
+    visitor("devicesUnknown", outlets.placeholders.devicesUnknown);
 
     visitor("launchAtLogin", outlets.launchAtLogin);
     visitor("showIcon", outlets.showIcon);
@@ -131,6 +136,7 @@ void visitOutlets(Outlets& outlets, Visitor&& visitor) {
     visitor("scriptsTitle", outlets.scriptsTitle);
     visitor("createNewScript", outlets.createNewScript);
     visitor("scriptsCollection", outlets.scriptsCollection);
+    visitor("noScripts", outlets.placeholders.noScripts);
 
     visitor("checkForUpdates", outlets.checkForUpdates);
     visitor("checkForUpdatesNow", outlets.checkForUpdatesNow);

@@ -24,6 +24,7 @@ void Zarvil_Preferences::appStatus() {
 }
 
 void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
+    guidance.agentDidAnswer();
     if (lostConnection) {
         lostConnection = false;
         emptyDeviceLists();
@@ -45,6 +46,7 @@ void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
 }
 
 void Zarvil_Preferences::appDidNotAnswer() {
+    guidance.agentDidNotAnswer();
     lostConnection = true;
     launchButton.setEnabled(true);
     appOfflineTimer.reset();
@@ -80,7 +82,7 @@ void Zarvil_Preferences::emptyDeviceLists() {
 
 void Zarvil_Preferences::launchApp(Control* /*sender*/) {
     launchButton.setEnabled(false);
-    platform_.workspace.launchApplication(agentApplicationPath());
+    guidance.launchDidBegin(platform_.workspace.launchApplication(agentApplicationPath()));
 }
 
 void Zarvil_Preferences::quitApp(Control* sender) {
@@ -119,11 +121,11 @@ void Zarvil_Preferences::quitePrefs(const Message* /*message*/) {
 void Zarvil_Preferences::linkChanged(LinkEvent event) {
     switch (event) {
     case LinkEvent::Up:
-        noBusDesc.setHidden(true);
+        guidance.busDidChange(true);
         break;
     case LinkEvent::Down:
         // No need to wait for an answer: what the user changed meanwhile would be lost.
-        noBusDesc.setHidden(false);
+        guidance.busDidChange(false);
         appDidNotAnswer();
         break;
     case LinkEvent::NewPeer:

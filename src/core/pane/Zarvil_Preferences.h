@@ -3,6 +3,7 @@
 #include "devices/DeviceList.h"
 #include "devices/ZVCollectionItem.h"
 #include "interface/NotificationCenter.h"
+#include "pane/Guidance.h"
 #include "pane/Outlets.h"
 #include "pane/Platform.h"
 #include "scripts/ZVScriptCollectionItem.h"
@@ -99,6 +100,7 @@ public:
     void unloadScripts();
     void create(Control* sender);
     void removeScript(const Record& record) override;
+    [[nodiscard]] bool admitsRemoval() override;
     void useScripts(Control* sender);
     void scriptsTitleChanged(TextField& field);
     void updateNewScriptsTitle(Control* sender);
@@ -120,6 +122,9 @@ public:
     void fbLike(Control* sender);
     void tweet(Control* sender);
     void feedback(Control* sender);
+
+    /// What is said of all this beside the outlets.
+    Guidance guidance;
 
     // State shared by the concerns.
     std::string appId;
@@ -186,6 +191,9 @@ private:
 
     [[nodiscard]] bool scriptExists(std::string_view title) const;
     void handToItem(const Record& record);
+    void keepDrafts();
+    void resumeDrafts();
+    std::shared_ptr<ZVScriptCollectionItem> itemOfDraft(const ScriptDraft& draft);
     /// Says why "Create" is greyed where the title alone does not.
     void showTitleFault();
 
@@ -195,13 +203,14 @@ private:
 
     Platform& platform_;
     DeviceList allConnectedDevices_;
-    DeviceList unwatchedDevices_{arrayController};
-    DeviceList watchedDevices_{savedArrayController};
     NotificationCenter textChanges_;
     Panel* ttip = nullptr;
     std::unique_ptr<Timer> appTimer;
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
+    /// Of scripts that are not listed at the moment.
+    std::vector<ScriptDraft> scriptDrafts_;
+    std::optional<double> lastRemoval_; ///< by a press, as the clock tells
     std::vector<Subscription> agentMessages_;
     Subscription link_;
     std::shared_ptr<char> lifetime_ = std::make_shared<char>();

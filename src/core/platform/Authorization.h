@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -16,13 +18,10 @@ struct AuthorizationOutcome {
 };
 
 /// Asks the system's authority about rights.
-class Authorization {
+class Authorization : NonCopyable {
 public:
     using Reply = std::function<void(const AuthorizationOutcome&)>;
 
-    Authorization() = default;
-    Authorization(const Authorization&) = delete;
-    Authorization& operator=(const Authorization&) = delete;
     virtual ~Authorization() = default;
 
     /// Never waits: the reply comes later on the main thread, once, unless this object goes first.

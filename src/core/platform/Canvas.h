@@ -3,6 +3,7 @@
 #include "interface/AttributedString.h"
 #include "interface/Color.h"
 #include "interface/Geometry.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstdint>
 #include <functional>
@@ -46,11 +47,11 @@ struct GradientStop {
     friend bool operator==(const GradientStop&, const GradientStop&) = default;
 };
 
-/// Colours that run into each other along a line.
+/// Colors that run into each other along a line.
 struct Gradient {
     std::vector<GradientStop> stops;
 
-    /// Spreads the colours from the start to the end at equal distances.
+    /// Spreads the colors from the start to the end at equal distances.
     [[nodiscard]] static Gradient evenlySpaced(const std::vector<Color>& colors);
     friend bool operator==(const Gradient&, const Gradient&) = default;
 };
@@ -62,7 +63,7 @@ struct GradientAxis {
 };
 
 /// The axis through the middle of a rectangle at an angle in degrees that leads from the x axis to
-/// the y axis, so long that the first and the last colour fall on the outermost corners.
+/// the y axis, so long that the first and the last color fall on the outermost corners.
 [[nodiscard]] GradientAxis gradientAxis(const Rect& rect, double angle);
 
 struct Shadow {
@@ -90,11 +91,8 @@ struct TextStyle {
 class Canvas;
 
 /// A picture of a front end's own making.
-class Image {
+class Image : NonCopyable {
 public:
-    Image() = default;
-    Image(const Image&) = delete;
-    Image& operator=(const Image&) = delete;
     virtual ~Image() = default;
 
     /// In points.
@@ -102,13 +100,10 @@ public:
 };
 
 /// Makes pictures that canvases of the same front end can draw.
-class ImageRenderer {
+class ImageRenderer : NonCopyable {
 public:
     using Drawing = std::function<void(Canvas&)>;
 
-    ImageRenderer() = default;
-    ImageRenderer(const ImageRenderer&) = delete;
-    ImageRenderer& operator=(const ImageRenderer&) = delete;
     virtual ~ImageRenderer() = default;
 
     /// The drawing's y grows upwards. It must own what it uses: it may be called later, and again
@@ -118,11 +113,8 @@ public:
 
 /// What drawn controls draw on, in a view's coordinates. Shadow and blend mode are part of the
 /// state and hold for each fill and stroke; text and images cast no shadow.
-class Canvas {
+class Canvas : NonCopyable {
 public:
-    Canvas() = default;
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
     virtual ~Canvas() = default;
 
     /// Whether y grows downwards.

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 namespace zarvil {
 
 /// Reads the time.
-class Clock {
+class Clock : NonCopyable {
 public:
-    Clock() = default;
-    Clock(const Clock&) = delete;
-    Clock& operator=(const Clock&) = delete;
     virtual ~Clock() = default;
 
     /// Seconds since the start of 2001, UTC.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 
 namespace zarvil {
@@ -7,11 +9,8 @@ namespace zarvil {
 enum class CursorShape : std::uint8_t { Arrow, PointingHand };
 
 /// The mouse pointer's look.
-class Cursor {
+class Cursor : NonCopyable {
 public:
-    Cursor() = default;
-    Cursor(const Cursor&) = delete;
-    Cursor& operator=(const Cursor&) = delete;
     virtual ~Cursor() = default;
 
     virtual void set(CursorShape shape) = 0;

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "platform/Error.h"
+#include "protocol/NonCopyable.h"
 
 namespace zarvil {
 
 /// Shows errors to the user in the application's standard alert.
-class ErrorPresenter {
+class ErrorPresenter : NonCopyable {
 public:
-    ErrorPresenter() = default;
-    ErrorPresenter(const ErrorPresenter&) = delete;
-    ErrorPresenter& operator=(const ErrorPresenter&) = delete;
     virtual ~ErrorPresenter() = default;
 
     /// Takes the error and returns at once; runs no event loop.

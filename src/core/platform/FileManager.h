@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Error.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstdint>
 #include <optional>
@@ -13,12 +14,15 @@ namespace zarvil {
 enum class FileKind : std::uint8_t { Missing, Directory, Other };
 enum class Atomicity : std::uint8_t { Direct, Atomic };
 
+/// What became of the two halves of a replacement; nothing where all went well.
+struct Replacement {
+    std::optional<Error> removal;
+    std::optional<Error> write;
+};
+
 /// The file system. Paths are absolute, UTF-8, with "/" between components.
-class FileManager {
+class FileManager : NonCopyable {
 public:
-    FileManager() = default;
-    FileManager(const FileManager&) = delete;
-    FileManager& operator=(const FileManager&) = delete;
     virtual ~FileManager() = default;
 
     /// Replaces a leading "~" by the user's home folder.
@@ -32,9 +36,14 @@ public:
     [[nodiscard]] virtual std::optional<std::string> readText(std::string_view path) const = 0;
 
     /// Replaces the whole content. An atomic write leaves the old content or the new one at every
-    /// moment, whatever happens to this process.
+    /// moment, whatever happens to this process. A new file is its owner's alone.
     [[nodiscard]] virtual std::optional<Error>
     writeText(std::string_view text, std::string_view path, Atomicity atomicity) = 0;
+    /// Removes the item `former` and writes the text to `path`, which may be the same, with the
+    /// mode of that item. Nothing goes before its successor is safe: `former` stays as it was where
+    /// the text cannot be written, and the text is written where `former` cannot be removed.
+    [[nodiscard]] virtual Replacement replaceItem(std::string_view former, std::string_view text,
+                                                  std::string_view path) = 0;
     /// Makes one folder; its parent must exist.
     [[nodiscard]] virtual std::optional<Error> createDirectory(std::string_view path) = 0;
     /// Removes a file, a symbolic link (never what it leads to) or a folder with its contents.

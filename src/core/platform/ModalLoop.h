@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 namespace zarvil {
 class Panel;
 }
@@ -7,11 +9,8 @@ class Panel;
 namespace zarvil {
 
 /// Nested run loops that a panel waits in.
-class ModalLoop {
+class ModalLoop : NonCopyable {
 public:
-    ModalLoop() = default;
-    ModalLoop(const ModalLoop&) = delete;
-    ModalLoop& operator=(const ModalLoop&) = delete;
     virtual ~ModalLoop() = default;
 
     /// Returns after `stopModal`.

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 
 namespace zarvil {
 
 /// Ends processes.
-class ProcessControl {
+class ProcessControl : NonCopyable {
 public:
-    ProcessControl() = default;
-    ProcessControl(const ProcessControl&) = delete;
-    ProcessControl& operator=(const ProcessControl&) = delete;
     virtual ~ProcessControl() = default;
 
     /// Sends SIGKILL.

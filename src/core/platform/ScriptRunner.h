@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -31,7 +33,7 @@ public:
 };
 
 /// Compiles and runs a script's source.
-class ScriptRunner {
+class ScriptRunner : NonCopyable {
 public:
     /// The script has ended; no error means success. The run may be destroyed in it.
     using Ended = std::function<void(const std::optional<ScriptError>&)>;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -9,20 +11,14 @@ namespace zarvil {
 enum class Repetition : std::uint8_t { Once, Repeating };
 
 /// A scheduled call. Destroying it invalidates it, also from within its own call.
-class Timer {
+class Timer : NonCopyable {
 public:
-    Timer() = default;
-    Timer(const Timer&) = delete;
-    Timer& operator=(const Timer&) = delete;
     virtual ~Timer() = default;
 };
 
 /// Schedules calls on the main thread's run loop.
-class Timers {
+class Timers : NonCopyable {
 public:
-    Timers() = default;
-    Timers(const Timers&) = delete;
-    Timers& operator=(const Timers&) = delete;
     virtual ~Timers() = default;
 
     /// The first call comes after `interval` seconds.

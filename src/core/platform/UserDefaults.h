@@ -1,15 +1,14 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <string_view>
 
 namespace zarvil {
 
 /// The pane's own preferences of this user, kept across restarts.
-class UserDefaults {
+class UserDefaults : NonCopyable {
 public:
-    UserDefaults() = default;
-    UserDefaults(const UserDefaults&) = delete;
-    UserDefaults& operator=(const UserDefaults&) = delete;
     virtual ~UserDefaults() = default;
 
     /// False for a key that was never set.

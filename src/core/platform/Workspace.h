@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -13,11 +15,8 @@ struct RunningApplication {
 };
 
 /// Applications of the user's desktop session and the addresses they open.
-class Workspace {
+class Workspace : NonCopyable {
 public:
-    Workspace() = default;
-    Workspace(const Workspace&) = delete;
-    Workspace& operator=(const Workspace&) = delete;
     virtual ~Workspace() = default;
 
     /// Starts the application bundle at a path, or raises it; false when it cannot be started.

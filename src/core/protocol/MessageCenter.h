@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "protocol/Subscription.h"
 #include "protocol/Value.h"
 
@@ -47,14 +48,11 @@ enum class LinkEvent : std::uint8_t {
 /// Posts and observes named messages system-wide. Posting is fire-and-forget: without a receiver
 /// a message is lost without error. Handlers run on the main thread, never inside `post`, in the
 /// order in which the messages were sent. Used on the main thread only.
-class MessageCenter {
+class MessageCenter : NonCopyable {
 public:
     using Handler = std::function<void(const Message&)>;
     using LinkObserver = std::function<void(LinkEvent)>;
 
-    MessageCenter() = default;
-    MessageCenter(const MessageCenter&) = delete;
-    MessageCenter& operator=(const MessageCenter&) = delete;
     virtual ~MessageCenter() = default;
 
     virtual void post(Message message) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "protocol/Subscription.h"
 
 #include <algorithm>
@@ -13,13 +14,9 @@ namespace zarvil {
 /// registrations while it is called: one that is cancelled is not called any more, one that is
 /// added is called from the next notification on. Not copyable: observers belong to one subject.
 template <typename... Arguments>
-class ObserverList {
+class ObserverList : NonCopyable {
 public:
     using Observer = std::function<void(Arguments...)>;
-
-    ObserverList() = default;
-    ObserverList(const ObserverList&) = delete;
-    ObserverList& operator=(const ObserverList&) = delete;
 
     Subscription add(Observer observer) {
         if (!entries_)

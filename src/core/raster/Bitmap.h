@@ -6,7 +6,7 @@
 
 namespace zarvil {
 
-/// A premultiplied colour of 16 bits a channel: red in the lowest bits, then green, blue, alpha.
+/// A premultiplied color of 16 bits a channel: red in the lowest bits, then green, blue, alpha.
 using Pixel = std::uint64_t;
 
 /// Whole pixels; y grows downwards.

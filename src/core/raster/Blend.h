@@ -25,10 +25,10 @@ inline constexpr Coverage fullCoverage = 65535;
 /// Every channel of the pixel times a share.
 [[nodiscard]] Pixel scaled(Pixel pixel, Coverage factor);
 
-/// A colour as a pixel.
+/// A color as a pixel.
 [[nodiscard]] Pixel pixelOf(const Color& color);
 
-/// What is drawn in a row: one colour, or a pixel each.
+/// What is drawn in a row: one color, or a pixel each.
 struct Ink {
     Pixel color = 0;
     const Pixel* pixels = nullptr;

@@ -7,14 +7,14 @@
 
 namespace zarvil::raster {
 
-/// Colours along a line of pixels; the first and the last go on beyond its ends. Between two
-/// stops premultiplied colours run into each other.
+/// Colors along a line of pixels; the first and the last go on beyond its ends. Between two
+/// stops premultiplied colors run into each other.
 class LinearGradient {
 public:
     void set(const Gradient& gradient, Point start, Point end);
 
     [[nodiscard]] bool isOpaque() const;
-    /// The colours of pixels in a row, sampled at their middles.
+    /// The colors of pixels in a row, sampled at their middles.
     void row(int x, int y, int count, Pixel* pixels) const;
 
 private:

@@ -35,7 +35,7 @@ private:
 using ShadowKey = std::array<double, 9>;
 
 /// The shadows drawn most recently, as blurring is what drawing a control mostly costs. They stand
-/// relative to their shapes, for an opaque one, without colour.
+/// relative to their shapes, for an opaque one, without color.
 class ShadowCache {
 public:
     /// Enough for all that a switch casts while its knob is dragged.

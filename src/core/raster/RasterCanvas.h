@@ -84,7 +84,7 @@ public:
     void drawText(std::string_view text, const Rect& rect, const TextStyle& style) override;
 
 private:
-    /// What a shape is filled with: a colour, or the memory's gradient.
+    /// What a shape is filled with: a color, or the memory's gradient.
     struct Paint {
         Pixel color = 0;
         bool isGradient = false;

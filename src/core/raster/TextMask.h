@@ -2,6 +2,7 @@
 
 #include "interface/AttributedString.h"
 #include "interface/Geometry.h"
+#include "protocol/NonCopyable.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -30,11 +31,8 @@ struct MaskedText {
 };
 
 /// What a toolkit lends a software canvas: its texts in the system's font, as coverage.
-class TextMask {
+class TextMask : NonCopyable {
 public:
-    TextMask() = default;
-    TextMask(const TextMask&) = delete;
-    TextMask& operator=(const TextMask&) = delete;
     virtual ~TextMask() = default;
 
     /// Of one line, in points, the same at every scale.

@@ -32,4 +32,11 @@ std::string titleOfFile(std::string_view fileName) {
     return std::string(fileName);
 }
 
+std::string withoutByteOrderMark(std::string text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (text.starts_with(mark))
+        text.erase(0, mark.size());
+    return text;
+}
+
 } // namespace zarvil::script

@@ -1,8 +1,7 @@
 #include "pane/Zarvil_Preferences.h"
 #include "protocol/Settings.h"
 #include "scripts/ScriptFile.h"
-
-#include <algorithm>
+#include "scripts/ScriptRecord.h"
 
 namespace zarvil {
 
@@ -18,15 +17,12 @@ Record makeScript(std::string_view title, std::string_view text) {
 } // namespace
 
 bool Zarvil_Preferences::scriptExists(std::string_view title) const {
-    return std::ranges::any_of(scriptsArrayController.arrangedObjects(), [&](const Record& record) {
-        const std::string* listed = record->contents().stringForKey(script::title);
-        return listed && *listed == title;
-    });
+    return scriptOfTitle(scriptsArrayController, title) != nullptr;
 }
 
 void Zarvil_Preferences::handToItem(const Record& record) {
     // By contents: of equal scripts only the first one's item is given a record, on purpose.
-    const auto index = scriptsArrayController.indexOfObject(record->contents());
+    const auto index = scriptsArrayController.indexOfObject(record);
     if (!index)
         return;
     if (const auto item = scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index)) {
@@ -45,13 +41,53 @@ void Zarvil_Preferences::loadScripts() {
     // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
     for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
         const auto text = platform_.files.readText(folder + "/" + name);
-        const Record record = makeScript(script::titleOfFile(name), text.value_or(std::string()));
+        const Record record =
+            makeScript(script::titleOfFile(name), script::withoutByteOrderMark(text.value_or("")));
         scriptsArrayController.addObject(record);
         handToItem(record);
     }
+    resumeDrafts();
+}
+
+// The list is emptied whenever the agent misses a ping, in the middle of a word.
+void Zarvil_Preferences::keepDrafts() {
+    for (std::size_t index = 0; index < scriptsArrayController.arrangedObjects().size(); ++index) {
+        const auto item = scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(index);
+        if (auto draft = item ? item->draft() : std::nullopt)
+            scriptDrafts_.push_back(*std::move(draft));
+    }
+}
+
+void Zarvil_Preferences::resumeDrafts() {
+    std::erase_if(scriptDrafts_, [this](const ScriptDraft& draft) {
+        const auto item = itemOfDraft(draft);
+        if (!item || !item->data())
+            return false;
+        item->resume(draft);
+        return true;
+    });
+}
+
+/// The script that the draft belongs to: the same one, else the only one of its title.
+std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const ScriptDraft& draft) {
+    auto index = scriptsArrayController.indexOfObject(draft.saved);
+    if (!index) {
+        const std::string* title = draft.saved.stringForKey(script::title);
+        const auto& records = scriptsArrayController.arrangedObjects();
+        const auto isOfTitle = [title](const Record& record) {
+            const std::string* listed = record->contents().stringForKey(script::title);
+            return title && listed && *listed == *title;
+        };
+        if (std::ranges::count_if(records, isOfTitle) != 1)
+            return nullptr;
+        index =
+            static_cast<std::size_t>(std::ranges::find_if(records, isOfTitle) - records.begin());
+    }
+    return scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index);
 }
 
 void Zarvil_Preferences::unloadScripts() {
+    keepDrafts();
     scriptsArrayController.removeAllArrangedObjects();
     scriptsArrayController.rearrangeObjects();
 }
@@ -81,6 +117,16 @@ void Zarvil_Preferences::removeScript(const Record& record) {
         scriptsArrayController.removeObject(record);
     scriptsArrayController.rearrangeObjects();
     showTitleFault();
+}
+
+bool Zarvil_Preferences::admitsRemoval() {
+    constexpr double longestDoubleClick = 0.5; // seconds
+    const double now = platform_.clock.timeIntervalSinceReferenceDate();
+    // A clock that was set back does not hold the buttons up.
+    if (lastRemoval_ && now >= *lastRemoval_ && now - *lastRemoval_ < longestDoubleClick)
+        return false;
+    lastRemoval_ = now;
+    return true;
 }
 
 void Zarvil_Preferences::useScripts(Control* sender) {

@@ -10,6 +10,7 @@ constexpr Rect textFrame{20, 10, 558, 70};
 constexpr double textFontSize = 13;
 
 constexpr std::string_view untitled = "Zarvil Script";
+constexpr std::string_view notSaved = "Not saved";
 constexpr std::string_view emptyScript = "Can't execute empty script!";
 constexpr std::int64_t emptyScriptCode = 1;
 
@@ -75,17 +76,73 @@ void ZVScriptCollectionItem::beginEditing() {
 }
 
 void ZVScriptCollectionItem::save() {
-    removeFile();
+    Dictionary before = data_ ? data_->contents() : Dictionary();
+    const std::string* file = titleOfFile();
+    const std::optional<std::string> former = file ? std::optional(*file) : std::nullopt;
     validateData();
-    const std::string* title = stringOfRecord(script::title);
-    const std::string* text = stringOfRecord(script::text);
-    // Another script of this title is replaced and a failure is not reported, both on purpose: the
-    // record holds what the user typed, and the next save tries again.
-    if (title && text)
-        static_cast<void>(platform_.files.writeText(
-            *text, script::filePath(platform_.files, *title), Atomicity::Atomic));
+    const Replacement outcome = writeFile(former);
+    noteFailure(outcome.write, std::move(before));
     view_.removeSubview(std::exchange(eTitle_, nullptr));
     view_.removeSubview(std::exchange(eText_, nullptr));
+    if (outcome.removal)
+        platform_.errors.presentError(*outcome.removal);
+}
+
+// Another script of the new title is replaced and a failure to write shows no alert, both on
+// purpose.
+Replacement ZVScriptCollectionItem::writeFile(const std::optional<std::string>& formerTitle) {
+    const std::string* title = stringOfRecord(script::title);
+    const std::string* text = stringOfRecord(script::text);
+    if (!title || !text)
+        return {};
+    const std::string path = script::filePath(platform_.files, *title);
+    if (!formerTitle)
+        return {std::nullopt, platform_.files.writeText(*text, path, Atomicity::Atomic)};
+    return platform_.files.replaceItem(script::filePath(platform_.files, *formerTitle), *text,
+                                       path);
+}
+
+void ZVScriptCollectionItem::noteFailure(const std::optional<Error>& failure, Dictionary before) {
+    if (!failure)
+        saved_.reset();
+    else if (!saved_)
+        saved_ = std::move(before);
+    saveFailure_ = failure;
+    note_.set(failure
+                  ? ScriptNote{platform_.strings.localizedString(notSaved), failure->description}
+                  : ScriptNote{});
+}
+
+const std::string* ZVScriptCollectionItem::titleOfFile() const {
+    return saved_ ? saved_->stringForKey(script::title) : stringOfRecord(script::title);
+}
+
+std::optional<ScriptDraft> ZVScriptCollectionItem::draft() const {
+    if (!data_ || (!eTitle_ && !saved_))
+        return std::nullopt;
+    const auto typed = [this](const ScriptEditField* field, std::string_view key) {
+        const std::string* stored = stringOfRecord(key);
+        return field ? field->stringValue() : stored ? *stored : std::string();
+    };
+    return ScriptDraft{saved_.value_or(data_->contents()), typed(eTitle_, script::title),
+                       typed(eText_, script::text), saveFailure_};
+}
+
+void ZVScriptCollectionItem::resume(const ScriptDraft& draft) {
+    if (!data_ || editing())
+        return;
+    toggleEditing();
+    const auto fill = [&draft](ScriptEditField& field, std::string_view key,
+                               const std::string& typed) {
+        // What was left alone shows the file as it is by now.
+        const std::string* saved = draft.saved.stringForKey(key);
+        if (!saved || typed != *saved)
+            field.setStringValue(typed);
+    };
+    fill(*eTitle_, script::title, draft.title);
+    fill(*eText_, script::text, draft.text);
+    if (draft.failure)
+        noteFailure(draft.failure, data_->contents());
 }
 
 void ZVScriptCollectionItem::validateData() {
@@ -123,8 +180,14 @@ void ZVScriptCollectionItem::removeNow() {
         owner->removeScript(record);
 }
 
+void ZVScriptCollectionItem::userDidPressRemove() {
+    auto* owner = dynamic_cast<ScriptOwner*>(owner_);
+    if (!owner || owner->admitsRemoval())
+        remove();
+}
+
 void ZVScriptCollectionItem::removeFile() {
-    const std::string* title = stringOfRecord(script::title);
+    const std::string* title = titleOfFile();
     if (!title)
         return;
     if (const auto error = platform_.files.removeItem(script::filePath(platform_.files, *title)))

@@ -3,6 +3,7 @@
 #include "interface/CollectionView.h"
 #include "interface/TextField.h"
 #include "pane/Platform.h"
+#include "protocol/NonCopyable.h"
 #include "scripts/ScriptFile.h"
 #include "scripts/ScriptProgress.h"
 
@@ -14,20 +15,25 @@ namespace zarvil {
 
 /// Capability of an item's owner: it drops a record whose file is gone. The item may be released
 /// during the call.
-class ScriptOwner {
+class ScriptOwner : NonCopyable {
 public:
-    ScriptOwner() = default;
-    ScriptOwner(const ScriptOwner&) = delete;
-    ScriptOwner& operator=(const ScriptOwner&) = delete;
     virtual ~ScriptOwner() = default;
 
     virtual void removeScript(const Record& record) = 0;
+    /// Whether a press on a remove button counts: the next card moves under the pointer, and a
+    /// double click must not remove that one too.
+    [[nodiscard]] virtual bool admitsRemoval() = 0;
 };
 
 /// A text field in the system font, for editing within a script's card.
 class ScriptEditField final : public TextField {
 public:
+    /// Larger texts would stop the window; they are not laid out for editing and stay as they are.
+    static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
+
     ScriptEditField(Rect frame, double fontSize) : fontSize_(fontSize) { setFrame(frame); }
+
+    [[nodiscard]] bool isTooLarge() const { return stringValue().size() > largestEditableText; }
 
     /// In points of the card.
     [[nodiscard]] double fontSize() const { return fontSize_; }
@@ -54,6 +60,29 @@ private:
     Property<Subviews> subviews_;
 };
 
+/// What the user has typed into a script and the file does not hold yet.
+struct ScriptDraft {
+    Dictionary saved; ///< the record as the file has it
+    std::string title;
+    std::string text;
+    std::optional<Error> failure; ///< why it could not be saved, if that was tried
+};
+
+/// A quiet word about a script and what stands behind it, in the user's language; empty when all is
+/// well.
+struct ScriptNote {
+    std::string caption;
+    std::string reason;
+    bool operator==(const ScriptNote&) const = default;
+};
+
+/// A button of a card as it is shown; the accessible name tells it from those of other cards.
+struct ButtonCaption {
+    std::string title;
+    std::string toolTip;
+    std::string accessibleName;
+};
+
 /// Shows one script and lets the user edit, run and delete it. It edits the record that it shares
 /// with the list. Its actions are handlers; an item that a shared pointer holds outlives them.
 class ZVScriptCollectionItem final : public CollectionViewItem,
@@ -64,22 +93,61 @@ public:
         : platform_(platform), progress_(progress) {}
 
     // Actions.
-    /// Begins editing, or ends it and saves: the old file goes, then the new one is written.
+    /// Begins editing, or ends it and saves: the file of the former title gives way to that of the
+    /// new one. When this fails, the former file stays, nothing is shown but the note, and the next
+    /// save tries again.
     void edit(Control* sender = nullptr);
     /// Runs the script once; saves first while editing. The pane is blocked until it has ended.
     void execute(Control* sender = nullptr);
     /// Deletes the file and has the owner drop the record.
     void remove(Control* sender = nullptr);
 
+    // Presses of the card's buttons.
+    void userDidPressEdit() { edit(); }
+    void userDidPressRun() { execute(); }
+    /// Not the second press of a double click.
+    void userDidPressRemove();
+
     /// Takes the edit fields over into the record. An emptied field keeps the record's old value.
     void validateData();
-    /// Deletes the file of the record's title; a record without a title deletes nothing.
+    /// Deletes the script's file; a record without a title deletes nothing.
     void removeFile();
 
+    // Drafts.
+    /// Nothing while the file holds all that was typed.
+    [[nodiscard]] std::optional<ScriptDraft> draft() const;
+    /// Goes on editing where a draft was left; the record is the one of its file.
+    void resume(const ScriptDraft& draft);
+
     // State.
+    /// Says for as long as it is so that the script is not saved.
+    [[nodiscard]] const Property<ScriptNote>& noteProperty() const { return note_; }
     [[nodiscard]] bool editing() const { return editing_; }
     /// The flag alone; `edit` brings the fields.
     void setEditing(bool editing) { editing_ = editing; }
+
+    /// The script runs at the moment; its card says so and cannot run it again.
+    [[nodiscard]] const Property<bool>& runningProperty() const { return running_; }
+    void setRunning(bool running) { running_.set(running); }
+    /// Why the last run failed, as the card says it until the next run or edit; empty otherwise.
+    [[nodiscard]] const Property<std::string>& failureProperty() const { return failure_; }
+    void setFailure(std::string line) { failure_.set(std::move(line)); }
+
+    // Texts of the card, fit for display.
+    [[nodiscard]] std::string shownTitle() const;
+    /// The first lines of the text; none for an empty one, which `emptyText` stands for.
+    [[nodiscard]] std::vector<std::string> shownLines() const;
+    [[nodiscard]] std::string emptyText() const;
+    [[nodiscard]] std::string cardName() const;
+    [[nodiscard]] ButtonCaption runCaption() const;
+    [[nodiscard]] ButtonCaption editCaption() const;
+    [[nodiscard]] ButtonCaption removeCaption() const;
+    /// What editing means, beside the buttons.
+    [[nodiscard]] std::string editingHint() const;
+    [[nodiscard]] std::string titleFieldName() const;
+    [[nodiscard]] std::string textFieldName() const;
+    /// Stands in place of a text that is too large to be edited.
+    [[nodiscard]] std::string tooLargeText() const;
 
     /// Null for an item that no record was handed to.
     [[nodiscard]] const Record& data() const { return data_; }
@@ -104,7 +172,16 @@ private:
     void removeNow();
     void beginEditing();
     void save();
+    /// The file's title; null for a script without a file.
+    [[nodiscard]] const std::string* titleOfFile() const;
+    Replacement writeFile(const std::optional<std::string>& formerTitle);
+    /// `before` is the record as the file had it.
+    void noteFailure(const std::optional<Error>& failure, Dictionary before);
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
+    [[nodiscard]] std::string localized(std::string_view key) const;
+    [[nodiscard]] std::string aboutThis(std::string_view key) const;
+    /// Of the record of this row, which an item without `data` shows as well.
+    [[nodiscard]] std::string_view stringOfRow(std::string_view key) const;
 
     Platform& platform_;
     ScriptProgress& progress_;
@@ -112,7 +189,13 @@ private:
     ScriptEditField* eTitle_ = nullptr;
     ScriptEditField* eText_ = nullptr;
     bool editing_ = false;
+    Property<bool> running_{false};
+    Property<std::string> failure_;
     Record data_;
+    /// While the last save has failed: the record as its file still has it, and why.
+    std::optional<Dictionary> saved_;
+    std::optional<Error> saveFailure_;
+    Property<ScriptNote> note_;
     CollectionViewDelegate* owner_ = nullptr;
     TextField* text_ = nullptr;
 };

@@ -154,7 +154,7 @@ PolkitAuthorization::PolkitAuthorization(BusOptions system) : system_(std::move(
 }
 
 QString PolkitAuthorization::actionOf(std::string_view right) {
-    return QString::fromStdString(std::string(product::agentIdentifier) + "." + std::string(right));
+    return QString::fromUtf8(product::agentIdentifier) + "." + QString::fromUtf8(right);
 }
 
 void PolkitAuthorization::check(std::string_view right, Interaction interaction, Reply reply) {

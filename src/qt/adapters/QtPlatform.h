@@ -16,7 +16,7 @@ namespace zarvil {
 
 /// Owns every port that the pane is given: the adapters on Qt, and those that are handed to it.
 /// Needs an application object.
-class QtPlatform {
+class QtPlatform : NonCopyable {
 public:
     /// The ports that need no Qt, or more of it than the adapters here.
     struct Parts {

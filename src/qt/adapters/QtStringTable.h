@@ -9,6 +9,8 @@ class QtStringTable final : public StringTable {
 public:
     /// An empty translation counts as none.
     [[nodiscard]] std::string localizedString(std::string_view key) const override;
+    [[nodiscard]] std::string localizedCount(std::string_view one, std::string_view many,
+                                             std::int64_t count) const override;
 };
 
 } // namespace zarvil

@@ -12,14 +12,6 @@
 
 namespace zarvil {
 
-namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-} // namespace
-
 QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings::IniFormat) {
     // The lines are parsed only when they are asked for; their faults must show before a write.
     [[maybe_unused]] const auto keys = settings_.allKeys();
@@ -31,15 +23,16 @@ QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings:
 
 QString QtUserDefaults::userFile() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + '/' +
-           text(product::maker) + '/' + text(product::preferencesName) + ".ini";
+           QString::fromUtf8(product::maker) + '/' + QString::fromUtf8(product::preferencesName) +
+           ".ini";
 }
 
 bool QtUserDefaults::boolForKey(std::string_view key) const {
-    return Value(settings_.value(text(key)).toString().toStdString()).boolValue();
+    return Value(settings_.value(QString::fromUtf8(key)).toString().toStdString()).boolValue();
 }
 
 void QtUserDefaults::setBool(bool value, std::string_view key) {
-    settings_.setValue(text(key), value);
+    settings_.setValue(QString::fromUtf8(key), value);
     settings_.sync();
     if (settings_.status() != QSettings::NoError)
         reportFailure();

@@ -21,10 +21,6 @@ namespace {
 constexpr int answerLimit = 1000; // milliseconds
 constexpr std::chrono::milliseconds connectLimit{1000};
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QString executableOf(const QString& bundle) {
     const QString name = QFileInfo(bundle).completeBaseName();
     for (const QString& place : {QStringLiteral("/"), QStringLiteral("/Contents/MacOS/")}) {
@@ -37,14 +33,14 @@ QString executableOf(const QString& bundle) {
 
 /// Empty for an application whose identifier is not known without its bundle.
 QString identifierOf(const QString& bundle) {
-    const bool isAgent = bundle.endsWith(text(product::agentApplication));
-    return isAgent ? text(product::agentIdentifier) : QString();
+    const bool isAgent = bundle.endsWith(QString::fromUtf8(product::agentApplication));
+    return isAgent ? QString::fromUtf8(product::agentIdentifier) : QString();
 }
 
 } // namespace
 
 bool QtWorkspace::launchApplication(std::string_view path) {
-    const QString bundle = text(path);
+    const QString bundle = QString::fromUtf8(path);
     if (!QFileInfo::exists(bundle))
         return activate(identifierOf(bundle));
     const QString executable = executableOf(bundle);
@@ -73,7 +69,7 @@ std::vector<RunningApplication> QtWorkspace::runningApplications() const {
 std::string QtWorkspace::mainBundleIdentifier() const { return bus::hostName; }
 
 bool QtWorkspace::openURL(std::string_view url) {
-    const QUrl address(text(url), QUrl::StrictMode);
+    const QUrl address(QString::fromUtf8(url), QUrl::StrictMode);
     return address.isValid() && QDesktopServices::openUrl(address);
 }
 

@@ -1,14 +1,20 @@
 #include "qt/binding/Bindings.h"
 
 #include "interface/AuthorizationView.h"
+#include "interface/Banner.h"
 #include "interface/Button.h"
 #include "interface/Panel.h"
+#include "interface/Placeholder.h"
 #include "interface/ProgressIndicator.h"
+#include "interface/Symbol.h"
 #include "interface/TextField.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/Opacity.h"
 #include "qt/binding/Spinner.h"
 #include "qt/canvas/Convert.h"
+#include "qt/widgets/Form.h"
+#include "qt/widgets/PlaceholderWidget.h"
+#include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -27,7 +33,7 @@ void bindEnabled(Control& model, QWidget& widget, Subscriptions& kept) {
 /// A check box that only shows a state takes no clicks, but stays legible.
 bool showsOnly(const QWidget& widget) { return widget.property("readOnly").toBool(); }
 
-/// The attributes of a whole text; a label shows one colour and one alignment.
+/// The attributes of a whole text; a label shows one color and one alignment.
 void showAttributes(QLabel& label, const AttributedString& text) {
     const TextAttributes attributes = text.attributesAt(0).value_or(TextAttributes{});
     QPalette palette;
@@ -52,9 +58,10 @@ void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     bindEnabled(model, widget, kept);
     if (model.title().empty())
-        model.setTitle(fromQt(widget.text()));
-    kept.push_back(model.titleProperty().observe(
-        [&widget](const std::string& title, Transition) { widget.setText(toQt(title)); }));
+        model.setTitle(widget.text().toStdString());
+    kept.push_back(model.titleProperty().observe([&widget](const std::string& title, Transition) {
+        widget.setText(QString::fromUtf8(title));
+    }));
     const auto showState = [&widget](int state, Transition) {
         widget.setChecked(state == buttonState::on);
     };
@@ -81,9 +88,10 @@ void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     bindEnabled(model, widget, kept);
     if (model.stringValue().empty())
-        model.setStringValue(fromQt(widget.text()));
-    kept.push_back(model.stringProperty().observe(
-        [&widget](const std::string& text, Transition) { widget.setText(toQt(text)); }));
+        model.setStringValue(widget.text().toStdString());
+    kept.push_back(model.stringProperty().observe([&widget](const std::string& text, Transition) {
+        widget.setText(QString::fromUtf8(text));
+    }));
     kept.push_back(model.attributedStringProperty().observe(
         [&widget](const AttributedString& text, Transition) { showAttributes(widget, text); }));
 }
@@ -92,16 +100,16 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     bindEnabled(model, widget, kept);
     kept.push_back(model.stringProperty().observe([&widget](const std::string& text, Transition) {
-        const QString shown = toQt(text);
+        const QString shown = QString::fromUtf8(text);
         if (widget.text() != shown)
             widget.setText(shown);
     }));
     kept.push_back(model.faultProperty().observe([&widget](const std::string& fault, Transition) {
-        widget.setAccessibleDescription(toQt(fault));
+        widget.setAccessibleDescription(QString::fromUtf8(fault));
     }));
     // Not `textEdited`: assistive programs set the text without typing it.
     QObject::connect(&widget, &QLineEdit::textChanged, &widget,
-                     [&model](const QString& text) { model.userDidEdit(fromQt(text)); });
+                     [&model](const QString& text) { model.userDidEdit(text.toStdString()); });
     if (widget.property("commitsOnReturnOnly").toBool()) {
         QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
                          [&model] { model.sendAction(); });
@@ -116,6 +124,14 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     });
 }
 
+void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(
+        model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
+            widget.setText(toQt(text.title), toQt(text.words));
+        }));
+}
+
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
     kept.push_back(model.animatingProperty().observe(
@@ -124,13 +140,21 @@ void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kep
 
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
-    const auto show = [&model, &widget] {
-        widget.showState(model.authorizationState(), toQt(model.reasonProperty().get()));
-    };
-    kept.push_back(model.stateProperty().observe([show](int, Transition) { show(); }));
-    kept.push_back(
-        model.reasonProperty().observe([show](const std::string&, Transition) { show(); }));
+    kept.push_back(model.reasonProperty().observe(
+        [&widget](const std::string& reason, Transition) { widget.setReason(toQt(reason)); }));
     QObject::connect(&widget, &LockWidget::clicked, &widget, [&model] { model.performClick(); });
+}
+
+void bindSymbol(SymbolView& model, SymbolWidget& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(model.symbolProperty().observe(
+        [&widget](Symbol symbol, Transition) { widget.setSymbol(symbol); }));
+}
+
+void bindBanner(Banner& model, BannerRow& widget, Subscriptions& kept) {
+    bindView(model, widget, kept);
+    kept.push_back(model.prominentProperty().observe(
+        [&widget](bool prominent, Transition) { widget.setProminent(prominent); }));
 }
 
 void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept) {

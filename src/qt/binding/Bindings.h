@@ -12,9 +12,12 @@ class QWidget;
 
 namespace zarvil {
 class AuthorizationView;
+class Banner;
 class Button;
 class Panel;
+class Placeholder;
 class ProgressIndicator;
+class SymbolView;
 class TextField;
 class View;
 } // namespace zarvil
@@ -24,8 +27,11 @@ class View;
 /// A binding lasts as long as its subscriptions and must end before widget or model goes.
 namespace zarvil::qt {
 
+class BannerRow;
 class LockWidget;
+class PlaceholderWidget;
 class Spinner;
+class SymbolWidget;
 
 using Subscriptions = std::vector<Subscription>;
 
@@ -33,8 +39,11 @@ void bindView(View& model, QWidget& widget, Subscriptions& kept);
 void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept);
 void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept);
 void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept);
+void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept);
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept);
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept);
+void bindSymbol(SymbolView& model, SymbolWidget& widget, Subscriptions& kept);
+void bindBanner(Banner& model, BannerRow& widget, Subscriptions& kept);
 void bindPanel(Panel& model, QDialog& widget, Subscriptions& kept);
 
 } // namespace zarvil::qt

@@ -1,87 +1,83 @@
 #include "qt/binding/LockWidget.h"
 
-#include "interface/AuthorizationView.h"
+#include "qt/widgets/SymbolWidget.h"
+#include "qt/widgets/TextLabel.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
-#include <QPainterPath>
-#include <QToolButton>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 
 namespace zarvil::qt {
 
 namespace {
 
-constexpr int lockSize = 18;
-
-QPixmap padlock(const QColor& colour, bool open, double scale) {
-    QPixmap picture(QSize(lockSize, lockSize) * scale);
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1.8));
-    QPainterPath shackle;
-    const double left = open ? 9.5 : 5.5;
-    shackle.moveTo(left, 8.5);
-    shackle.lineTo(left, 5.5);
-    shackle.arcTo(QRectF(left, 2, 7, 7), 180, -180);
-    if (!open)
-        shackle.lineTo(left + 7, 8.5);
-    painter.drawPath(shackle);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
-    painter.drawRoundedRect(QRectF(3, 8, 12, 8.5), 1.5, 1.5);
-    return picture;
-}
+constexpr int gap = 6;
+constexpr int focusMargin = 2;
 
 } // namespace
 
-LockWidget::LockWidget(QWidget* parent)
-    : QWidget(parent), lock_(new QToolButton(this)), reason_(new QLabel(this)) {
-    lock_->setAutoRaise(true);
-    lock_->setFocusPolicy(Qt::TabFocus);
-    lock_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    lock_->setIconSize(QSize(lockSize, lockSize));
-    reason_->setWordWrap(true);
-    setFocusProxy(lock_);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(lock_);
-    layout->addWidget(reason_, 1);
-    connect(lock_, &QToolButton::clicked, this, &LockWidget::clicked);
-    showState(authorizationState::startup, {});
+LockWidget::LockWidget(QWidget* parent) : QAbstractButton(parent) {
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void LockWidget::showState(int state, const QString& reason) {
-    state_ = state;
-    switch (state) {
-    case authorizationState::unlocked:
-        lock_->setText(tr("Administrator: unlocked"));
-        break;
-    case authorizationState::locked:
-        lock_->setText(tr("Administrator: locked"));
-        break;
-    default:
-        lock_->setText(tr("Administrator: checking…"));
+void LockWidget::setReason(const QString& reason) {
+    if (designedToolTip_.isEmpty())
+        designedToolTip_ = toolTip();
+    reason_ = reason;
+    setToolTip(reason.isEmpty() ? designedToolTip_ : reason);
+    setAccessibleDescription(reason);
+}
+
+QSize LockWidget::sizeHint() const {
+    const auto* line = findChild<TextLabel*>();
+    const auto* symbol = findChild<SymbolWidget*>();
+    if (!line || !symbol)
+        return {};
+    const QSize text = line->sizeHint();
+    const int height = std::max(text.height(), symbol->extent()) + 2 * focusMargin;
+    return {symbol->extent() + gap + text.width() + 2 * focusMargin, height};
+}
+
+QSize LockWidget::minimumSizeHint() const {
+    const auto* line = findChild<TextLabel*>();
+    return {line ? line->minimumSizeHint().width() : 0, sizeHint().height()};
+}
+
+void LockWidget::placeChildren() {
+    auto* line = findChild<TextLabel*>();
+    auto* symbol = findChild<SymbolWidget*>();
+    if (!line || !symbol)
+        return;
+    const int extent = symbol->extent();
+    const QRect picture(focusMargin, (height() - extent) / 2, extent, extent);
+    const int left = picture.right() + 1 + gap;
+    const QRect text(left, 0, std::max(0, width() - left - focusMargin), height());
+    symbol->setGeometry(QStyle::visualRect(layoutDirection(), rect(), picture));
+    line->setGeometry(QStyle::visualRect(layoutDirection(), rect(), text));
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+bool LockWidget::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange ||
+        event->type() == QEvent::LayoutDirectionChange) {
+        updateGeometry();
+        placeChildren();
     }
-    reason_->setText(reason);
-    lock_->setAccessibleDescription(reason);
-    redrawIcon();
+    return QAbstractButton::event(event);
 }
 
-QString LockWidget::reason() const { return reason_->text(); }
+void LockWidget::resizeEvent(QResizeEvent* /*event*/) { placeChildren(); }
 
-void LockWidget::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        redrawIcon();
-}
-
-void LockWidget::redrawIcon() {
-    lock_->setIcon(padlock(palette().color(QPalette::ButtonText),
-                           state_ == authorizationState::unlocked, devicePixelRatioF()));
+void LockWidget::paintEvent(QPaintEvent* /*event*/) {
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.backgroundColor = palette().color(QPalette::Window);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
 } // namespace zarvil::qt

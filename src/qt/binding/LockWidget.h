@@ -1,36 +1,34 @@
 #pragma once
 
-#include <QWidget>
-
-class QLabel;
-class QToolButton;
+#include <QAbstractButton>
 
 namespace zarvil::qt {
 
-/// The padlock of an authorization: shows its state in a picture and in words, and beside it why
-/// it is so. It decides nothing; a click asks for a change.
-class LockWidget : public QWidget {
+/// The line of an authorization's lock: what stands in it shows the state, a click asks for a
+/// change. It decides nothing.
+class LockWidget : public QAbstractButton {
     Q_OBJECT
 
 public:
     explicit LockWidget(QWidget* parent = nullptr);
 
-    /// One of `authorizationState`; the reason may be empty.
-    void showState(int state, const QString& reason);
-    [[nodiscard]] QString reason() const;
+    /// Why the lock is as it is, for the tool tip; without a reason that of the layout stands.
+    void setReason(const QString& reason);
+    [[nodiscard]] QString reason() const { return reason_; }
 
-Q_SIGNALS:
-    void clicked();
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void redrawIcon();
+    void placeChildren();
 
-    QToolButton* lock_;
-    QLabel* reason_;
-    int state_ = 0;
+    QString reason_;
+    QString designedToolTip_;
 };
 
 } // namespace zarvil::qt

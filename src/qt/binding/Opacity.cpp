@@ -4,6 +4,7 @@
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
 #include <QPointer>
+#include <QStyle>
 #include <QVariantAnimation>
 #include <QWidget>
 
@@ -13,7 +14,7 @@ namespace zarvil::qt {
 
 namespace {
 
-constexpr int fadeDuration = 250; // milliseconds, the original animator's default
+constexpr int fadeDuration = 250; // milliseconds, the original platform's default
 constexpr auto fadeName = "Fade";
 constexpr auto glassName = "Glass";
 
@@ -69,8 +70,19 @@ void showThrough(QWidget& widget, bool through) {
         new Glass(widget);
 }
 
+constexpr auto ownOpacity = "opacity";
+
+/// Whether the widget paints itself at an opacity that it is told, which costs no picture of it.
+bool dimsItself(const QWidget& widget) {
+    return widget.metaObject()->indexOfProperty(ownOpacity) >= 0;
+}
+
 /// The effect is made when it is first needed and idle at full opacity, where it would only cost.
 void applyOpacity(QWidget& widget, double opacity) {
+    if (dimsItself(widget)) {
+        widget.setProperty(ownOpacity, opacity);
+        return;
+    }
     auto* effect = qobject_cast<QGraphicsOpacityEffect*>(widget.graphicsEffect());
     if (!effect) {
         if (opacity >= 1)
@@ -84,6 +96,8 @@ void applyOpacity(QWidget& widget, double opacity) {
 }
 
 double shownOpacity(const QWidget& widget) {
+    if (dimsItself(widget))
+        return widget.property(ownOpacity).toDouble();
     const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(widget.graphicsEffect());
     return effect ? effect->opacity() : 1;
 }
@@ -92,7 +106,9 @@ double shownOpacity(const QWidget& widget) {
 
 void showOpacity(QWidget& widget, double opacity, Transition transition) {
     delete widget.findChild<QVariantAnimation*>(fadeName, Qt::FindDirectChildrenOnly);
-    if (transition == Transition::Immediate || !widget.isVisible()) {
+    const bool glides = transition == Transition::Animated && widget.isVisible() &&
+                        widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    if (!glides) {
         applyOpacity(widget, opacity);
         return;
     }

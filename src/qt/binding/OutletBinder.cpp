@@ -6,13 +6,17 @@
 #include "qt/canvas/Convert.h"
 #include "qt/devices/DeviceListView.h"
 #include "qt/scripts/ScriptListView.h"
+#include "qt/widgets/Form.h"
 #include "qt/widgets/LinkButtonWidget.h"
+#include "qt/widgets/PlaceholderWidget.h"
 #include "qt/widgets/SwitchWidget.h"
+#include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTabWidget>
 
 #include <algorithm>
 #include <map>
@@ -79,25 +83,52 @@ public:
             mismatch(name);
     }
 
+    void operator()(std::string_view name, SymbolView& model) {
+        if (auto* symbol = findAs<SymbolWidget>(name))
+            bindSymbol(model, *symbol, kept_);
+    }
+
+    void operator()(std::string_view name, Banner& model) {
+        if (auto* banner = findAs<BannerRow>(name))
+            bindBanner(model, *banner, kept_);
+    }
+
+    void operator()(std::string_view name, Placeholder& model) {
+        if (auto* placeholder = findAs<PlaceholderWidget>(name))
+            bindPlaceholder(model, *placeholder, kept_);
+    }
+
     void operator()(std::string_view name, View& model) {
         if (QWidget* widget = find(name))
             bindView(model, *widget, kept_);
     }
 
-    /// Actions of widgets that are no outlets, captions that show an outlet's title, and widgets
+    /// The pages stand in the order of `Tab`.
+    void bindTabs() {
+        auto* tabs = layout_.findChild<QTabWidget*>(QStringLiteral("tabView"));
+        if (!tabs)
+            return;
+        Guidance& guidance = pane_.guidance;
+        kept_.push_back(guidance.selectedTabProperty().observe(
+            [tabs](Tab tab, Transition) { tabs->setCurrentIndex(static_cast<int>(tab)); }));
+        QObject::connect(tabs, &QTabWidget::currentChanged, tabs,
+                         [&guidance](int index) { guidance.selectTab(static_cast<Tab>(index)); });
+    }
+
+    /// Actions of widgets that are no outlets, captions that tell of an outlet's fault, and widgets
     /// that claim a name that the pane does not know.
     void bindTheRest() {
         for (QWidget* widget : layout_.findChildren<QWidget*>()) {
             checkName(*widget);
             checkAction(*widget);
             if (auto* label = qobject_cast<QLabel*>(widget))
-                bindCaption(*label);
+                bindFault(*label);
         }
     }
 
 private:
     QWidget* find(std::string_view name) {
-        auto* widget = layout_.findChild<QWidget*>(toQt(name));
+        auto* widget = layout_.findChild<QWidget*>(QString::fromUtf8(name));
         if (!widget)
             faults_.push_back("no widget for the outlet " + std::string(name));
         outlets_.emplace(name, widget);
@@ -125,7 +156,7 @@ private:
     }
 
     static std::string actionOf(const QWidget& widget) {
-        return fromQt(widget.property("action").toString());
+        return widget.property("action").toString().toStdString();
     }
 
     void adoptAction(Control& model, const QWidget* widget) {
@@ -137,8 +168,8 @@ private:
         const QString name = widget.objectName();
         const bool claimsOutlet =
             !name.isEmpty() && name.front().isLower() && !name.startsWith(QLatin1String("qt_"));
-        if (claimsOutlet && !outlets_.contains(fromQt(name)))
-            faults_.push_back("no outlet for the widget " + fromQt(name));
+        if (claimsOutlet && !outlets_.contains(name.toStdString()))
+            faults_.push_back("no outlet for the widget " + name.toStdString());
     }
 
     void checkAction(QWidget& widget) {
@@ -147,7 +178,7 @@ private:
             return;
         if (!std::ranges::count(Zarvil_Preferences::actionNames(), action))
             faults_.push_back("no action " + action);
-        if (outlets_.contains(fromQt(widget.objectName())))
+        if (outlets_.contains(widget.objectName().toStdString()))
             return;
         if (auto* button = qobject_cast<QAbstractButton*>(&widget))
             QObject::connect(button, &QAbstractButton::clicked, button,
@@ -156,31 +187,21 @@ private:
             faults_.push_back("the widget of the action " + action + " is no button");
     }
 
-    /// A label beside an outlet that shows the title of a button or the fault of a field.
-    void bindCaption(QLabel& label) {
-        const std::string titled = fromQt(label.property("titleOf").toString());
-        const std::string faulty = fromQt(label.property("faultOf").toString());
+    /// A label that shows the fault of a field.
+    void bindFault(QLabel& label) {
+        const std::string name = fromQt(label.property("faultOf").toString());
+        if (name.empty())
+            return;
         visitOutlets(pane_, [&](std::string_view outlet, View& view) {
-            if (auto* button = dynamic_cast<Button*>(&view); button && outlet == titled)
-                bindTitle(*button, label);
-            else if (auto* field = dynamic_cast<TextField*>(&view); field && outlet == faulty)
-                bindFault(*field, label);
+            const auto* field = dynamic_cast<TextField*>(&view);
+            if (!field || outlet != name)
+                return;
+            kept_.push_back(
+                field->faultProperty().observe([&label](const std::string& fault, Transition) {
+                    label.setText(toQt(fault));
+                    label.setHidden(fault.empty());
+                }));
         });
-    }
-
-    void bindTitle(Button& button, QLabel& label) {
-        if (button.title().empty())
-            button.setTitle(fromQt(label.text()));
-        kept_.push_back(button.titleProperty().observe(
-            [&label](const std::string& title, Transition) { label.setText(toQt(title)); }));
-    }
-
-    void bindFault(TextField& field, QLabel& label) {
-        kept_.push_back(
-            field.faultProperty().observe([&label](const std::string& fault, Transition) {
-                label.setText(toQt(fault));
-                label.setHidden(fault.empty());
-            }));
     }
 
     Zarvil_Preferences& pane_;
@@ -196,6 +217,8 @@ Faults bindOutlets(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kep
     Faults faults;
     Binder binder(pane, layout, kept, faults);
     visitOutlets(pane, binder);
+    visitGuidance(pane.guidance, binder);
+    binder.bindTabs();
     binder.bindTheRest();
     return faults;
 }

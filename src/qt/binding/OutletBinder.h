@@ -16,9 +16,10 @@ namespace zarvil::qt {
 /// What a layout and a controller do not agree on, a sentence each; empty when all is well.
 using Faults = std::vector<std::string>;
 
-/// Connects every outlet of the pane with the widget of its name in the layout, and every widget
-/// that names an action with that action. A widget whose name starts with a lower-case letter
-/// claims to be an outlet. The subscriptions end the bindings; they must go before the pane does.
+/// Connects every outlet of the pane, and what it says beside them, with the widget of its name in
+/// the layout, and every widget that names an action with that action. A widget whose name starts
+/// with a lower-case letter claims to be an outlet. The subscriptions end the bindings; they must
+/// go before the pane does.
 Faults bindOutlets(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kept);
 
 } // namespace zarvil::qt

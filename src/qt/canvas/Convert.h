@@ -7,18 +7,10 @@
 #include <QColor>
 #include <QPainter>
 #include <QRectF>
-#include <QString>
 
-#include <string>
-#include <string_view>
-
-/// The core's texts, geometry and colours as Qt's, and back: the one place that turns them.
+/// The core's geometry and colors as Qt's, and back: the one place that turns them.
 namespace zarvil::qt {
 
-[[nodiscard]] inline QString toQt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-[[nodiscard]] inline std::string fromQt(const QString& text) { return text.toStdString(); }
 [[nodiscard]] Qt::Alignment toQt(TextAlignment alignment);
 [[nodiscard]] inline QPointF toQt(const Point& point) { return {point.x, point.y}; }
 [[nodiscard]] inline QRectF toQt(const Rect& rect) {

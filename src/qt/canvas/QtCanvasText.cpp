@@ -31,7 +31,7 @@ Size QtCanvas::sizeOfText(std::string_view text, const TextStyle& style) const {
         return {};
     const QFontMetricsF metrics(layoutFont());
     const double scale = style.fontSize / layoutSize;
-    return {metrics.horizontalAdvance(toQt(text)) * scale, metrics.height() * scale};
+    return {metrics.horizontalAdvance(QString::fromUtf8(text)) * scale, metrics.height() * scale};
 }
 
 void QtCanvas::drawText(std::string_view text, const Rect& rect, const TextStyle& style) {
@@ -52,7 +52,7 @@ void QtCanvas::drawText(std::string_view text, const Rect& rect, const TextStyle
         target.setClipRect(box, Qt::IntersectClip);
     QTextOption option(toQt(style.alignment) | Qt::AlignTop);
     option.setWrapMode(fits ? QTextOption::NoWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
-    target.drawText(box, toQt(text), option);
+    target.drawText(box, QString::fromUtf8(text), option);
     target.restore();
 }
 

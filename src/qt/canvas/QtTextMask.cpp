@@ -31,7 +31,7 @@ QFont layoutFont() {
 Size QtTextMask::sizeOfText(std::string_view text, double fontSize) const {
     const QFontMetricsF metrics(layoutFont());
     const double scale = fontSize / layoutSize;
-    return {metrics.horizontalAdvance(toQt(text)) * scale, metrics.height() * scale};
+    return {metrics.horizontalAdvance(QString::fromUtf8(text)) * scale, metrics.height() * scale};
 }
 
 void QtTextMask::draw(const MaskedText& text, const MaskBuffer& buffer) {
@@ -46,7 +46,8 @@ void QtTextMask::draw(const MaskedText& text, const MaskBuffer& buffer) {
     QTextOption option(toQt(text.alignment) | Qt::AlignTop);
     option.setWrapMode(text.wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere
                                   : QTextOption::NoWrap);
-    painter.drawText(QRectF({}, toQt(text.box.size()) / scale), toQt(text.text), option);
+    painter.drawText(QRectF({}, toQt(text.box.size()) / scale), QString::fromUtf8(text.text),
+                     option);
 }
 
 } // namespace zarvil::qt

@@ -18,7 +18,7 @@ struct PlacedImage {
 /// Numbers that tell one shape's shadow from another's, whatever whole pixel it stands at.
 using ShadowKey = std::array<double, 16>;
 
-/// Blurs an alpha image and colours it. The result reaches further than the source on every side.
+/// Blurs an alpha image and colors it. The result reaches further than the source on every side.
 /// `standardDeviation` is in pixels; the image's origin moves along.
 [[nodiscard]] PlacedImage makeShadow(const PlacedImage& shape, double standardDeviation,
                                      const QColor& color, QImage::Format format);

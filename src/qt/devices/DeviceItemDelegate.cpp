@@ -22,7 +22,7 @@ constexpr qreal insetTop = 7.5;
 constexpr qreal insetBottom = 3;
 constexpr qreal cornerRadius = 8;
 constexpr int padding = 8;
-constexpr int lineCount = 3;
+constexpr int lineCount = 2;
 
 constexpr QColor nameInk(0x26, 0x1C, 0x00);
 constexpr QColor detailInk(0x4D, 0x3B, 0x00);
@@ -121,8 +121,7 @@ void paintTexts(QPainter& painter, const QStyleOptionViewItem& option, const QMo
         line.setHeight(detailHeight);
     };
     paint(bold, nameInk, Qt::DisplayRole);
-    paint(option.font, detailInk, DeviceListModel::VendorRole);
-    paint(option.font, detailInk, DeviceListModel::SerialRole);
+    paint(option.font, detailInk, DeviceListModel::DetailRole);
 }
 
 bool toggle(QAbstractItemModel& model, const QModelIndex& index) {

@@ -1,63 +1,45 @@
 #include "qt/devices/DeviceListModel.h"
 
-#include "protocol/Messages.h"
-#include "qt/devices/DisplayText.h"
-
-#include <QStringList>
-
-#include <algorithm>
+#include "qt/widgets/ToolTip.h"
 
 namespace zarvil::qt {
-
-namespace {
-
-// In bytes: more than any row can show, and as much as a tool tip can usefully hold.
-constexpr std::size_t rowLimit = 512;
-constexpr std::size_t toolTipLimit = 4096;
-
-std::size_t rowOf(const QModelIndex& index) { return static_cast<std::size_t>(index.row()); }
-
-} // namespace
 
 DeviceListModel::DeviceListModel(CollectionView& view, QObject* parent)
     : QAbstractListModel(parent),
       view_(view),
-      contentChanges_(
-          view.content().observe([this](const ListChange& change) { contentDidChange(change); })) {}
+      rowChanges_(view.observeRows([this](const RowChange& change) { rowsChange(change); })) {}
 
 DeviceListModel::~DeviceListModel() = default;
 
 int DeviceListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+    return parent.isValid() ? 0 : static_cast<int>(view_.rowCount());
 }
 
 QVariant DeviceListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    const auto item = itemAt(index);
+    if (!item)
         return {};
-    const std::size_t row = rowOf(index);
     switch (role) {
     case Qt::DisplayRole:
-        return name(row, rowLimit);
-    case VendorRole:
-        return textForKey(row, payload::deviceVendor, rowLimit);
-    case SerialRole:
-        return serial(row, rowLimit);
+        return QString::fromStdString(item->name());
+    case DetailRole:
+        return QString::fromStdString(item->detail());
     case Qt::ToolTipRole:
-        return toolTip(row);
+        return plainToolTip(QString::fromStdString(item->toolTip()));
     case Qt::AccessibleTextRole:
-        return spoken(row);
+        return QString::fromStdString(item->spokenName());
     case Qt::CheckStateRole:
-        return checkState(row);
+        return item->state() != 0 ? Qt::Checked : Qt::Unchecked;
     default:
         return {};
     }
 }
 
 bool DeviceListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (role != Qt::CheckStateRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (role != Qt::CheckStateRole)
         return false;
     // Held, for the item may leave its list while it tells of the click.
-    const auto item = itemAt(rowOf(index));
+    const auto item = itemAt(index);
     if (!item)
         return false;
     item->userDidSetState(value.toInt() == Qt::Unchecked ? 0 : 1);
@@ -71,104 +53,60 @@ Qt::ItemFlags DeviceListModel::flags(const QModelIndex& index) const {
            Qt::ItemNeverHasChildren;
 }
 
-void DeviceListModel::contentDidChange(const ListChange& change) {
-    const auto row = static_cast<int>(change.index);
-    const auto offset = static_cast<std::ptrdiff_t>(change.index);
+void DeviceListModel::rowsChange(const RowChange& change) {
+    if (change.phase == RowChange::Phase::Before)
+        rowsWillChange(change);
+    else
+        rowsDidChange(change);
+}
+
+void DeviceListModel::rowsWillChange(const RowChange& change) {
+    const auto row = static_cast<int>(change.row);
+    const auto to = static_cast<int>(change.to);
     switch (change.kind) {
-    case ListChange::Kind::Inserted:
+    case RowChange::Kind::Inserted:
         beginInsertRows({}, row, row);
-        rows_.insert(rows_.begin() + offset, Row{change.record, nullptr});
+        break;
+    case RowChange::Kind::Removed:
+        beginRemoveRows({}, row, row);
+        break;
+    case RowChange::Kind::Moved:
+        beginMoveRows({}, row, row, {}, to > row ? to + 1 : to);
+        break;
+    case RowChange::Kind::Cleared:
+        beginResetModel();
+        break;
+    case RowChange::Kind::Changed:
+        break;
+    }
+}
+
+void DeviceListModel::rowsDidChange(const RowChange& change) {
+    switch (change.kind) {
+    case RowChange::Kind::Inserted:
         endInsertRows();
         break;
-    case ListChange::Kind::Removed:
-        beginRemoveRows({}, row, row);
-        rows_.erase(rows_.begin() + offset);
+    case RowChange::Kind::Removed:
         endRemoveRows();
         break;
-    case ListChange::Kind::Cleared:
-        beginResetModel();
-        rows_.clear();
+    case RowChange::Kind::Moved:
+        endMoveRows();
+        break;
+    case RowChange::Kind::Cleared:
         endResetModel();
         break;
+    case RowChange::Kind::Changed: {
+        const QModelIndex changed = index(static_cast<int>(change.row));
+        emit dataChanged(changed, changed);
+        break;
+    }
     }
 }
 
-std::shared_ptr<ZVCollectionItem> DeviceListModel::itemAt(std::size_t row) const {
-    auto item = view_.itemAtIndexAs<ZVCollectionItem>(row);
-    return item && item->representedObject() == rows_[row].record ? item : nullptr;
-}
-
-Qt::CheckState DeviceListModel::checkState(std::size_t row) const {
-    const auto item = itemAt(row);
-    if (!item)
-        return Qt::Unchecked;
-    if (!rows_[row].stateChanges)
-        watchState(rows_[row], *item);
-    return item->state() != 0 ? Qt::Checked : Qt::Unchecked;
-}
-
-void DeviceListModel::watchState(Row& row, const ZVCollectionItem& item) const {
-    // The replay of the current state finds the mark not yet entered, and so tells nobody.
-    auto mark = std::make_unique<Subscription>();
-    auto* self = const_cast<DeviceListModel*>(this);
-    *mark = item.stateProperty().observe(
-        [self, key = mark.get()](unsigned long, Transition) { self->stateDidChange(key); });
-    row.stateChanges = std::move(mark);
-}
-
-void DeviceListModel::stateDidChange(const Subscription* mark) {
-    const auto row = std::ranges::find_if(
-        rows_, [mark](const Row& candidate) { return candidate.stateChanges.get() == mark; });
-    if (row == rows_.end())
-        return;
-    const QModelIndex changed = index(static_cast<int>(row - rows_.begin()));
-    emit dataChanged(changed, changed, {Qt::CheckStateRole});
-}
-
-QString DeviceListModel::textForKey(std::size_t row, std::string_view key,
-                                    std::size_t limit) const {
-    const Value* value = rows_[row].record->contents().objectForKey(key);
-    if (!value)
-        return {};
-    if (const auto* text = value->as<std::string>())
-        return displayText(*text, limit);
-    if (const auto* number = value->as<std::int64_t>())
-        return QString::number(*number);
-    if (const auto* number = value->as<double>())
-        return QString::number(*number);
-    return {};
-}
-
-QString DeviceListModel::name(std::size_t row, std::size_t limit) const {
-    const QString text = textForKey(row, payload::deviceName, limit);
-    return text.trimmed().isEmpty() ? tr("Unnamed device") : text;
-}
-
-QString DeviceListModel::serial(std::size_t row, std::size_t limit) const {
-    const QString text = textForKey(row, payload::deviceSerial, limit);
-    const auto unknown = QLatin1String(payload::unknownSerial.data());
-    return text.isEmpty() || text == unknown ? tr("No serial number") : text;
-}
-
-QString DeviceListModel::toolTip(std::size_t row) const {
-    // Escaped, for a tool tip takes what looks like markup for markup; a block of its own for each
-    // text, so that each finds its own direction.
-    QString blocks;
-    for (const QString& text :
-         {name(row, toolTipLimit), textForKey(row, payload::deviceVendor, toolTipLimit),
-          serial(row, toolTipLimit)}) {
-        if (!text.isEmpty())
-            blocks += QLatin1String("<p style='margin:0'>") + text.toHtmlEscaped() +
-                      QLatin1String("</p>");
-    }
-    return blocks;
-}
-
-QString DeviceListModel::spoken(std::size_t row) const {
-    QStringList parts{name(row, rowLimit), textForKey(row, payload::deviceVendor, rowLimit),
-                      serial(row, rowLimit)};
-    parts.removeAll(QString());
-    return parts.join(QLatin1String(", "));
+std::shared_ptr<ZVCollectionItem> DeviceListModel::itemAt(const QModelIndex& index) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return nullptr;
+    return view_.itemAtRowAs<ZVCollectionItem>(static_cast<std::size_t>(index.row()));
 }
 
 } // namespace zarvil::qt

@@ -1,13 +1,28 @@
 #include "qt/devices/DeviceListView.h"
 
+#include "qt/devices/AccessibleDeviceList.h"
 #include "qt/devices/DeviceItemDelegate.h"
 #include "qt/devices/DeviceListModel.h"
 
-#include <QPainter>
-
 namespace zarvil::qt {
 
-DeviceListView::DeviceListView(QWidget* parent) : QListView(parent) {
+namespace {
+
+/// Tells assistive programs of a row, if there are any.
+void tellOfRow(QWidget* list, QAccessible::Event kind, const QModelIndex& row) {
+    if (!row.isValid() || !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(list, kind);
+    event.setChild(row.row());
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+DeviceListView::DeviceListView(QWidget* parent)
+    : QListView(parent), accessible_(new AccessibleDeviceList(this)) {
+    // Before the model comes, for that makes the toolkit ask for an interface.
+    QAccessible::registerAccessibleInterface(accessible_);
     setItemDelegate(new DeviceItemDelegate(this));
     setUniformItemSizes(true);
     setResizeMode(QListView::Adjust);
@@ -18,62 +33,53 @@ DeviceListView::DeviceListView(QWidget* parent) : QListView(parent) {
 }
 
 void DeviceListView::setModel(zarvil::CollectionView& view) {
-    const QAbstractItemModel* former = model();
-    auto* devices = new DeviceListModel(view, this);
-    setModel(devices);
+    const DeviceListModel* former = devices_;
+    devices_ = new DeviceListModel(view, this);
+    setModel(devices_);
     delete former;
-    const auto refresh = [this] { showWhetherEmpty(); };
-    connect(devices, &QAbstractItemModel::rowsInserted, this, refresh);
-    connect(devices, &QAbstractItemModel::rowsRemoved, this, refresh);
-    connect(devices, &QAbstractItemModel::modelReset, this, refresh);
-    dimming_ = view.alphaProperty().observe([this](double opacity, Transition) {
-        dimmed_ = opacity < alpha::active;
-        showWhetherEmpty();
-    });
-    showWhetherEmpty();
 }
 
-void DeviceListView::setEmptyText(const QString& text) {
-    emptyText_ = text;
-    showWhetherEmpty();
+void DeviceListView::reset() {
+    accessible_->forgetAll();
+    QListView::reset();
 }
 
-void DeviceListView::setUnknownText(const QString& text) {
-    unknownText_ = text;
-    showWhetherEmpty();
+void DeviceListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
+    QListView::rowsAboutToBeRemoved(parent, start, end);
+    for (int row = start; row <= end; ++row)
+        accessible_->forget(devices_->view().serialAtRow(static_cast<std::size_t>(row)));
 }
 
-QString DeviceListView::placeholder() const {
-    if (!isEmpty())
-        return {};
-    return dimmed_ ? unknownText_ : emptyText_;
+// The base class would lay all rows out anew to count the hidden ones before its own; none is.
+void DeviceListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QAbstractItemView::currentChanged(current, previous);
+    announceCurrentRow();
 }
 
-bool DeviceListView::isEmpty() const { return !model() || model()->rowCount() == 0; }
+void DeviceListView::selectionChanged(const QItemSelection& selected,
+                                      const QItemSelection& deselected) {
+    QAbstractItemView::selectionChanged(selected, deselected);
+    tellOfRow(this, QAccessible::SelectionRemove, deselected.indexes().value(0));
+    tellOfRow(this, QAccessible::Selection, selected.indexes().value(0));
+}
 
-void DeviceListView::showWhetherEmpty() {
-    if (accessibleDescription() == placeholder())
+void DeviceListView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    announceCurrentRow();
+}
+
+void DeviceListView::announceCurrentRow() {
+    if (!hasFocus())
         return;
-    setAccessibleDescription(placeholder());
-    viewport()->update();
+    tellOfRow(this, QAccessible::ActiveDescendantChanged, currentIndex());
+    tellOfRow(this, QAccessible::Focus, currentIndex());
 }
 
 QModelIndex DeviceListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     // Without a current row the base goes to the first one, whatever the key.
-    if (action == MoveEnd && !isEmpty())
+    if (action == MoveEnd && model() && model()->rowCount() > 0)
         return model()->index(model()->rowCount() - 1, 0);
     return QListView::moveCursor(action, modifiers);
-}
-
-void DeviceListView::paintEvent(QPaintEvent* event) {
-    QListView::paintEvent(event);
-    if (!isEmpty())
-        return;
-    constexpr int margin = 16;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, placeholder());
 }
 
 } // namespace zarvil::qt

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "protocol/Subscription.h"
-
 #include <QListView>
 
 namespace zarvil {
@@ -10,44 +8,38 @@ class CollectionView;
 
 namespace zarvil::qt {
 
+class AccessibleDeviceList;
 class DeviceListModel;
 
 /// Shows the devices of one collection view, each with a check box that the user toggles by a
-/// click or with Space. Without devices it shows a text instead.
+/// click or with Space. Assistive programs see it through an interface of its own.
 class DeviceListView final : public QListView {
     Q_OBJECT
-    Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
-    Q_PROPERTY(QString unknownText READ unknownText WRITE setUnknownText)
 
 public:
     explicit DeviceListView(QWidget* parent = nullptr);
 
     /// The collection view is not owned and must outlive this view.
     void setModel(zarvil::CollectionView& view);
+    /// The model; null before it is set.
+    [[nodiscard]] const DeviceListModel* devices() const { return devices_; }
 
-    /// What stands in a list without devices; tells the user what to do.
-    [[nodiscard]] QString emptyText() const { return emptyText_; }
-    void setEmptyText(const QString& text);
-    /// The same while the list is dimmed: then nobody tells which devices there are.
-    [[nodiscard]] QString unknownText() const { return unknownText_; }
-    void setUnknownText(const QString& text);
+    void reset() override;
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-    void paintEvent(QPaintEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     using QListView::setModel;
+    void announceCurrentRow();
 
-    void showWhetherEmpty();
-    [[nodiscard]] bool isEmpty() const;
-    /// What stands in place of devices; empty when there are some.
-    [[nodiscard]] QString placeholder() const;
-
-    QString emptyText_;
-    QString unknownText_;
-    bool dimmed_ = false;
-    Subscription dimming_;
+    AccessibleDeviceList* accessible_; ///< belongs to the toolkit's cache
+    DeviceListModel* devices_ = nullptr;
 };
 
 } // namespace zarvil::qt

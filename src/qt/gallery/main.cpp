@@ -32,7 +32,7 @@ bool writeAll(const QDir& folder) {
     for (const Case& shown : zarvil::gallery::allCases())
         for (const int scale : {1, 2}) {
             const QString path = folder.filePath(
-                QStringLiteral("%1@%2x.png").arg(QString::fromStdString(shown.name)).arg(scale));
+                QStringLiteral("%1@%2x.png").arg(QString::fromUtf8(shown.name)).arg(scale));
             if (!rendered(shown, scale).save(path)) {
                 std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
                 return false;

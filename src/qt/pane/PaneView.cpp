@@ -1,5 +1,6 @@
 #include "qt/pane/PaneView.h"
 
+#include "qt/widgets/Theme.h"
 #include "ui_AboutTab.h"
 #include "ui_AlertsTab.h"
 #include "ui_DevicesTab.h"
@@ -8,15 +9,21 @@
 #include "ui_ScriptsTab.h"
 #include "ui_UninstallPanel.h"
 
+#include <QEvent>
+#include <QTabBar>
+
 namespace zarvil::qt {
 
 namespace {
 
+// In heights of a line.
+constexpr int firstWidth = 38;
+constexpr int firstHeight = 36;
+/// In a lower window what is above and below the tabs makes room.
+constexpr int lowHeight = 24;
+
 void makeHeading(QLabel& label, double scale) {
-    QFont font = label.font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * scale);
-    label.setFont(font);
+    label.setFont(theme::scaled(label.font(), scale, QFont::Bold));
 }
 
 /// Nothing moves when the widget comes and goes.
@@ -41,24 +48,82 @@ protected:
 
 } // namespace
 
+/// Holds the tab bar's left edge at that of the column.
+class PaneView::Gap final : public QWidget {
+public:
+    using QWidget::QWidget;
+    void setWidth(int width) {
+        if (width == width_)
+            return;
+        width_ = width;
+        updateGeometry();
+        // The tab widget asks for the corner's size when it is resized, and at a change of style.
+        QEvent again(QEvent::LayoutRequest);
+        QCoreApplication::sendEvent(parentWidget(), &again);
+    }
+    [[nodiscard]] QSize sizeHint() const override { return {width_, 1}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, 1}; }
+
+private:
+    int width_ = theme::sideMargin;
+};
+
 PaneView::PaneView(QWidget* parent)
     : QWidget(parent), uninstallPanel_(new ConfirmationPanel(this)) {
     Ui::PaneView frame;
     frame.setupUi(this);
-    makeHeading(*frame.ProtectionHeading, 1.15);
-    Ui::DevicesTab().setupUi(frame.DevicesTab);
-    Ui::GeneralTab().setupUi(frame.GeneralTab);
+    Ui::DevicesTab().setupUi(&frame.DevicesTab->column());
+    Ui::GeneralTab().setupUi(&frame.GeneralTab->column());
     Ui::AlertsTab alerts;
-    alerts.setupUi(frame.AlertsTab);
+    alerts.setupUi(&frame.AlertsTab->column());
     keepRoomWhileHidden(*alerts.pushValidationStatus);
-    Ui::ScriptsTab().setupUi(frame.ScriptsTab);
-    Ui::AboutTab().setupUi(frame.AboutTab);
+    Ui::ScriptsTab().setupUi(&frame.ScriptsTab->column());
+    Ui::AboutTab about;
+    about.setupUi(&frame.AboutTab->column());
+    about.ProductIcon->setSymbol(Symbol::Shield);
+
+    constexpr int above = 16;
+    constexpr int between = 12;
+    constexpr int aroundLock = 8;
+    top_ = frame.Top;
+    bottom_ = frame.Bottom;
+    tabs_ = frame.tabView;
+    statusLine_ = frame.statusLine;
+    top_->setVerticalMargins(above, between);
+    bottom_->setVerticalMargins(aroundLock, aroundLock);
+    gap_ = new Gap(tabs_);
+    tabs_->setCornerWidget(gap_, Qt::TopLeftCorner);
+    // No key stroke switches anything by accident.
+    tabs_->tabBar()->setFocus();
 
     Ui::UninstallPanel panel;
     panel.setupUi(uninstallPanel_);
     makeHeading(*panel.UninstallHeading, 1.15);
     uninstallPanel_->setWindowFlag(Qt::FramelessWindowHint);
     uninstallPanel_->setWindowModality(Qt::ApplicationModal);
+}
+
+QSize PaneView::sizeHint() const {
+    const int line = theme::lineHeight(*this);
+    return QSize(firstWidth * line, firstHeight * line).expandedTo(minimumSizeHint());
+}
+
+void PaneView::adaptToHeight() {
+    const bool low = height() < lowHeight * theme::lineHeight(*this);
+    statusLine_->setElided(low);
+    bottom_->setVisible(!low);
+}
+
+bool PaneView::event(QEvent* event) {
+    if (event->type() == QEvent::FontChange)
+        adaptToHeight();
+    return QWidget::event(event);
+}
+
+void PaneView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    gap_->setWidth(top_->columnOffset(width()));
+    adaptToHeight();
 }
 
 } // namespace zarvil::qt

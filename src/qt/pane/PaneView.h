@@ -3,8 +3,13 @@
 #include <QWidget>
 
 class QDialog;
+class QTabWidget;
 
 namespace zarvil::qt {
+
+class BannerRow;
+class Column;
+class TextLabel;
 
 /// The pane's layout: the protection and the agent's presence above the tabs, the lock below.
 /// The confirmation panel is a window of its own that belongs to the view.
@@ -15,8 +20,22 @@ public:
     explicit PaneView(QWidget* parent = nullptr);
 
     [[nodiscard]] QDialog* uninstallPanel() const { return uninstallPanel_; }
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    class Gap;
+
+    void adaptToHeight();
+
+    Column* top_;
+    Column* bottom_;
+    QTabWidget* tabs_;
+    TextLabel* statusLine_;
+    Gap* gap_;
     QDialog* uninstallPanel_;
 };
 

@@ -63,7 +63,7 @@ struct ZarvilPane::Loaded {
           alerts(platform.alerts(), *view),
           scriptWindow(controller.scriptProgress, *view) {
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
-            qWarning().noquote() << "Layout:" << qt::toQt(fault);
+            qWarning().noquote() << "Layout:" << QString::fromUtf8(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
         QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });

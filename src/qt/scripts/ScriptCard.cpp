@@ -1,5 +1,8 @@
 #include "qt/scripts/ScriptCard.h"
 
+#include "qt/widgets/ToolTip.h"
+
+#include <QEvent>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPainter>
@@ -21,32 +24,16 @@ constexpr int titleFontSize = 15;
 constexpr int textFontSize = 13;
 constexpr int buttonGap = 6;
 constexpr double cornerRadius = 6;
-constexpr std::size_t longestShownLine = 400; // bytes, more than a card is wide
 
 QRect inCard(const Rect& frame) {
     return flipped(frame, ScriptItemView::minimumSize)
         .translated(ScriptCard::padding, ScriptCard::padding);
 }
 
-/// The first lines, cut short: a script may have millions of them.
-QStringList firstLines(std::string_view text, int count) {
-    QStringList lines;
-    while (!text.empty() && lines.size() < count) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string_view line = text.substr(0, std::min(end, longestShownLine));
-        lines += QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()))
-                     .replace(u'\t', QLatin1String("    "))
-                     .remove(u'\r');
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    if (!text.empty() && !lines.isEmpty())
-        lines.last() += QChar(0x2026);
-    return lines;
-}
-
-QString stringOf(const Record& record, std::string_view key) {
-    const std::string* value = record ? record->contents().stringForKey(key) : nullptr;
-    return value ? QString::fromStdString(*value) : QString();
+void showCaption(QPushButton& button, const ButtonCaption& caption) {
+    button.setText(QString::fromStdString(caption.title));
+    button.setToolTip(plainToolTip(QString::fromStdString(caption.toolTip)));
+    button.setAccessibleName(QString::fromStdString(caption.accessibleName));
 }
 
 } // namespace
@@ -60,36 +47,29 @@ ScriptCard::ScriptCard(QWidget* parent)
     : QWidget(parent),
       title_(new QLabel(this)),
       text_(new QLabel(this)),
-      edit_(addButton({}, {})),
-      run_(addButton(tr("Run"),
-                     tr("Run this script once, now. The window waits until it has ended."))),
-      remove_(addButton(tr("Remove"), tr("Delete this script and its file at once. This cannot be "
-                                         "undone."))) {
+      note_(new QLabel(this)),
+      edit_(addButton(&ZVScriptCollectionItem::userDidPressEdit)),
+      run_(addButton(&ZVScriptCollectionItem::userDidPressRun)),
+      remove_(addButton(&ZVScriptCollectionItem::userDidPressRemove)) {
     setMinimumSize(minimumCardSize());
     // Not that of the sheet and of the edit fields, which stand out against it.
     setBackgroundRole(QPalette::Window);
-    for (QLabel* label : {title_, text_})
+    for (QLabel* label : {title_, text_, note_})
         label->setTextFormat(Qt::PlainText);
     text_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     title_->setGeometry(inCard(titleFrame));
     text_->setGeometry(inCard(textFrame));
     updateFonts();
-    // The item is held: its operation may have it dropped.
-    connect(edit_, &QPushButton::clicked, this, [this] {
-        if (const auto item = item_)
-            item->edit();
-    });
-    connect(run_, &QPushButton::clicked, this, [this] {
-        if (const auto item = item_)
-            item->execute();
-    });
-    connect(remove_, &QPushButton::clicked, this, [this] { emit removeRequested(this); });
 }
 
-QPushButton* ScriptCard::addButton(const QString& text, const QString& toolTip) {
-    auto* button = new QPushButton(text, this);
-    button->setToolTip(toolTip);
+QPushButton* ScriptCard::addButton(void (ZVScriptCollectionItem::*press)()) {
+    auto* button = new QPushButton(this);
     button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, press] {
+        // Held, for its operation may have it dropped.
+        if (const auto item = item_)
+            (item.get()->*press)();
+    });
     return button;
 }
 
@@ -103,11 +83,14 @@ void ScriptCard::bind(std::shared_ptr<ZVScriptCollectionItem> item) {
     showRecord();
     fieldChanges_ = item_->view().subviewsProperty().observe(
         [this](const ScriptItemView::Subviews& fields, Transition) { showFields(fields); });
+    noteChanges_ = item_->noteProperty().observe(
+        [this](const ScriptNote& note, Transition) { showNote(note); });
 }
 
 void ScriptCard::unbind() {
     recordEdits_.cancel();
     fieldChanges_.cancel();
+    noteChanges_.cancel();
     editors_.clear();
     item_.reset();
 }
@@ -115,32 +98,29 @@ void ScriptCard::unbind() {
 void ScriptCard::showRecord() {
     if (!item_)
         return;
-    const Record& record = item_->representedObject();
-    const QString title = stringOf(record, script::title);
-    const std::string* text = record ? record->contents().stringForKey(script::text) : nullptr;
-    showTitle(title);
-    showText(text ? std::string_view(*text) : std::string_view());
-    setAccessibleName(tr("Script “%1”").arg(title));
-    run_->setAccessibleName(tr("Run “%1”").arg(title));
-    remove_->setAccessibleName(tr("Remove “%1”").arg(title));
+    showTitle();
+    showText();
+    setAccessibleName(QString::fromStdString(item_->cardName()));
+    showCaption(*run_, item_->runCaption());
+    showCaption(*remove_, item_->removeCaption());
     showEditing(!editors_.empty());
 }
 
-void ScriptCard::showTitle(const QString& title) {
-    QString line = title;
-    line.replace(u'\n', QChar(0x21B5));
-    title_->setText(title_->fontMetrics().elidedText(line, Qt::ElideRight, title_->width()));
-    title_->setToolTip(title_->text() == title ? QString() : title.toHtmlEscaped());
+void ScriptCard::showTitle() {
+    const QString title = QString::fromStdString(item_->shownTitle());
+    title_->setText(title_->fontMetrics().elidedText(title, Qt::ElideRight, title_->width()));
+    title_->setToolTip(title_->text() == title ? QString() : plainToolTip(title));
     title_->setAccessibleName(title);
 }
 
-void ScriptCard::showText(std::string_view text) {
+void ScriptCard::showText() {
     const QFontMetrics metrics = text_->fontMetrics();
-    QStringList lines = firstLines(text, std::max(1, text_->height() / metrics.lineSpacing()));
-    for (QString& line : lines)
-        line = metrics.elidedText(line, Qt::ElideRight, text_->width());
-    text_->setForegroundRole(text.empty() ? QPalette::PlaceholderText : QPalette::WindowText);
-    text_->setText(text.empty() ? tr("This script is empty.") : lines.join(u'\n'));
+    QStringList lines;
+    for (const std::string& line : item_->shownLines())
+        lines += metrics.elidedText(QString::fromStdString(line), Qt::ElideRight, text_->width());
+    text_->setForegroundRole(lines.isEmpty() ? QPalette::PlaceholderText : QPalette::WindowText);
+    text_->setText(lines.isEmpty() ? QString::fromStdString(item_->emptyText())
+                                   : lines.join(u'\n'));
 }
 
 void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
@@ -156,7 +136,7 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
         if (std::ranges::any_of(
                 editors_, [&field](const auto& editor) { return editor->field() == field.get(); }))
             continue;
-        editors_.push_back(std::make_unique<ScriptFieldEditor>(field, this));
+        editors_.push_back(std::make_unique<ScriptFieldEditor>(*item_, field, this));
         QWidget* widget = editors_.back()->widget();
         widget->setGeometry(inCard(field->frame()));
         widget->show();
@@ -164,7 +144,7 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     }
     const bool editing = !editors_.empty();
     showEditing(editing);
-    emit focusChainChanged();
+    Q_EMIT focusChainChanged();
     if (hadFocus && editing && !wasEditing)
         editors_.back()->widget()->setFocus(Qt::TabFocusReason); // selects the title
     else if (fieldHadFocus && !editing)
@@ -174,12 +154,16 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
 void ScriptCard::showEditing(bool editing) {
     title_->setVisible(!editing);
     text_->setVisible(!editing);
-    edit_->setText(editing ? tr("Done") : tr("Edit"));
-    edit_->setToolTip(editing ? tr("Save the title and the text.")
-                              : tr("Edit the title and the text in place."));
-    edit_->setAccessibleName(
-        (editing ? tr("Save “%1”") : tr("Edit “%1”")).arg(title_->accessibleName()));
+    showCaption(*edit_, item_->editCaption());
     placeButtons();
+}
+
+void ScriptCard::showNote(const ScriptNote& note) {
+    const QString reason = QString::fromStdString(note.reason);
+    note_->setText(QString::fromStdString(note.caption));
+    note_->setToolTip(plainToolTip(reason));
+    note_->setAccessibleDescription(reason);
+    note_->setVisible(!note.caption.empty());
 }
 
 bool ScriptCard::hasFocusWithin() const {
@@ -204,6 +188,8 @@ void ScriptCard::placeButtons() {
         button->setGeometry(right - width, band.top(), width, band.height());
         right -= width + buttonGap;
     }
+    const int left = inCard(titleFrame).left();
+    note_->setGeometry(left, band.top(), std::max(0, right - left), band.height());
 }
 
 void ScriptCard::updateFonts() {

@@ -33,7 +33,6 @@ public:
     [[nodiscard]] std::vector<QWidget*> focusChain() const;
 
 signals:
-    void removeRequested(zarvil::qt::ScriptCard* card);
     /// Edit fields came or went.
     void focusChainChanged();
 
@@ -43,17 +42,19 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QPushButton* addButton(const QString& text, const QString& toolTip);
+    QPushButton* addButton(void (ZVScriptCollectionItem::*press)());
     void showRecord();
-    void showTitle(const QString& title);
-    void showText(std::string_view text);
+    void showTitle();
+    void showText();
     void showFields(const ScriptItemView::Subviews& fields);
     void showEditing(bool editing);
+    void showNote(const ScriptNote& note);
     void placeButtons();
     void updateFonts();
 
     QLabel* title_;
     QLabel* text_;
+    QLabel* note_;
     QPushButton* edit_;
     QPushButton* run_;
     QPushButton* remove_;
@@ -61,6 +62,7 @@ private:
     std::shared_ptr<ZVScriptCollectionItem> item_;
     Subscription recordEdits_;
     Subscription fieldChanges_;
+    Subscription noteChanges_;
 };
 
 } // namespace zarvil::qt

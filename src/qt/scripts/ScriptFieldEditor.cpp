@@ -1,7 +1,6 @@
 #include "qt/scripts/ScriptFieldEditor.h"
 
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QTextDocument>
@@ -17,6 +16,10 @@ QFont fieldFont(const QWidget& card, const ScriptEditField& field) {
     // Points of a card are logical pixels.
     font.setPixelSize(qRound(field.fontSize()));
     return font;
+}
+
+bool hasSeveralLines(const ScriptEditField& field) {
+    return field.frame().height >= linesOfMultiLine * field.fontSize();
 }
 
 /// The document's text as it is, no-break spaces included; `toPlainText` would turn them into
@@ -35,11 +38,14 @@ QRect flipped(const Rect& frame, const Size& viewSize) {
         .toRect();
 }
 
-ScriptFieldEditor::ScriptFieldEditor(std::shared_ptr<ScriptEditField> field, QWidget* card)
+ScriptFieldEditor::ScriptFieldEditor(const ZVScriptCollectionItem& item,
+                                     std::shared_ptr<ScriptEditField> field, QWidget* card)
     : field_(std::move(field)),
-      multiLine_(field_->frame().height >= linesOfMultiLine * field_->fontSize()),
-      widget_(multiLine_ ? makeText(card) : makeLine(card)) {
+      tooLargeText_(QString::fromStdString(item.tooLargeText())),
+      widget_(hasSeveralLines(*field_) ? makeText(card) : makeLine(card)) {
     widget_->setFont(fieldFont(*card, *field_));
+    widget_->setAccessibleName(QString::fromStdString(
+        field_.get() == item.eTitle() ? item.titleFieldName() : item.textFieldName()));
 }
 
 ScriptFieldEditor::~ScriptFieldEditor() {
@@ -51,10 +57,9 @@ ScriptFieldEditor::~ScriptFieldEditor() {
 
 QWidget* ScriptFieldEditor::makeLine(QWidget* card) {
     auto* line = new QLineEdit(card);
-    line->setAccessibleName(tr("Title of the script"));
     changes_ = field_->stringProperty().observe([this, line](const std::string& text, Transition) {
         if (!taking_)
-            line->setText(QString::fromStdString(text));
+            line->setText(QString::fromUtf8(text));
     });
     QObject::connect(line, &QLineEdit::textEdited, line, [this](const QString& text) {
         const QScopedValueRollback guard(taking_, true);
@@ -65,7 +70,6 @@ QWidget* ScriptFieldEditor::makeLine(QWidget* card) {
 
 QWidget* ScriptFieldEditor::makeText(QWidget* card) {
     auto* editor = new QPlainTextEdit(card);
-    editor->setAccessibleName(tr("Text of the script"));
     editor->setTabChangesFocus(true);
     // The standard frame is hard to see on a dark card.
     editor->setFrameStyle(QFrame::Box | QFrame::Plain);
@@ -86,18 +90,15 @@ QWidget* ScriptFieldEditor::makeText(QWidget* card) {
 
 void ScriptFieldEditor::showInText(QPlainTextEdit& editor, const std::string& text) {
     const QScopedValueRollback guard(showing_, true);
-    const bool tooLarge = text.size() > largestEditableText;
+    const bool tooLarge = field_->isTooLarge();
     editor.setReadOnly(tooLarge);
     editor.setLineWrapMode(tooLarge ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
     if (tooLarge) {
-        editor.setPlainText(
-            tr("This script is too large to be edited here (%1). Its text stays as "
-               "it is; its title can be changed.")
-                .arg(QLocale().formattedDataSize(static_cast<qint64>(text.size()))));
+        editor.setPlainText(tooLargeText_);
         return;
     }
     carriageReturns_ = text.find("\r\n") != std::string::npos;
-    editor.setPlainText(QString::fromStdString(text));
+    editor.setPlainText(QString::fromUtf8(text));
 }
 
 void ScriptFieldEditor::takeFromText(const QPlainTextEdit& editor) {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "scripts/ZVScriptCollectionItem.h"
 
-#include <QCoreApplication>
 #include <QRect>
+#include <QString>
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -18,13 +19,10 @@ namespace zarvil::qt {
 /// them. What the user types goes into the field at once; what he leaves alone stays as it was,
 /// byte for byte.
 class ScriptFieldEditor {
-    Q_DECLARE_TR_FUNCTIONS(ScriptFieldEditor)
-
 public:
-    /// Larger texts are not laid out for editing; they keep their content.
-    static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
-
-    ScriptFieldEditor(std::shared_ptr<ScriptEditField> field, QWidget* card);
+    /// Takes its texts from the item that the field belongs to.
+    ScriptFieldEditor(const ZVScriptCollectionItem& item, std::shared_ptr<ScriptEditField> field,
+                      QWidget* card);
     ScriptFieldEditor(const ScriptFieldEditor&) = delete;
     ScriptFieldEditor& operator=(const ScriptFieldEditor&) = delete;
     /// The widget may be in the middle of its own event, so it goes a moment later.
@@ -40,7 +38,7 @@ private:
     void takeFromText(const QPlainTextEdit& editor);
 
     std::shared_ptr<ScriptEditField> field_;
-    bool multiLine_;
+    QString tooLargeText_;
     bool carriageReturns_ = false; ///< the text's lines end in CR LF
     bool showing_ = false;         ///< the widget's change comes from the field
     bool taking_ = false;          ///< the field's change comes from the widget

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QScrollBar>
 #include <QStyle>
 
@@ -24,124 +23,103 @@ int contentWidth() { return ScriptCard::minimumCardSize().width() + 2 * spacing;
 
 } // namespace
 
-ScriptListView::ScriptListView(QWidget* parent)
-    : QAbstractScrollArea(parent), emptyState_(new QLabel(viewport())) {
-    setAccessibleName(tr("Scripts"));
+ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    emptyState_->setAlignment(Qt::AlignCenter);
-    emptyState_->setWordWrap(true);
-    emptyState_->setForegroundRole(QPalette::PlaceholderText);
     verticalScrollBar()->setSingleStep(rowHeight() / 4);
     layoutTimer_.setSingleShot(true);
     layoutTimer_.setInterval(0);
     connect(&layoutTimer_, &QTimer::timeout, this, &ScriptListView::layOut);
-    updateEmptyState();
 }
 
-ScriptListView::~ScriptListView() {
-    contentChanges_.cancel();
-    dimming_.cancel();
-}
+ScriptListView::~ScriptListView() { rowChanges_.cancel(); }
 
 void ScriptListView::setModel(CollectionView& model) {
-    contentChanges_.cancel();
-    allRowsWentAway();
+    rowChanges_.cancel();
+    renumber([](int) { return -1; });
     model_ = &model;
-    contentChanges_ =
-        model.content().observe([this](const ListChange& change) { contentDidChange(change); });
-    dimming_ = model.alphaProperty().observe([this](double, Transition) { updateEmptyState(); });
-}
-
-void ScriptListView::contentDidChange(const ListChange& change) {
-    switch (change.kind) {
-    case ListChange::Kind::Inserted: // always at the end
-        ++rowCount_;
-        ++addedSinceLayout_;
-        break;
-    case ListChange::Kind::Removed:
-        rowWasRemoved(static_cast<int>(change.index));
-        break;
-    case ListChange::Kind::Cleared:
-        allRowsWentAway();
-        break;
-    }
+    addedSinceLayout_ = 0;
+    rowChanges_ = model.observeRows([this](const RowChange& change) { rowsDidChange(change); });
     layoutTimer_.start();
 }
 
-void ScriptListView::rowWasRemoved(int row) {
-    --rowCount_;
+int ScriptListView::rowCount() const { return model_ ? static_cast<int>(model_->rowCount()) : 0; }
+
+void ScriptListView::rowsDidChange(const RowChange& change) {
+    if (change.phase == RowChange::Phase::Before)
+        return;
+    const auto row = static_cast<int>(change.row);
+    const auto to = static_cast<int>(change.to);
+    switch (change.kind) {
+    case RowChange::Kind::Inserted:
+        if (!cards_.empty() && row <= cards_.rbegin()->first)
+            renumber([row](int former) { return former < row ? former : former + 1; });
+        ++addedSinceLayout_;
+        lastAddedRow_ = row;
+        break;
+    case RowChange::Kind::Removed:
+        renumber([row](int former) {
+            return former == row ? -1 : former < row ? former : former - 1;
+        });
+        break;
+    case RowChange::Kind::Moved:
+        renumber([row, to](int former) {
+            if (former == row)
+                return to;
+            if (row < to)
+                return former > row && former <= to ? former - 1 : former;
+            return former >= to && former < row ? former + 1 : former;
+        });
+        break;
+    case RowChange::Kind::Cleared:
+        renumber([](int) { return -1; });
+        addedSinceLayout_ = 0;
+        break;
+    case RowChange::Kind::Changed: // The card of the row watches it.
+        return;
+    }
+    if (!layoutTimer_.isActive())
+        layoutTimer_.start();
+}
+
+void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
     std::map<int, ScriptCard*> moved;
-    for (const auto& [cardRow, card] : cards_) {
-        if (cardRow == row)
+    for (const auto& [former, card] : std::exchange(cards_, {})) {
+        const int row = rowNow(former);
+        if (row < 0)
             makeSpare(card);
         else
-            moved.emplace(cardRow < row ? cardRow : cardRow - 1, card);
+            moved.emplace(row, card);
     }
     cards_ = std::move(moved);
-}
-
-void ScriptListView::allRowsWentAway() {
-    for (const auto& [row, card] : std::exchange(cards_, {}))
-        makeSpare(card);
-    rowCount_ = 0;
-    addedSinceLayout_ = 0;
-    layoutTimer_.start();
-}
-
-void ScriptListView::removeScriptOf(ScriptCard* card) {
-    // The next card moves under the pointer: a double click must not remove that one too.
-    if (lastRemoval_.isValid() && !lastRemoval_.hasExpired(QApplication::doubleClickInterval()))
-        return;
-    if (const auto item = card->item()) {
-        lastRemoval_.start();
-        // Last: an alert may let the window, and this list with it, go.
-        item->remove();
-    }
 }
 
 void ScriptListView::layOut() {
     layoutTimer_.stop();
     updateScrollBars();
-    updateEmptyState();
     bindCards();
     placeCards();
     // One more script in a list that was shown before is one that the user has just made.
-    const bool created = addedSinceLayout_ == 1 && rowCount_ > 1;
+    const bool created = addedSinceLayout_ == 1 && rowCount() > 1;
     addedSinceLayout_ = 0;
     if (created)
-        scrollToRow(rowCount_ - 1);
+        scrollToRow(lastAddedRow_);
 }
 
 void ScriptListView::updateScrollBars() {
     const QSize sight = viewport()->size();
-    const int height = rowCount_ == 0 ? 0 : rowCount_ * rowHeight() + spacing;
+    const int height = rowCount() == 0 ? 0 : rowCount() * rowHeight() + spacing;
     verticalScrollBar()->setPageStep(sight.height());
     verticalScrollBar()->setRange(0, std::max(0, height - sight.height()));
     horizontalScrollBar()->setPageStep(sight.width());
     horizontalScrollBar()->setRange(
-        0, rowCount_ == 0 ? 0 : std::max(0, contentWidth() - sight.width()));
-}
-
-void ScriptListView::setSwitchedOn(bool on) {
-    switchedOn_ = on;
-    updateEmptyState();
-}
-
-void ScriptListView::updateEmptyState() {
-    const bool dimmed = model_ && model_->alphaValue() < alpha::active;
-    emptyState_->setText(
-        switchedOn_ && !dimmed
-            ? tr("No scripts yet. Type a title and create your first one.")
-            : tr("Your scripts are listed here while Zarvil runs and scripts are switched on."));
-    emptyState_->setVisible(rowCount_ == 0);
-    emptyState_->setGeometry(viewport()->rect().adjusted(spacing, spacing, -spacing, -spacing));
+        0, rowCount() == 0 ? 0 : std::max(0, contentWidth() - sight.width()));
 }
 
 bool ScriptListView::isWanted(int row) const {
     const int top = verticalScrollBar()->value();
     const int first = top / rowHeight() - rowsBeyondSight;
     const int last = (top + viewport()->height()) / rowHeight() + rowsBeyondSight;
-    return row >= first && row <= last && row < rowCount_;
+    return row >= first && row <= last && row < rowCount();
 }
 
 void ScriptListView::bindCards() {
@@ -160,7 +138,7 @@ void ScriptListView::bindCards() {
     for (int row = std::max(0, first); isWanted(row); ++row) {
         if (cards_.contains(row))
             continue;
-        auto item = model_->itemAtIndexAs<ZVScriptCollectionItem>(static_cast<std::size_t>(row));
+        auto item = model_->itemAtRowAs<ZVScriptCollectionItem>(static_cast<std::size_t>(row));
         if (!item)
             continue;
         ScriptCard* card = takeSpare();
@@ -199,7 +177,6 @@ ScriptCard* ScriptListView::takeSpare() {
         return card;
     }
     auto* card = new ScriptCard(viewport());
-    connect(card, &ScriptCard::removeRequested, this, &ScriptListView::removeScriptOf);
     connect(card, &ScriptCard::focusChainChanged, this, &ScriptListView::updateTabOrder);
     return card;
 }

@@ -4,13 +4,11 @@
 #include "protocol/Subscription.h"
 
 #include <QAbstractScrollArea>
-#include <QElapsedTimer>
 #include <QTimer>
 
+#include <functional>
 #include <map>
 #include <vector>
-
-class QLabel;
 
 namespace zarvil::qt {
 
@@ -28,10 +26,8 @@ public:
     /// The model's items are `ZVScriptCollectionItem`. Not owned; it must live as long as the list
     /// is used, or until the next model.
     void setModel(CollectionView& model);
-    [[nodiscard]] int rowCount() const { return rowCount_; }
+    [[nodiscard]] int rowCount() const;
     void scrollToRow(int row);
-    /// Whether scripts are in use; only then does an empty list mean that there are none.
-    Q_SLOT void setSwitchedOn(bool on);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -43,14 +39,12 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void contentDidChange(const ListChange& change);
-    void rowWasRemoved(int row);
-    void allRowsWentAway();
-    void removeScriptOf(ScriptCard* card);
+    void rowsDidChange(const RowChange& change);
+    /// Every card to the row that the former one has become; -1 where it went.
+    void renumber(const std::function<int(int)>& rowNow);
 
     void layOut();
     void updateScrollBars();
-    void updateEmptyState();
     void bindCards();
     void placeCards();
     void updateTabOrder();
@@ -60,16 +54,12 @@ private:
     void makeSpare(ScriptCard* card);
 
     CollectionView* model_ = nullptr;
-    bool switchedOn_ = false;
-    int rowCount_ = 0;
     int addedSinceLayout_ = 0;
+    int lastAddedRow_ = 0;
     std::map<int, ScriptCard*> cards_; ///< by row
     std::vector<ScriptCard*> spares_;
-    QLabel* emptyState_;
     QTimer layoutTimer_; ///< gathers the changes of one turn of the event loop
-    QElapsedTimer lastRemoval_;
-    Subscription contentChanges_;
-    Subscription dimming_;
+    Subscription rowChanges_;
 };
 
 } // namespace zarvil::qt

@@ -61,7 +61,7 @@ void LinkButtonWidget::showTitle() {
     const std::string title =
         model_->attributedTitle().empty() ? model_->title() : model_->attributedTitle().text();
     if (!title.empty())
-        setText(QString::fromStdString(title));
+        setText(QString::fromUtf8(title));
     updateGeometry();
     update();
 }
@@ -70,7 +70,7 @@ QSize LinkButtonWidget::sizeHint() const {
     return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 2 * focusMargin);
 }
 
-/// The given colour where it can be read on the window, else the desktop's colour of links, else
+/// The given color where it can be read on the window, else the desktop's color of links, else
 /// that of text.
 QColor LinkButtonWidget::readable(const QColor& wanted) const {
     const QColor background = palette().color(QPalette::Window);

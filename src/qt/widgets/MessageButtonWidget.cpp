@@ -43,7 +43,7 @@ void MessageButtonWidget::setModel(Button& model) {
     subscriptions_.push_back(
         model.titleProperty().observe([this](const std::string& title, Transition) {
             if (!title.empty())
-                setText(QString::fromStdString(title));
+                setText(QString::fromUtf8(title));
         }));
     subscriptions_.push_back(
         model.enabledProperty().observe([this](bool enabled, Transition) { setEnabled(enabled); }));
@@ -75,7 +75,7 @@ void MessageButtonWidget::paintEvent(QPaintEvent* event) {
     paintRing(painter);
 }
 
-/// The focus in the colour of selections, else the default button in white.
+/// The focus in the color of selections, else the default button in white.
 void MessageButtonWidget::paintRing(QPainter& painter) const {
     if (!hasFocus() && !isDefault())
         return;

@@ -8,8 +8,8 @@
 
 namespace zarvil::qt {
 
-/// A bevelled dark panel that other widgets stand on. The colours of text are set to be read on
-/// it, in light and dark themes alike. High-contrast themes get a plain panel in their colours.
+/// A bevelled dark panel that other widgets stand on. The colors of text are set to be read on
+/// it, in light and dark themes alike. High-contrast themes get a plain panel in their colors.
 class MessagePanelWidget : public QWidget {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private:
     QtImageRenderer renderer_;
     ZVMessageView view_{renderer_};
     PointerTracker tracker_{view_};
-    bool highContrast_ = false; ///< the theme is, and so the colours are its own
+    bool highContrast_ = false; ///< the theme is, and so the colors are its own
 };
 
 } // namespace zarvil::qt

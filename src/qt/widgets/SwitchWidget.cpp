@@ -52,7 +52,7 @@ QString SwitchWidget::stateLabel() const {
     const auto* cell = model_ ? model_->cellAs<KXButtonCell>() : nullptr;
     if (!cell || !cell->showStateExtras())
         return {};
-    return QString::fromStdString(isOn() ? cell->onTitle() : cell->offTitle());
+    return QString::fromUtf8(isOn() ? cell->onTitle() : cell->offTitle());
 }
 
 void SwitchWidget::toggle() {

@@ -70,7 +70,7 @@ TEST_F(Pushover, aCheckGreysTheControlsUntilTheVerdict) {
                                                           {alpha::active, Transition::Animated}}));
 }
 
-TEST_F(Pushover, eachResultHasItsTextColourAndEffectOnTheStoredIds) {
+TEST_F(Pushover, eachResultHasItsTextColorAndEffectOnTheStoredIds) {
     start();
     struct Case {
         const char* description;

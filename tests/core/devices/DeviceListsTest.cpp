@@ -309,8 +309,72 @@ TEST_F(Devices, aStormOfArrivalsAndDeparturesEndsAsAWalkInOrderWould) {
     EXPECT_EQ(saved(), Records{watched});
 }
 
+TEST_F(Devices, connectedRowsAreSortedByNameWatchedOnesAreNot) {
+    for (const char* name : {"UPS 10", "ups 9", "Eaton"}) {
+        plug(device(name, name));
+        allSaved(Array{device("b"), device("a")});
+    }
+    const auto rows = [](CollectionView& view) {
+        std::vector<std::string> names;
+        for (std::size_t row = 0; row < view.rowCount(); ++row)
+            names.push_back(view.itemAtRowAs<ZVCollectionItem>(row)->name());
+        return names;
+    };
+    EXPECT_EQ(rows(pane.connectedDevices), (std::vector<std::string>{"Eaton", "ups 9", "UPS 10"}));
+    EXPECT_EQ(rows(pane.selectedDevices), (std::vector<std::string>{"b", "a"}));
+    EXPECT_EQ(connected().front(), device("UPS 10", "UPS 10")) << "as the agent told";
+    tick(0);
+    EXPECT_EQ(takeSent().back(), about(message::addedSaveItem, device("UPS 10", "UPS 10")));
+}
+
+TEST_F(Devices, oddRecordsGetReadableTexts) {
+    struct Case {
+        Dictionary record;
+        std::string name, detail, spoken;
+    };
+    const std::vector<Case> cases{
+        {{}, "Unnamed device", "No serial number", "Unnamed device, No serial number"},
+        {device("UPS", "N/A"), "UPS", "V · No serial number", "UPS, V, No serial number"},
+        {{{"DeviceName", " "}, {"DeviceVendor", 7}, {"DeviceSerial", Array{1}}},
+         "Unnamed device",
+         "7 · No serial number",
+         "Unnamed device, 7, No serial number"},
+        {device("a\nb", "\u202E"), "a\u240Ab", "V · \uFFFD", "a\u240Ab, V, \uFFFD"},
+    };
+    for (const Case& one : cases) {
+        allSaved(Array{one.record});
+        const auto item = pane.selectedDevices.itemAtRowAs<ZVCollectionItem>(0);
+        EXPECT_EQ(item->name(), one.name);
+        EXPECT_EQ(item->detail(), one.detail);
+        EXPECT_EQ(item->spokenName(), one.spoken);
+    }
+    allSaved(Array{device(std::string(1 << 20, 'x'), std::string(1 << 20, 'x'))});
+    const auto item = pane.selectedDevices.itemAtRowAs<ZVCollectionItem>(0);
+    EXPECT_LT(item->detail().size() + item->toolTip().size(), 10'000U);
+}
+
+TEST_F(Devices, emptyListsSayWhy) {
+    const auto shown = [this] {
+        std::vector<std::string> titles;
+        for (const Placeholder* one :
+             {&pane.placeholders.noneConnected, &pane.placeholders.noneWatched,
+              &pane.placeholders.devicesUnknown})
+            if (!one->isHidden())
+                titles.push_back(one->text().title);
+        return titles;
+    };
+    using Titles = std::vector<std::string>;
+    EXPECT_EQ(shown(), (Titles{"No device connected", "No device watched"}));
+    plug(device("A"));
+    EXPECT_EQ(shown(), Titles{"No device watched"});
+    tick(0);
+    EXPECT_EQ(shown(), Titles{"No device connected"});
+    time.advance(5);
+    EXPECT_EQ(shown(), Titles{"No devices to show"});
+}
+
 TEST_F(Devices, anItemWithoutAViewOrARecordIsLeftAlone) {
-    ZVCollectionItem loose;
+    ZVCollectionItem loose(strings);
     loose.userDidSetState(1);
     pane.stateDidChange(loose);
     EXPECT_EQ(takeSent(), Messages{});

@@ -1,10 +1,13 @@
 #include "interface/ArrayController.h"
 #include "interface/Button.h"
 #include "interface/CollectionView.h"
+#include "interface/DisplayText.h"
 #include "interface/NotificationCenter.h"
 #include "interface/TextField.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace zarvil {
 namespace {
@@ -61,14 +64,14 @@ TEST_F(Lists, findTheFirstOfEqualRecordsAlsoAfterRemovalsAndEdits) {
     const Record again = record("a");
     for (const Record& added : {a, b, again})
         list.addObject(added);
-    EXPECT_EQ(list.indexOfObject(again->contents()), 0U);
+    EXPECT_EQ(list.indexOfObject(again), 0U);
     list.removeObject(again);
     EXPECT_EQ(names(), (std::vector<std::string>{"a", "b"}));
     list.removeObject(record("a"));
-    EXPECT_EQ(list.indexOfObject(b->contents()), 0U);
+    EXPECT_EQ(list.indexOfObject(b), 0U);
     b->setObject("name", "c");
-    EXPECT_EQ(list.indexOfObject(record("c")->contents()), 0U);
-    EXPECT_FALSE(list.indexOfObject(record("b")->contents()));
+    EXPECT_EQ(list.indexOfObject(record("c")), 0U);
+    EXPECT_FALSE(list.indexOfObject(record("b")));
     list.removeObject(record("nobody"));
     EXPECT_EQ(names(), std::vector<std::string>{"c"});
 }
@@ -78,10 +81,109 @@ TEST_F(Lists, findTheEarlierOfTwoRecordsThatAnEditMadeEqual) {
     list.addObject(early);
     list.addObject(record("y"));
     early->setObject("name", "y");
-    EXPECT_EQ(list.indexOfObject(record("y")->contents()), 0U);
+    EXPECT_EQ(list.indexOfObject(record("y")), 0U);
     list.removeAllArrangedObjects();
     early->setObject("name", "z");
-    EXPECT_FALSE(list.indexOfObject(early->contents()));
+    EXPECT_FALSE(list.indexOfObject(early));
+}
+
+// A plain sorted vector plays against the view; the observer keeps the rows by what it is told.
+TEST_F(Lists, rowsAreSortedForDisplayAndToldOfOneByOne) {
+    const auto key = [](const MutableRecord& shown) {
+        return *shown.contents().stringForKey("name");
+    };
+    CollectionView view(
+        list, [] { return std::make_shared<CollectionViewItem>(); }, key);
+    const auto nameAt = [&](std::size_t row) {
+        return key(*view.itemAtRow(row)->representedObject());
+    };
+    std::vector<std::string> told;
+    std::size_t countBefore = 0;
+    const auto rows = view.observeRows([&](const RowChange& change) {
+        if (change.phase == RowChange::Phase::Before) {
+            countBefore = view.rowCount();
+            return;
+        }
+        const auto place = told.begin() + static_cast<std::ptrdiff_t>(change.row);
+        if (change.kind == RowChange::Kind::Removed || change.kind == RowChange::Kind::Moved)
+            told.erase(place);
+        if (change.kind == RowChange::Kind::Inserted)
+            told.insert(place, nameAt(change.row));
+        if (change.kind == RowChange::Kind::Moved)
+            told.insert(told.begin() + static_cast<std::ptrdiff_t>(change.to), nameAt(change.to));
+        if (change.kind == RowChange::Kind::Cleared)
+            told.clear();
+    });
+    std::vector<Record> arranged;
+    unsigned random = 7;
+    const auto next = [&random](std::size_t below) {
+        random = random * 1664525 + 1013904223;
+        return (random >> 8) % below;
+    };
+    for (int step = 0; step < 4000; ++step) {
+        const std::size_t at = next(arranged.size() + 1);
+        const std::string name = std::to_string(next(500));
+        if (at == arranged.size() || next(3) > 0) {
+            arranged.push_back(record(name.c_str()));
+            list.addObject(arranged.back());
+        } else if (next(2) == 0) {
+            arranged[at]->setObject("name", name);
+        } else {
+            EXPECT_EQ(view.itemAtIndex(at)->representedObject(), arranged[at]);
+            list.removeObject(arranged[at]);
+            arranged.erase(arranged.begin() + static_cast<std::ptrdiff_t>(at));
+            EXPECT_EQ(countBefore, view.rowCount() + 1);
+        }
+    }
+    std::vector<std::string> sorted = names();
+    EXPECT_EQ(sorted.size(), arranged.size());
+    std::ranges::sort(sorted);
+    EXPECT_EQ(told, sorted);
+    for (std::size_t row = 0; row < sorted.size(); ++row) {
+        EXPECT_EQ(nameAt(row), sorted[row]);
+        EXPECT_EQ(view.rowOfSerial(view.serialAtRow(row)), row);
+    }
+    list.removeAllArrangedObjects();
+    EXPECT_TRUE(told.empty());
+}
+
+TEST(DisplayText, showsWhatWouldBeInvisibleAndDefusesWhatWouldReorder) {
+    struct Case {
+        std::string text, line, lines;
+    };
+    const Case cases[] = {
+        {std::string("\0\t\x1b\x7f", 4), "\u2400\u2409\u241B\u2421", "\u2400\t\u241B\u2421"},
+        {"a\r\nb\rc\n", "a\u240D\u240Ab\u240Dc\u240A", "a\nb\u240Dc\n"},
+        {"a\u0085b\u2028c", "a\uFFFDb\uFFFDc", "a\uFFFDb\uFFFDc"},
+        {"\u202Ex\u202C\u2066\u2069\u206A", "\uFFFDx\uFFFD\uFFFD\uFFFD\uFFFD",
+         "\uFFFDx\uFFFD\uFFFD\uFFFD\uFFFD"},
+        {"\u200Fשלום e\u0301 🔌", "\u200Fשלום e\u0301 🔌", "\u200Fשלום e\u0301 🔌"},
+        {"\xff\xe2\x82", "\uFFFD\uFFFD\uFFFD", "\uFFFD\uFFFD\uFFFD"},
+    };
+    for (const auto& [text, line, lines] : cases) {
+        EXPECT_EQ(showableText(text, 100), line);
+        EXPECT_EQ(showableText(text, 100, LineBreaks::Kept), lines);
+    }
+}
+
+TEST(DisplayText, shortensBetweenWholeCharacters) {
+    EXPECT_EQ(showableText("0123456789", 10), "0123456789");
+    EXPECT_EQ(showableText("0123456789A", 10), "01234…6789A");
+    EXPECT_EQ(showableText("0123456789A", 10, LineBreaks::Kept), "0123456789…");
+    for (std::size_t limit = 2; limit < 40; ++limit) {
+        const std::string shown = showableText("🔌🔌🔌🔌🔌🔌🔌🔌🔌🔌🔌🔌", limit);
+        EXPECT_EQ(shown.find("\uFFFD"), std::string::npos) << limit;
+    }
+    EXPECT_LE(showableText(std::string(1 << 20, '\x80'), 100).size(), 350U) << "no UTF-8 at all";
+}
+
+TEST(DisplayText, sortsNumbersByValueAndLettersWithoutCaseAndAccents) {
+    const std::vector<std::string> sorted{"",     "2",     "010",    "a",       "É 1", "e 02",
+                                          "über", "UPS 9", "ups 10", "UPS 10a", "Z",   "ж"};
+    for (std::size_t index = 1; index < sorted.size(); ++index)
+        EXPECT_LT(naturalSortKey(sorted[index - 1]), naturalSortKey(sorted[index]))
+            << sorted[index];
+    EXPECT_EQ(naturalSortKey("UPS 007"), naturalSortKey("ups 7"));
 }
 
 struct Log : ActionTarget {

@@ -39,10 +39,10 @@ TEST_F(ScriptItem, editingLaysTheFilledFieldsOverTheCardTheTitleOnTop) {
     EXPECT_EQ(script->eTitle(), nullptr);
 }
 
-TEST_F(ScriptItem, savingDeletesTheOldFileThenWritesTheNewOneAtomically) {
+TEST_F(ScriptItem, savingReplacesTheOldFileByTheNewOne) {
     editByHand(*item(0), "c", "echo c");
-    EXPECT_THAT(files.log, ElementsAre("remove " + pathOf("a.zvscript"),
-                                       "write atomically " + pathOf("c.zvscript")));
+    EXPECT_THAT(files.log,
+                ElementsAre("replace " + pathOf("a.zvscript") + " by " + pathOf("c.zvscript")));
     EXPECT_EQ(files.files[pathOf("c.zvscript")], "echo c");
     EXPECT_THAT(titles(), ElementsAre("c", "b"));
     EXPECT_THAT(errors.presented, IsEmpty());
@@ -104,13 +104,75 @@ TEST_F(ScriptItem, aFailedDeletionIsShownAndTheSaveGoesOn) {
     EXPECT_EQ(files.files[pathOf("a.txt")], "echo a");
 }
 
-TEST_F(ScriptItem, aFailedWriteIsNotReportedAndTheRecordKeepsWhatWasTyped) {
-    files.failing.insert(pathOf("c.zvscript"));
-    editByHand(*item(0), "c", "typed");
+TEST_F(ScriptItem, aFailedSaveKeepsTheFileAndIsNotedUntilOneWorks) {
+    const auto note = [this] { return item(0)->noteProperty().get().caption; };
+    files.failing = {pathOf("c.zvscript"), pathOf("d.zvscript")};
+    for (const std::string_view title : {"c", "d"}) {
+        editByHand(*item(0), title, "typed");
+        EXPECT_EQ(listed(0, script::title), title);
+        EXPECT_EQ(listed(0, script::text), "typed");
+        EXPECT_EQ(note(), "Not saved");
+        EXPECT_NE(item(0)->noteProperty().get().reason, "");
+        EXPECT_EQ(files.files[pathOf("a.zvscript")], "echo a");
+        EXPECT_FALSE(item(0)->editing());
+    }
+    files.failing = {pathOf("d.zvscript")};
+    editByHand(*item(0), "c", "");
+    EXPECT_EQ(note(), "");
+    EXPECT_EQ(files.files, (std::map<std::string, std::string>{{pathOf("b.zvscript"), "echo b"},
+                                                               {pathOf("c.zvscript"), "typed"}}));
+    files.failing = {pathOf("x.zvscript")};
+    editByHand(*item(0), "x", "lost");
+    item(0)->remove();
+    EXPECT_EQ(files.files.size(), 1U) << "the file of the former title";
     EXPECT_THAT(errors.presented, IsEmpty());
-    EXPECT_EQ(listed(0, script::title), "c");
-    EXPECT_EQ(listed(0, script::text), "typed");
+}
+
+TEST_F(ScriptItem, whatWasTypedSurvivesAMissedPing) {
+    files.failing = {pathOf("c.zvscript")};
+    editByHand(*item(1), "c", "not saved");
+    item(0)->edit();
+    item(0)->eText()->userDidEdit("half a wor");
+    time.advance(5);
+    ASSERT_EQ(count(), 0U);
+    put("a.zvscript", "changed meanwhile");
+    put("aa.zvscript", "new");
+    agentSends(message::pingAnswer);
+    EXPECT_THAT(titles(), ElementsAre("a", "aa", "b"));
+    EXPECT_TRUE(item(0)->editing());
+    EXPECT_EQ(item(0)->eTitle()->stringValue(), "a");
+    EXPECT_EQ(item(0)->eText()->stringValue(), "half a wor");
+    EXPECT_FALSE(item(1)->editing());
+    EXPECT_EQ(item(2)->eTitle()->stringValue(), "c");
+    EXPECT_EQ(item(2)->eText()->stringValue(), "not saved");
+    EXPECT_EQ(item(2)->noteProperty().get().caption, "Not saved");
+    item(0)->edit();
+    EXPECT_EQ(files.files[pathOf("a.zvscript")], "half a wor");
+    files.failing.clear();
+    item(2)->edit();
+    EXPECT_EQ(files.files.count(pathOf("b.zvscript")), 0U);
+    time.advance(5);
+    agentSends(message::pingAnswer);
+    EXPECT_FALSE(item(0)->editing()) << "saved drafts are gone";
+}
+
+TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
+    put("a.txt", "another");
+    pane.unloadScripts();
+    pane.loadScripts();
+    ASSERT_THAT(titles(), ElementsAre("a", "a", "b"));
+    item(0)->edit();
+    item(0)->eText()->userDidEdit("draft");
+    const std::string own = listed(0, script::text);
+    pane.unloadScripts();
+    const auto kept = std::exchange(files.files, {{pathOf("b.zvscript"), "echo b"}});
+    pane.loadScripts();
     EXPECT_FALSE(item(0)->editing());
+    pane.unloadScripts();
+    files.files = kept;
+    pane.loadScripts();
+    for (const std::size_t index : {0U, 1U, 2U})
+        EXPECT_EQ(item(index)->editing(), listed(index, script::text) == own) << index;
 }
 
 TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {

@@ -48,6 +48,18 @@ TEST_F(QtUserDefaultsTest, editedTextsReadAsTheForgivingReadersDo) {
     }
 }
 
+TEST_F(QtUserDefaultsTest, whatCouldNotBeWrittenGoesWithTheNextWrite) {
+    path = folder.filePath("blocked/defaults.ini");
+    QFile blocking(folder.filePath("blocked"));
+    ASSERT_TRUE(blocking.open(QIODevice::WriteOnly));
+    QtUserDefaults defaults(path);
+    defaults.setBool(true, "first");
+    EXPECT_TRUE(defaults.boolForKey("first"));
+    ASSERT_TRUE(blocking.remove());
+    defaults.setBool(true, "second");
+    EXPECT_TRUE(contentOf(path).contains("first=true")) << contentOf(path).constData();
+}
+
 TEST_F(QtUserDefaultsTest, aCorruptFileKeepsItsGoodLinesAndACopy) {
     const QByteArray broken = "[General]\nkey=true\n\xffgarbage\n[half";
     write(broken);

@@ -84,13 +84,13 @@ TEST_F(Layout, givesNoMnemonicTwiceOnOnePage) {
         letters.removeAll(QString());
         EXPECT_FALSE(letters.isEmpty());
         EXPECT_EQ(letters.removeDuplicates(), 0)
-            << fromQt(letters.join(' ') + " on " + tabs.tabText(page));
+            << (letters.join(QChar(0x20)) + " on " + tabs.tabText(page)).toStdString();
     }
 }
 
 TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
     visitOutlets(pane, [&](std::string_view name, View& model) {
-        auto* shown = view.findChild<QWidget*>(toQt(name));
+        auto* shown = view.findChild<QWidget*>(QString::fromUtf8(name));
         const auto* control = dynamic_cast<Control*>(&model);
         const bool operable =
             control && !qobject_cast<QLabel*>(shown) && !shown->property("readOnly").toBool();
@@ -116,6 +116,16 @@ TEST_F(Layout, aFieldSendsOnReturnAndOnLeavingAnEditButNeverTwice) {
     QTest::keyClicks(&delay, "0");
     widget<QCheckBox>("forceQuit").setFocus();
     EXPECT_EQ(takeSent(), std::vector{settingChange("ShutdownDelay", 450)});
+
+    focus(delay, generalPage);
+    delay.selectAll();
+    QTest::keyClicks(&delay, "abc");
+    QTest::keyClick(&delay, Qt::Key_Return);
+    EXPECT_EQ(delay.text(), "abc");
+    widget<QCheckBox>("forceQuit").setFocus();
+    EXPECT_EQ(delay.text(), "450");
+    EXPECT_TRUE(widget<QLabel>("DelayFault").isVisible());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_F(Layout, leavingAnUnfinishedScriptTitleCreatesNothing) {
@@ -168,11 +178,11 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
 TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     load();
     const auto& list = widget<QWidget>("connectedDevices");
-    EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
+    EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
     agentSends(Message(message::pingAnswer));
-    EXPECT_TRUE(list.accessibleDescription().contains("No power devices"));
+    EXPECT_TRUE(list.accessibleDescription().contains("No device connected"));
     pane.appDidNotAnswer();
-    EXPECT_FALSE(list.accessibleDescription().contains("No power devices"));
+    EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
 }
 
 } // namespace

@@ -80,7 +80,7 @@ TEST_F(ControlWidgets, aLinkIsPressedByMouseAndKeys) {
     EXPECT_EQ(target.actions.size(), 3U);
 }
 
-/// Whether a colour stands in what a widget paints.
+/// Whether a color stands in what a widget paints.
 bool paints(QWidget& widget, const QColor& color) {
     const QImage image = widget.grab().toImage();
     for (int y = 0; y < image.height(); ++y)
@@ -120,7 +120,7 @@ TEST_F(ControlWidgets, aMessageButtonDarkensWhilePressedAndKeepsWhatIsBehindItsC
     const auto pixel = [&](int x, int y) { return window.grab().toImage().pixelColor(x, y); };
     // In the row's middle the face is 0.55 white, pressed 0.2.
     EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
-    EXPECT_GT(pixel(30, 24).red(), pixel(30, 44).red()) << "the lighter colour is at the top";
+    EXPECT_GT(pixel(30, 24).red(), pixel(30, 44).red()) << "the lighter color is at the top";
     EXPECT_EQ(pixel(20, 20), QColor(0, 200, 0));
     QTest::mousePress(&button, Qt::LeftButton);
     EXPECT_NEAR(pixel(30, 34).red(), 0.2 * 255, 4);

@@ -1,0 +1,22 @@
+# A target sees the headers of its own folders and of the layers that it links, and no others:
+#   zarvil_own_headers(target FOLDER...)
+# adds an include folder of the build tree that holds links to these folders alone. Folders are named
+# as in include lines, from src/core or src.
+function(zarvil_own_headers target)
+    set(includes "${PROJECT_BINARY_DIR}/layers/${target}")
+    foreach(folder IN LISTS ARGN)
+        set(source "${PROJECT_SOURCE_DIR}/src/core/${folder}")
+        if(NOT IS_DIRECTORY "${source}")
+            set(source "${PROJECT_SOURCE_DIR}/src/${folder}")
+        endif()
+        cmake_path(GET folder PARENT_PATH parent)
+        file(MAKE_DIRECTORY "${includes}/${parent}")
+        file(CREATE_LINK "${source}" "${includes}/${folder}" SYMBOLIC)
+    endforeach()
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "INTERFACE_LIBRARY")
+        target_include_directories(${target} INTERFACE "${includes}")
+    else()
+        target_include_directories(${target} PUBLIC "${includes}")
+    endif()
+endfunction()

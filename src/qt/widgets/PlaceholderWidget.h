@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class QLabel;
+
+namespace zarvil::qt {
+
+/// A framed text in place of a list's rows. It lies over the list, as its sibling, and so keeps
+/// its contrast while the list is dimmed. The list bears its text as the accessible description.
+class PlaceholderWidget final : public QWidget {
+    Q_OBJECT
+    /// Object name of the sibling that it lies over.
+    Q_PROPERTY(QString covers READ covers WRITE setCovers)
+
+public:
+    explicit PlaceholderWidget(QWidget* parent = nullptr);
+
+    void setText(const QString& title, const QString& words);
+    [[nodiscard]] QString covers() const { return covers_; }
+    void setCovers(const QString& covers) { covers_ = covers; }
+
+    void setVisible(bool visible) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    [[nodiscard]] QWidget* covered();
+    void cover();
+    void describe();
+    void updateFonts();
+
+    QLabel* title_;
+    QLabel* words_;
+    QString covers_;
+    QPointer<QWidget> covered_;
+};
+
+} // namespace zarvil::qt
