@@ -70,7 +70,7 @@ void Zarvil_Preferences::resumeDrafts() {
 
 /// The script that the draft belongs to: the same one, else the only one of its title.
 std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const ScriptDraft& draft) {
-    auto index = scriptsArrayController.indexOfObject(draft.saved);
+    auto index = scriptsArrayController.indexOfObject(makeRecord(draft.saved));
     if (!index) {
         const std::string* title = draft.saved.stringForKey(script::title);
         const auto& records = scriptsArrayController.arrangedObjects();
@@ -80,8 +80,8 @@ std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const Sc
         };
         if (std::ranges::count_if(records, isOfTitle) != 1)
             return nullptr;
-        index =
-            static_cast<std::size_t>(std::ranges::find_if(records, isOfTitle) - records.begin());
+        index = static_cast<std::size_t>(
+            std::ranges::distance(records.begin(), std::ranges::find_if(records, isOfTitle)));
     }
     return scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index);
 }
