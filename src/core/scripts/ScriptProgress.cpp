@@ -1,5 +1,7 @@
 #include "scripts/ScriptProgress.h"
 
+#include "interface/DisplayText.h"
+
 #include <utility>
 
 namespace zarvil {
@@ -17,15 +19,17 @@ std::string withTitle(std::string text, std::string_view title) {
 
 } // namespace
 
-void ScriptProgress::run(std::string_view title, std::string_view source) {
+void ScriptProgress::run(std::string_view title, std::string_view source, Ended ended) {
     hold_ = platform_.handlers.hold();
-    text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."), title));
+    ended_ = std::move(ended);
+    text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."),
+                        showableText(title, longestShownLine)));
     stopping_.set(false);
     running_.set(true);
     // Not by way of the handlers, which are held.
     windowTimer_ = platform_.timers.schedule(windowDelay, Repetition::Once,
                                              [this] { windowShown_.set(true); });
-    auto run = platform_.scripts.start(source, [this](const auto& error) { ended(error); });
+    auto run = platform_.scripts.start(source, [this](const auto& error) { finish(error); });
     if (running_.get())
         run_ = std::move(run);
 }
@@ -39,14 +43,17 @@ void ScriptProgress::stop() {
     run_->stop();
 }
 
-void ScriptProgress::ended(const std::optional<ScriptError>& error) {
+void ScriptProgress::finish(const std::optional<ScriptError>& error) {
     windowTimer_.reset();
     run_.reset();
     windowShown_.set(false);
     running_.set(false);
-    if (error && !stopping_.get())
-        platform_.errors.presentError(
-            {std::string(cocoaErrorDomain), error->number, error->message});
+    std::string reason; // none for a script that the user stopped
+    if (error && !stopping_.get()) {
+        reason = error->message;
+        platform_.errors.presentError({std::string(cocoaErrorDomain), error->number, reason});
+    }
+    std::exchange(ended_, nullptr)(reason);
     // Last: what was held follows in here.
     std::exchange(hold_, {}).cancel();
 }

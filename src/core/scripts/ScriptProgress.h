@@ -4,6 +4,7 @@
 #include "pane/Platform.h"
 #include "protocol/NonCopyable.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,8 +19,11 @@ public:
     /// The ports must outlive this.
     explicit ScriptProgress(Platform& platform) : platform_(platform) {}
 
-    /// To be called within a handler. A failure is presented; one of a stopped script is not.
-    void run(std::string_view title, std::string_view source);
+    /// Told why the script has failed; nothing if it has not, or was stopped.
+    using Ended = std::function<void(const std::string& reason)>;
+
+    /// To be called within a handler. A failure is presented as well.
+    void run(std::string_view title, std::string_view source, Ended ended);
 
     // State.
     [[nodiscard]] const Property<bool>& runningProperty() const { return running_; }
@@ -35,10 +39,11 @@ public:
     void stop();
 
 private:
-    void ended(const std::optional<ScriptError>& error);
+    void finish(const std::optional<ScriptError>& error);
 
     Platform& platform_;
     Subscription hold_;
+    Ended ended_;
     std::unique_ptr<Timer> windowTimer_;
     std::unique_ptr<ScriptRun> run_;
     Property<bool> running_{false};

@@ -1,5 +1,7 @@
 #include "scripts/ZVScriptCollectionItem.h"
 
+#include "interface/DisplayText.h"
+
 namespace zarvil {
 
 namespace {
@@ -56,6 +58,7 @@ void ZVScriptCollectionItem::remove(Control* /*sender*/) {
 }
 
 void ZVScriptCollectionItem::toggleEditing() {
+    setFailure({});
     setEditing(!editing());
     if (editing())
         beginEditing();
@@ -170,7 +173,15 @@ void ZVScriptCollectionItem::executeNow() {
         return;
     }
     const std::string* title = stringOfRecord(script::title);
-    progress_.run(isEmpty(title) ? untitled : *title, *stored);
+    setFailure({});
+    setRunning(true);
+    progress_.run(isEmpty(title) ? untitled : *title, *stored,
+                  [weak = weak_from_this()](const std::string& reason) {
+                      if (const auto item = weak.lock()) {
+                          item->setRunning(false);
+                          item->setFailure(showableText(reason, longestShownLine));
+                      }
+                  });
 }
 
 void ZVScriptCollectionItem::removeNow() {
