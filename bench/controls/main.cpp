@@ -70,7 +70,7 @@ void benchSwitch(const char* name, double step) {
         const double travel = std::fmod(index * step, 34);
         cell.continueTracking({}, {10 + travel, 13}, nullptr);
         QPainter painter(&window);
-        CanvasType canvas(painter, {60, 26}, qt::Orientation::YDown);
+        CanvasType canvas(painter, {60, 26}, Orientation::YDown);
         cell.drawWithFrame({0, 0, 60, 26}, nullptr, canvas);
     });
 }
@@ -81,7 +81,7 @@ void benchPanel(const char* name, int scale) {
     QImage window = surface({300, 160}, scale);
     report(name, runs, [&](int) {
         QPainter painter(&window);
-        qt::QtCanvas canvas(painter, {300, 160}, qt::Orientation::YUp);
+        qt::QtCanvas canvas(painter, {300, 160}, Orientation::YUp);
         panel.drawRect(canvas);
     });
 }

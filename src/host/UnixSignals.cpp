@@ -1,6 +1,7 @@
 #include "host/UnixSignals.h"
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -16,10 +17,14 @@ constexpr std::array endSignals{SIGTERM, SIGINT, SIGHUP};
 std::array<int, 2> pipeEnds{-1, -1};
 
 void writeToPipe(int number) {
+    const int kept = errno; // of what was interrupted
     const auto byte = static_cast<char>(number);
     // A full pipe already says it.
     [[maybe_unused]] const auto written = write(pipeEnds[1], &byte, 1);
+    errno = kept;
 }
+
+void doNothing(int /*number*/) {}
 
 void drainPipe() {
     std::array<char, 64> bytes{};
@@ -37,11 +42,13 @@ UnixSignals::UnixSignals() {
         drainPipe();
         emit endRequested();
     });
-    // A write beyond the file-size limit shall fail with an error that can be shown.
-    std::signal(SIGXFSZ, SIG_IGN);
     struct sigaction action {};
-    action.sa_handler = writeToPipe;
     action.sa_flags = SA_RESTART;
+    // A write beyond the file-size limit shall fail with an error that can be shown. Not ignored:
+    // programs inherit what their parent ignores.
+    action.sa_handler = doNothing;
+    sigaction(SIGXFSZ, &action, nullptr);
+    action.sa_handler = writeToPipe;
     for (const int number : endSignals)
         sigaction(number, &action, nullptr);
 }

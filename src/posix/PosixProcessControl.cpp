@@ -1,6 +1,7 @@
 #include "posix/PosixProcessControl.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <sys/types.h>
@@ -12,6 +13,10 @@ void PosixProcessControl::kill(std::int64_t processIdentifier) {
         ::kill(static_cast<pid_t>(processIdentifier), SIGKILL);
 }
 
-void PosixProcessControl::exit(int status) { std::exit(status); }
+void PosixProcessControl::exit(int status) {
+    // Event loops and threads are under way: the statics that they use must stay.
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
 
 } // namespace zarvil::posix

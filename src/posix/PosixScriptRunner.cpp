@@ -1,6 +1,7 @@
 #include "posix/PosixScriptRunner.h"
 
 #include "posix/FileDescriptor.h"
+#include "posix/ProcessGuard.h"
 #include "posix/ScriptProcess.h"
 #include "posix/SystemError.h"
 #include "posix/Utf8.h"
@@ -10,6 +11,8 @@
 #include <cstring>
 #include <fcntl.h>
 #include <string>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -46,13 +49,13 @@ std::vector<std::string> interpreterOf(std::string_view source) {
 /// A script's text in a file that only this user can read, for as long as this lives.
 class TemporaryScript {
 public:
-    explicit TemporaryScript(std::string_view source) {
+    TemporaryScript() {
         const char* folder = std::getenv("TMPDIR");
         path_ = std::string(folder && *folder == '/' ? folder : "/tmp") + "/zarvil-script-XXXXXX";
-        const FileDescriptor file(::mkostemp(path_.data(), O_CLOEXEC));
-        if (!file.isOpen() || !writeAll(file.get(), source))
+        file_ = FileDescriptor(::mkostemp(path_.data(), O_CLOEXEC));
+        if (!file_.isOpen())
             failure_ = errno;
-        exists_ = file.isOpen();
+        exists_ = file_.isOpen();
     }
     TemporaryScript(const TemporaryScript&) = delete;
     TemporaryScript& operator=(const TemporaryScript&) = delete;
@@ -61,12 +64,19 @@ public:
             ::unlink(path_.c_str());
     }
 
+    void write(std::string_view source) {
+        if (exists_ && !writeAll(file_.get(), source))
+            failure_ = errno;
+        file_.close(); // nobody runs what somebody may still write
+    }
+
     [[nodiscard]] const std::string& path() const { return path_; }
     /// 0 or the error number.
     [[nodiscard]] int failure() const { return failure_; }
 
 private:
     std::string path_;
+    FileDescriptor file_;
     bool exists_ = false;
     int failure_ = 0;
 };
@@ -102,19 +112,69 @@ std::optional<ScriptError> errorOf(const ProcessOutcome& outcome, const std::str
                                            std::to_string(outcome.number) + " and gave no reason."};
 }
 
-} // namespace
+ScriptError preparationError(int errorNumber) {
+    return {errorNumber, "Could not prepare the script for running: " + reason(errorNumber) + "."};
+}
 
-std::optional<ScriptError> PosixScriptRunner::run(std::string_view source) {
+/// Returns when the script has ended.
+std::optional<ScriptError> runScript(std::string_view source, const RunControl& control) {
     if (source.find('\0') != std::string_view::npos)
         return ScriptError{EINVAL, "The script contains a NUL character, so it cannot be run."};
-    const TemporaryScript script(source);
-    if (script.failure() != 0)
-        return ScriptError{script.failure(), "Could not prepare the script for running: " +
-                                                 reason(script.failure()) + "."};
+    TemporaryScript script;
+    ProcessGuard guard(script.path());
+    script.write(source);
+    for (const int failure : {control.failure(), script.failure(), guard.failure()}) {
+        if (failure != 0)
+            return preparationError(failure);
+    }
     std::vector<std::string> command = interpreterOf(source);
     const std::string interpreter = command.front();
     command.push_back(script.path());
-    return errorOf(ScriptProcess::run(command), interpreter);
+    return errorOf(ScriptProcess::run(command, guard, control), interpreter);
+}
+
+class PosixScriptRun final : public ScriptRun {
+public:
+    PosixScriptRun(std::string source, ScriptRunner::Ended ended,
+                   PosixScriptRunner::OnMainThread onMainThread)
+        : ended_(std::make_shared<ScriptRunner::Ended>(std::move(ended))) {
+        const auto report = [onMainThread = std::move(onMainThread),
+                             weak = std::weak_ptr(ended_)](std::optional<ScriptError> error) {
+            onMainThread([weak, error = std::move(error)] {
+                if (const auto told = weak.lock())
+                    (*told)(error);
+            });
+        };
+        try {
+            thread_ = std::thread([this, source = std::move(source), report] {
+                report(runScript(source, control_));
+            });
+        } catch (const std::system_error& error) {
+            report(preparationError(error.code().value()));
+        }
+    }
+    PosixScriptRun(const PosixScriptRun&) = delete;
+    PosixScriptRun& operator=(const PosixScriptRun&) = delete;
+    ~PosixScriptRun() override {
+        ended_.reset(); // the result is dropped
+        control_.send(RunControl::Wish::Abandon);
+        if (thread_.joinable())
+            thread_.join();
+    }
+
+    [[nodiscard]] bool canStop() const override { return true; }
+    void stop() override { control_.send(RunControl::Wish::Stop); }
+
+private:
+    std::shared_ptr<ScriptRunner::Ended> ended_;
+    RunControl control_;
+    std::thread thread_;
+};
+
+} // namespace
+
+std::unique_ptr<ScriptRun> PosixScriptRunner::start(std::string_view source, Ended ended) {
+    return std::make_unique<PosixScriptRun>(std::string(source), std::move(ended), onMainThread_);
 }
 
 } // namespace zarvil::posix

@@ -1,5 +1,7 @@
 #include "posix/ScriptProcess.h"
 
+#include "posix/ChildSetup.h"
+#include "posix/ProcessGuard.h"
 #include "posix/Utf8.h"
 
 #include <algorithm>
@@ -21,8 +23,11 @@ constexpr int launchDescriptor = 3;    // in the child, until the program starts
 constexpr std::size_t portion = 65536; // bytes read at a time; a pipe's usual capacity
 constexpr int pollInterval = 20;       // milliseconds, where the kernel cannot announce an end
 
-/// Descriptors stay clear of those that the child lays out anew.
-FileDescriptor aboveLayout(FileDescriptor file) {
+/// Descriptors stay clear of those that the child lays out anew. On failure the result is closed
+/// and `errno` says why, also where none was open to begin with.
+FileDescriptor aboveLayout(const FileDescriptor& file) {
+    if (!file.isOpen())
+        return {};
     return FileDescriptor(::fcntl(file.get(), F_DUPFD_CLOEXEC, launchDescriptor + 1));
 }
 
@@ -49,24 +54,6 @@ struct Launch {
 int openProcess(pid_t process) {
     // By number: this C library's header does not declare its function for C++.
     return static_cast<int>(::syscall(SYS_pidfd_open, process, 0));
-}
-
-void closeFrom(int first) {
-    if (::close_range(static_cast<unsigned>(first), ~0U, 0) == 0)
-        return;
-    const long limit = ::sysconf(_SC_OPEN_MAX);
-    for (int descriptor = first; descriptor < limit; ++descriptor)
-        ::close(descriptor);
-}
-
-void restoreSignals() {
-    struct sigaction standard {};
-    standard.sa_handler = SIG_DFL;
-    for (int signal = 1; signal < NSIG; ++signal)
-        ::sigaction(signal, &standard, nullptr);
-    sigset_t none;
-    ::sigemptyset(&none);
-    ::pthread_sigmask(SIG_SETMASK, &none, nullptr);
 }
 
 [[noreturn]] void becomeProgram(const Launch& launch) {
@@ -115,10 +102,27 @@ std::string LastLine::text() const {
     return unfinished.empty() ? printableLine(last_) : unfinished;
 }
 
-ProcessOutcome ScriptProcess::run(const std::vector<std::string>& arguments) {
-    ScriptProcess process;
+RunControl::RunControl() {
+    if (!openPipe(wishes_, wishing_))
+        failure_ = errno;
+}
+
+void RunControl::send(Wish wish) const {
+    static_cast<void>(!::write(wishing_.get(), &wish, sizeof wish));
+}
+
+RunControl::Wish RunControl::wish() const {
+    Wish wish = Wish::None;
+    static_cast<void>(!::read(wishes_.get(), &wish, sizeof wish));
+    return wish;
+}
+
+ProcessOutcome ScriptProcess::run(const std::vector<std::string>& arguments, ProcessGuard& guard,
+                                  const RunControl& control) {
+    ScriptProcess process(guard, control);
     if (!process.openChannels() || !process.start(arguments))
         return {ProcessOutcome::Kind::NotStarted, errno, {}};
+    guard.watch(process.process_);
     const int failure = process.launchFailure();
     ProcessOutcome outcome = process.wait();
     if (failure != 0)
@@ -138,16 +142,13 @@ bool ScriptProcess::start(const std::vector<std::string>& arguments) {
         launch.arguments.push_back(const_cast<char*>(argument.c_str()));
     launch.arguments.push_back(nullptr);
 
-    // No handler of this process may run in the child.
-    sigset_t all;
-    sigset_t before;
-    ::sigfillset(&all);
-    ::pthread_sigmask(SIG_SETMASK, &all, &before);
-    process_ = ::fork();
-    if (process_ == 0)
-        becomeProgram(launch);
+    {
+        const AllSignalsBlocked blocked;
+        process_ = ::fork();
+        if (process_ == 0)
+            becomeProgram(launch);
+    }
     const int failure = errno;
-    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     errorsOut_.close();
     launchOut_.close();
     errno = failure;
@@ -166,15 +167,20 @@ int ScriptProcess::launchFailure() const {
 
 ProcessOutcome ScriptProcess::wait() {
     const FileDescriptor end(openProcess(process_));
-    std::array<pollfd, 2> watched{{{errorsIn_.get(), POLLIN, 0}, {end.get(), POLLIN, 0}}};
+    std::array<pollfd, 3> watched{{{errorsIn_.get(), POLLIN, 0},
+                                   {end.get(), POLLIN, 0},
+                                   {control_.wishes().get(), POLLIN, 0}}};
     int status = 0;
     pid_t ended = 0;
     while ((ended = ::waitpid(process_, &status, WNOHANG)) == 0) {
-        static_cast<void>(::poll(watched.data(), watched.size(), end.isOpen() ? -1 : pollInterval));
+        if (::poll(watched.data(), watched.size(), end.isOpen() ? -1 : pollInterval) <= 0)
+            continue;
         if ((watched[0].revents & POLLIN) != 0)
             drain(portion);
         else if (watched[0].revents != 0)
             watched[0].fd = -1; // closed by all of its writers
+        if (watched[2].revents != 0 && !heed(control_.wish()))
+            return {};
     }
     // What the program itself wrote last is in the pipe; others may go on writing for ever.
     const int capacity = ::fcntl(errorsIn_.get(), F_GETPIPE_SZ);
@@ -185,6 +191,14 @@ ProcessOutcome ScriptProcess::wait() {
     if (ended == process_ && WIFSIGNALED(status))
         return {ProcessOutcome::Kind::Signalled, WTERMSIG(status), std::move(line)};
     return {ProcessOutcome::Kind::Unknown, 0, std::move(line)};
+}
+
+bool ScriptProcess::heed(RunControl::Wish wish) {
+    if (wish == RunControl::Wish::Abandon)
+        guard_.abandon();
+    else if (wish == RunControl::Wish::Stop)
+        guard_.endGroup();
+    return wish != RunControl::Wish::Abandon;
 }
 
 void ScriptProcess::drain(std::size_t limit) {

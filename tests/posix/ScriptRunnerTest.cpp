@@ -4,9 +4,13 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <csignal>
 #include <fcntl.h>
+#include <future>
 #include <sstream>
+#include <sys/resource.h>
+#include <thread>
 
 namespace zarvil {
 
@@ -33,18 +37,41 @@ protected:
     [[nodiscard]] std::string result() const { return (home / "result").string(); }
     /// What the script has put into the file of its first word.
     std::string resultOf(std::string_view source) {
-        EXPECT_EQ(runner.run(source), std::nullopt);
+        EXPECT_EQ(run(source), std::nullopt);
         return get(result());
     }
 
-    PosixScriptRunner runner;
+    using Result = std::optional<ScriptError>;
+    /// Starts a script whose result a test may wait for.
+    std::unique_ptr<ScriptRun> start(std::string_view source, std::future<Result>& result) {
+        auto promise = std::make_shared<std::promise<Result>>();
+        result = promise->get_future();
+        return runner.start(source, [promise](const Result& error) { promise->set_value(error); });
+    }
+    Result run(std::string_view source) {
+        std::future<Result> result;
+        const auto script = start(source, result);
+        return result.get();
+    }
+    /// Waits for the file that a script has put its process identifier into.
+    pid_t leader() const {
+        while (get(result()).find('\n') == std::string::npos)
+            std::this_thread::yield();
+        return std::stoi(get(result()));
+    }
+    static void waitForEndOfGroup(pid_t leader) {
+        while (::kill(-leader, 0) == 0)
+            std::this_thread::yield();
+    }
+
+    PosixScriptRunner runner{[](const std::function<void()>& call) { call(); }};
 };
 
 TEST_F(ScriptRunnerTest, successIsSilentWhateverTheScriptPrints) {
     for (const std::string_view source :
          {"", "exit 0", "echo out; echo err >&2", "#!/bin/sh\ntrue", "#! /bin/sh -e\ntrue",
           "#!/bin/sh\r\n", "#!\ntrue", "#!", "yes | head -c 1000000", "cat"})
-        EXPECT_FALSE(runner.run(source)) << source;
+        EXPECT_FALSE(run(source)) << source;
     EXPECT_THAT(namesIn(scripts()), IsEmpty()) << "the script's copy is left behind";
 }
 
@@ -64,14 +91,14 @@ TEST_F(ScriptRunnerTest, aFailureCarriesTheStatusAndTheLastLineOfTheErrorOutput)
         {"head -c 300000 /dev/zero | tr '\\0' x >&2; exit 1", {1, std::string(1024, 'x')}},
     };
     for (const auto& [source, error] : cases)
-        EXPECT_EQ(runner.run(source), error) << source;
+        EXPECT_EQ(run(source), error) << source;
 }
 
 TEST_F(ScriptRunnerTest, theInterpreterOfTheFirstLineGetsTheWholeTextAndOneArgument) {
     const fs::path target = home / "with a blank";
     fs::create_directory(target);
     const std::string source = "#!/bin/cp --target-directory=" + target.string() + "\nany text";
-    EXPECT_FALSE(runner.run(source));
+    EXPECT_FALSE(run(source));
     ASSERT_EQ(namesIn(target).size(), 1U);
     EXPECT_EQ(get(target / *namesIn(target).begin()), source);
 }
@@ -90,7 +117,7 @@ TEST_F(ScriptRunnerTest, whatCannotBeStartedSaysWhyAndNamesTheInterpreter) {
         {"echo a\0b"s, EINVAL, "NUL", "cannot be run"},
     };
     for (const auto& [source, number, named, reason] : cases) {
-        const auto error = runner.run(source);
+        const auto error = run(source);
         ASSERT_TRUE(error) << source;
         EXPECT_EQ(error->number, number);
         EXPECT_THAT(error->message, AllOf(HasSubstr(named), HasSubstr(reason)));
@@ -98,7 +125,7 @@ TEST_F(ScriptRunnerTest, whatCannotBeStartedSaysWhyAndNamesTheInterpreter) {
 }
 
 TEST_F(ScriptRunnerTest, aDeathByASignalSaysWhichOne) {
-    EXPECT_EQ(runner.run("echo noise >&2; kill -KILL $$"),
+    EXPECT_EQ(run("echo noise >&2; kill -KILL $$"),
               (ScriptError{137, "Signal 9 (Killed) ended the script."}));
 }
 
@@ -138,14 +165,14 @@ TEST_F(ScriptRunnerTest, theScriptLeadsASessionWithoutATerminal) {
 
 TEST_F(ScriptRunnerTest, endlessErrorOutputNeitherHangsNorFillsTheMemory) {
     // A background job goes on writing after the script's own end.
-    EXPECT_FALSE(runner.run("yes 'noise' >&2 & exit 0"));
-    EXPECT_EQ(runner.run("head -c 200000000 /dev/zero >&2; echo >&2; echo last >&2; exit 7"),
+    EXPECT_FALSE(run("yes 'noise' >&2 & exit 0"));
+    EXPECT_EQ(run("head -c 200000000 /dev/zero >&2; echo >&2; echo last >&2; exit 7"),
               (ScriptError{7, "last"}));
 }
 
 TEST_F(ScriptRunnerTest, aBackgroundJobThatHoldsTheErrorOutputIsNotWaitedFor) {
     const std::string pidFile = result();
-    EXPECT_EQ(runner.run("sleep 1000 & echo $! > " + pidFile + "; echo last >&2; exit 2"),
+    EXPECT_EQ(run("sleep 1000 & echo $! > " + pidFile + "; echo last >&2; exit 2"),
               (ScriptError{2, "last"}));
     const pid_t job = std::stoi(get(pidFile));
     EXPECT_EQ(::kill(job, 0), 0) << "it goes on living";
@@ -153,9 +180,81 @@ TEST_F(ScriptRunnerTest, aBackgroundJobThatHoldsTheErrorOutputIsNotWaitedFor) {
 }
 
 TEST_F(ScriptRunnerTest, aScriptThatClosesItsErrorOutputIsStillWaitedFor) {
-    EXPECT_EQ(
-        runner.run("exec 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 5")->number,
-        5);
+    EXPECT_EQ(run("exec 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 5")->number,
+              5);
+}
+
+TEST_F(ScriptRunnerTest, stoppingEndsTheWholeGroupAndTheCopyGoes) {
+    const std::string tellPid = "echo $$ > " + result() + "; ";
+    const std::pair<std::string, int> cases[] = {
+        {tellPid + "exec sleep 1000", 128 + SIGTERM},
+        {"sleep 1000 & " + tellPid + "wait", 128 + SIGTERM},
+        {"trap '' TERM; " + tellPid + "while :; do sleep 1000; done", 128 + SIGKILL},
+        {"(trap '' TERM; sleep 1000) & " + tellPid + "trap 'exit 5' TERM; wait", 5}};
+    for (const auto& [source, number] : cases) {
+        fs::remove(result());
+        std::future<Result> ended;
+        const auto script = start(source, ended);
+        const pid_t group = leader();
+        script->stop();
+        script->stop();
+        EXPECT_EQ(ended.get()->number, number) << source;
+        waitForEndOfGroup(group);
+        EXPECT_THAT(namesIn(scripts()), IsEmpty());
+    }
+}
+
+TEST_F(ScriptRunnerTest, neitherTheGroupNorTheCopyOutlivesTheRunOrAKilledProcess) {
+    for (const bool killed : {false, true}) {
+        fs::remove(result());
+        const pid_t child = ::fork();
+        if (child == 0) {
+            std::atomic<int> told = 0;
+            auto script = runner.start("sleep 1000 & echo $$ > " + result() + "; exec sleep 1000",
+                                       [&](const Result& /*error*/) { ++told; });
+            static_cast<void>(leader());
+            while (killed)
+                ::pause();
+            script.reset();
+            ::_exit(told);
+        }
+        const pid_t group = leader();
+        if (killed)
+            ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_EQ(WIFEXITED(status) && WEXITSTATUS(status) == 0, !killed);
+        waitForEndOfGroup(group);
+        while (!namesIn(scripts()).empty())
+            std::this_thread::yield();
+    }
+}
+
+TEST_F(ScriptRunnerTest, aLackOfDescriptorsIsNamedWhereverItShows) {
+    EXPECT_TRUE(holdsInChild([this] {
+        const auto open = namesIn("/proc/self/fd").size();
+        for (rlim_t spare = 0; spare < 16; ++spare) {
+            const rlimit limit{open + spare, open + spare};
+            const rlimit before{1024, 1024};
+            ::setrlimit(RLIMIT_NOFILE, &limit);
+            const auto error = run("true");
+            ::setrlimit(RLIMIT_NOFILE, &before);
+            if (error && error->number != EMFILE)
+                return false;
+        }
+        return true;
+    }));
+}
+
+TEST(ProcessControlTest, endsTheProcessWithoutDestroyingWhatStillRuns) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        static_cast<void>(std::atexit([] { ::_exit(1); }));
+        PosixProcessControl().exit(42);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 42);
 }
 
 TEST(ProcessControlTest, killsTheOneProcessItIsGivenAndNoGroup) {

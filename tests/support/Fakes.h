@@ -100,10 +100,16 @@ public:
     std::map<std::string, bool> values;
 };
 
+/// Runs `whilePresenting` where a presenter with an event loop of its own would let others in.
 class ErrorPresenter final : public zarvil::ErrorPresenter {
 public:
-    void presentError(const Error& error) override { presented.push_back(error); }
+    void presentError(const Error& error) override {
+        presented.push_back(error);
+        if (whilePresenting)
+            whilePresenting();
+    }
 
+    std::function<void()> whilePresenting;
     std::vector<Error> presented;
 };
 
@@ -118,15 +124,32 @@ public:
     std::map<std::string, std::string> translations;
 };
 
+/// Its scripts end at once, or when the test says so.
 class ScriptRunner final : public zarvil::ScriptRunner {
 public:
-    std::optional<ScriptError> run(std::string_view source) override {
+    std::unique_ptr<ScriptRun> start(std::string_view source, Ended ended) override {
         ran.emplace_back(source);
-        return outcome;
+        if (!lasting)
+            ended(outcome);
+        else
+            end = std::move(ended);
+        return std::make_unique<Run>(*this);
     }
 
     std::vector<std::string> ran;
+    std::vector<std::string> log; ///< what became of those that ran
     std::optional<ScriptError> outcome;
+    bool lasting = false;
+    Ended end;
+
+private:
+    struct Run final : ScriptRun {
+        explicit Run(ScriptRunner& runner) : runner_(runner) {}
+        ~Run() override { runner_.log.emplace_back("over"); }
+        bool canStop() const override { return true; }
+        void stop() override { runner_.log.emplace_back("stop"); }
+        ScriptRunner& runner_;
+    };
 };
 
 /// Keeps its questions until the test answers them.

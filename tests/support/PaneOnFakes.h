@@ -10,11 +10,12 @@ namespace zarvil {
 struct PaneOnFakes {
     /// On the caller's file system, if there is one.
     explicit PaneOnFakes(FileManager* onDisk = nullptr)
-        : disk(onDisk ? *onDisk : files), platform{bus,           time,     time,   workspace,
-                                                   disk,          defaults, errors, scriptRunner,
-                                                   authorization, strings,  {},     modal,
-                                                   processes,     ""} {}
+        : disk(onDisk ? *onDisk : files), platform{handlers,     bus,           time,     time,
+                                                   workspace,    disk,          defaults, errors,
+                                                   scriptRunner, authorization, strings,  {},
+                                                   modal,        processes,     ""} {}
 
+    HandlerQueue handlers;
     InProcessMessageCenter bus;
     fake::VirtualTime time;
     fake::Workspace workspace;

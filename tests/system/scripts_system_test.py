@@ -1,6 +1,8 @@
 """Scripts in a real window, with their files in a real folder."""
 
+import os
 import random
+import signal
 import time
 import unittest
 
@@ -9,6 +11,14 @@ from desktop import SystemTest, wait_until
 SWITCH = "Run these scripts when the power fails"
 NEW, CREATE = "Title of the new script", "Create"
 TITLE, TEXT = "Title of the script", "Text of the script"
+
+
+def is_alive(group):
+    try:
+        os.killpg(group, 0)
+    except ProcessLookupError:
+        return False
+    return True
 
 
 class Scripts(SystemTest):
@@ -115,6 +125,41 @@ class Scripts(SystemTest):
         self.assertEqual(self.files(), before)
         self.switch(True)
         wait_until(lambda: self.titles() == both, "they are listed once more")
+
+    def test_a_hanging_script_can_be_stopped_and_ends_with_the_host(self):
+        pid_file = self.session.folder / "pid"
+        os.environ["TMPDIR"] = str(self.session.folder)
+        self.put("hang", f"trap '' TERM; echo $$ >{pid_file}; while :; do sleep 1000; done")
+
+        def stop():
+            self.pane.press("Stop", "push button")
+            wait_until(lambda: not self.pane.showing(notice), "the window goes")
+            self.assertIsNone(self.pane.alert())
+            self.switch(False)
+            self.switch(True)
+
+        def end(status, signal_host):
+            signal_host()
+            self.assertEqual(self.host.wait(), status)
+            self.restart_host()
+
+        def run():
+            pid_file.unlink(missing_ok=True)
+            wait_until(lambda: self.titles() == {"hang"}, "it is listed")
+            self.pane.press("Run “hang”")
+            wait_until(lambda: self.pane.showing(notice), "a window names it")
+            return int(pid_file.read_text())
+
+        notice = "The script “hang” is running."
+        self.start()
+        self.switch(True)
+        for way in (stop, lambda: end(0, self.host.terminate),
+                    lambda: end(-signal.SIGKILL, self.host.kill)):
+            group = run()
+            way()
+            wait_until(lambda: not is_alive(group), "its processes are gone")
+            wait_until(lambda: not list(self.session.folder.glob("zarvil-script-*")),
+                       "its copy is gone")
 
     def test_a_host_killed_while_it_saves_leaves_whole_files(self):
         old, added = "#" + "o" * 400_000, "n"

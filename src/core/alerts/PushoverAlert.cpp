@@ -129,7 +129,7 @@ void Zarvil_Preferences::pushValidationFinished(const Message* message) {
     pushValidate.setEnabled(true);
     pushBox.setAlphaValue(alpha::active, Transition::Animated);
     pushIndicator.stopAnimation();
-    const Verdict verdict = verdictFor(message->info().integerForKey(payload::code));
+    const Verdict verdict = verdictFor(infoOf(message).integerForKey(payload::code));
     if (verdict.storedIds == StoredIds::Reset)
         resetUserAndDeviceSettings();
     TextAttributes look;

@@ -12,8 +12,8 @@ constexpr unsigned long saved = 1;
 /// Calls back for each device record under "devices", in order. What is no record is passed over,
 /// and so is everything when there is no array.
 template <typename Callback>
-void forEachDevice(const Message& message, Callback&& callback) {
-    const Array* devices = message.info().arrayForKey(payload::devices);
+void forEachDevice(const Message* message, Callback&& callback) {
+    const Array* devices = infoOf(message).arrayForKey(payload::devices);
     if (!devices)
         return;
     for (const Value& entry : *devices) {
@@ -30,37 +30,37 @@ Message deviceMessage(std::string_view name, const Record& record) {
 
 void Zarvil_Preferences::deviceConnected(const Message* message) {
     appDidAnswer(nullptr);
-    if (message->userInfo)
+    if (message && message->userInfo)
         addDevice(makeRecord(*message->userInfo));
 }
 
 void Zarvil_Preferences::deviceDisconnected(const Message* message) {
     appDidAnswer(nullptr);
-    removeDevice(message->info());
+    removeDevice(infoOf(message));
 }
 
 void Zarvil_Preferences::allSavedDevices(const Message* message) {
     savedArrayController.removeAllArrangedObjects();
-    forEachDevice(*message,
+    forEachDevice(message,
                   [this](const Dictionary& device) { addSavedDevice(makeRecord(device)); });
 }
 
 // Adds to the lists that stand; a reconnection is what empties them.
 void Zarvil_Preferences::allConnectedDevices(const Message* message) {
     devices.clear();
-    forEachDevice(*message, [this](const Dictionary& device) { addDevice(makeRecord(device)); });
+    forEachDevice(message, [this](const Dictionary& device) { addDevice(makeRecord(device)); });
 }
 
 // The displayed lists keep what they show, on purpose.
 void Zarvil_Preferences::allDevices(const Message* message) {
     allConnectedDevices_.clear();
-    forEachDevice(*message, [this](const Dictionary& device) {
+    forEachDevice(message, [this](const Dictionary& device) {
         allConnectedDevices_.add(makeRecord(device));
     });
 }
 
 void Zarvil_Preferences::newSavedDevice(const Message* message) {
-    const Dictionary* device = message->info().dictionaryForKey(payload::device);
+    const Dictionary* device = infoOf(message).dictionaryForKey(payload::device);
     if (!device)
         return;
     removeDevice(*device);
@@ -106,12 +106,14 @@ bool Zarvil_Preferences::staysConnected(const Dictionary& device) const {
 }
 
 void Zarvil_Preferences::stateDidChange(ZVCollectionItem& item) {
-    // A copy, for the item goes with its row in the course of this.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const Record record = item.representedObject();
-    if (!record)
-        return;
-    if (item.state() != 0) {
+    // A copy of the record, for the item goes with its row in the course of this.
+    if (item.representedObject())
+        platform_.handlers.run([this, record = item.representedObject(),
+                                watch = item.state() != 0] { moveDevice(record, watch); });
+}
+
+void Zarvil_Preferences::moveDevice(const Record& record, bool watch) {
+    if (watch) {
         arrayController.removeObject(record);
         addSavedDevice(record);
         platform_.messages.post(deviceMessage(message::addedSaveItem, record));

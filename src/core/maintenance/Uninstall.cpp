@@ -21,7 +21,9 @@ void Zarvil_Preferences::unistallAction(Control* /*sender*/) {
     uninstallModal.setOpaque(false);
     uninstallModal.setBackgroundColor(color::clear);
     uninstallModal.beginSheet();
-    platform_.modal.runModalForWindow(uninstallModal);
+    // The agent's messages go on while the user makes up his mind.
+    platform_.handlers.letThroughDuring(
+        [this] { platform_.modal.runModalForWindow(uninstallModal); });
     uninstallModal.endSheet();
     uninstallModal.orderOut();
 }

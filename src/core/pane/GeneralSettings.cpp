@@ -46,7 +46,7 @@ void Zarvil_Preferences::restoreDelayUnit() {
 }
 
 void Zarvil_Preferences::setupPrefs(const Message* message) {
-    const Dictionary& settings = message->info();
+    const Dictionary& settings = infoOf(message);
     const auto show = [&settings](Button& button, std::string_view key) {
         button.setOn(settings.boolForKey(key));
     };

@@ -24,7 +24,10 @@ Zarvil_Preferences::Zarvil_Preferences(Platform& platform)
     });
 }
 
-Zarvil_Preferences::~Zarvil_Preferences() = default;
+Zarvil_Preferences::~Zarvil_Preferences() {
+    // A script that runs ends with the pane, and what it held back must not follow.
+    platform_.handlers.discard();
+}
 
 void Zarvil_Preferences::mainViewDidLoad() {
     devices.clear();
@@ -37,8 +40,8 @@ void Zarvil_Preferences::mainViewDidLoad() {
         dimmed->setAlphaValue(alpha::dimmed);
     registerForAgentMessages();
     post(message::prefsLoaded);
-    appTimer =
-        platform_.timers.schedule(pingPeriod, Repetition::Repeating, [this] { appStatus(); });
+    appTimer = platform_.handlers.schedule(platform_.timers, pingPeriod, Repetition::Repeating,
+                                           [this] { appStatus(); });
     if (auto* cell = toggleMinSec.cellAs<KXButtonCell>()) {
         cell->setOnTitle("Min");
         cell->setOffTitle("Sec");
@@ -87,8 +90,9 @@ bool Zarvil_Preferences::isUnlocked() const {
 
 void Zarvil_Preferences::willSelect() {
     for (TextField* field : {&scriptsTitle, &pushUserName})
-        textChanges_.addTextObserver(this, *field,
-                                     [this](TextField& edited) { scriptsTitleChanged(edited); });
+        textChanges_.addTextObserver(this, *field, [this](TextField& edited) {
+            platform_.handlers.run([this, &edited] { scriptsTitleChanged(edited); });
+        });
 }
 
 UnselectReply Zarvil_Preferences::shouldUnselect() {

@@ -69,13 +69,17 @@ const std::vector<Zarvil_Preferences::NamedHandler>& Zarvil_Preferences::handler
 void Zarvil_Preferences::performAction(std::string_view action, Control* sender) {
     const auto found = std::ranges::find(actions(), action, &NamedAction::name);
     if (found != actions().end())
-        (this->*found->method)(sender);
+        platform_.handlers.run([this, sender, method = found->method] { (this->*method)(sender); });
 }
 
 void Zarvil_Preferences::performHandler(std::string_view handler, const Message* message) {
     const auto found = std::ranges::find(handlers(), handler, &NamedHandler::name);
-    if (found != handlers().end())
-        (this->*found->method)(message);
+    if (found == handlers().end())
+        return;
+    if (message)
+        handle(found->method, *message);
+    else
+        platform_.handlers.run([this, method = found->method] { (this->*method)(nullptr); });
 }
 
 std::vector<std::string_view> Zarvil_Preferences::actionNames() {
@@ -89,11 +93,17 @@ void Zarvil_Preferences::registerForAgentMessages() {
     agentMessages_.clear();
     for (const NamedHandler& handler : handlers()) {
         agentMessages_.push_back(platform_.messages.addObserver(
-            handler.message, [this, method = handler.method](const Message& message) {
-                (this->*method)(&message);
-            }));
+            handler.message,
+            [this, method = handler.method](const Message& message) { handle(method, message); }));
     }
-    link_ = platform_.messages.observeLink([this](LinkEvent event) { linkChanged(event); });
+    link_ = platform_.messages.observeLink([this](LinkEvent event) {
+        platform_.handlers.run([this](LinkEvent handled) { linkChanged(handled); }, event);
+    });
+}
+
+void Zarvil_Preferences::handle(MessageHandler method, const Message& message) {
+    platform_.handlers.run([this, method](const Message& handled) { (this->*method)(&handled); },
+                           message);
 }
 
 void Zarvil_Preferences::post(std::string_view name) { platform_.messages.post(Message(name)); }

@@ -14,8 +14,8 @@ std::unique_ptr<ButtonCell> switchCell(Platform& platform) {
 
 std::shared_ptr<CollectionViewItem> deviceItem() { return std::make_shared<ZVCollectionItem>(); }
 
-CollectionView::Prototype scriptItem(Platform& platform) {
-    return [&platform] { return std::make_shared<ZVScriptCollectionItem>(platform); };
+CollectionView::Prototype scriptItem(Platform& platform, ScriptProgress& progress) {
+    return [&] { return std::make_shared<ZVScriptCollectionItem>(platform, progress); };
 }
 
 } // namespace
@@ -25,7 +25,8 @@ Outlets::Outlets(Platform& platform)
       connectedDevices(arrayController, deviceItem),
       selectedDevices(savedArrayController, deviceItem),
       toggleMinSec(ButtonKind::Toggle, switchCell(platform)),
-      scriptsCollection(scriptsArrayController, scriptItem(platform)) {
+      scriptProgress(platform),
+      scriptsCollection(scriptsArrayController, scriptItem(platform, scriptProgress)) {
     showAgentAsAbsent();
     greyWhatNeedsTheAgent();
     pushValidationStatus.setHidden(true);

@@ -7,6 +7,7 @@
 #include "interface/ProgressIndicator.h"
 #include "interface/TextField.h"
 #include "pane/Platform.h"
+#include "scripts/ScriptProgress.h"
 
 namespace zarvil {
 
@@ -67,6 +68,7 @@ public:
     Button useScriptsButton{ButtonKind::Toggle};
     TextField scriptsTitle;
     Button createNewScript;
+    ScriptProgress scriptProgress;
     CollectionView scriptsCollection;
 
     // Maintenance.

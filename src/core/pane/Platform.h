@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "platform/ErrorPresenter.h"
 #include "platform/FileManager.h"
+#include "platform/HandlerQueue.h"
 #include "platform/ModalLoop.h"
 #include "platform/ProcessControl.h"
 #include "platform/ScriptRunner.h"
@@ -21,6 +22,8 @@ namespace zarvil {
 
 /// All that the pane asks of its surroundings. Nothing is owned; all must outlive the pane.
 struct Platform {
+    /// Of this pane alone.
+    HandlerQueue& handlers;
     MessageCenter& messages;
     Timers& timers;
     Clock& clock;

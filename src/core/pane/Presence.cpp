@@ -18,8 +18,8 @@ std::string Zarvil_Preferences::agentApplicationPath() const {
 
 void Zarvil_Preferences::appStatus() {
     appOfflineTimer.reset();
-    appOfflineTimer =
-        platform_.timers.schedule(answerTimeout, Repetition::Once, [this] { appDidNotAnswer(); });
+    appOfflineTimer = platform_.handlers.schedule(platform_.timers, answerTimeout, Repetition::Once,
+                                                  [this] { appDidNotAnswer(); });
     post(message::ping);
 }
 
@@ -107,7 +107,7 @@ void Zarvil_Preferences::toggleOnOff(Control* sender) {
 void Zarvil_Preferences::stateChanged(const Message* message) {
     appDidAnswer(nullptr);
     // Flipping also echoes the agent's own state back to it, on purpose.
-    if (message->info().boolForKey(payload::state) != state)
+    if (infoOf(message).boolForKey(payload::state) != state)
         toggleOnOff(nullptr);
 }
 

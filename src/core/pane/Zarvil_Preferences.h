@@ -20,8 +20,8 @@ enum class UnselectReply : int { Cancel = 0, Now = 1, Later = 2 };
 /// at once. It keeps no settings; whatever it shows came from the agent or from the user.
 ///
 /// Everything runs on the main thread: the host's callbacks, the actions, the timers and the
-/// agent's messages. Methods bear the first keyword of their wire names, misspellings included;
-/// `performAction` reaches the actions by the whole name.
+/// agent's messages, of which none begins while another one runs. Methods bear the first keyword of
+/// their wire names, misspellings included; `performAction` reaches the actions by the whole name.
 class Zarvil_Preferences final : public Outlets,
                                  public ActionTarget,
                                  public CollectionViewDelegate,
@@ -150,6 +150,7 @@ private:
     static const std::vector<NamedHandler>& handlers();
 
     void registerForAgentMessages();
+    void handle(MessageHandler method, const Message& message);
     void linkChanged(LinkEvent event);
     void setUpAuthorization();
     void clickLock();
@@ -176,6 +177,7 @@ private:
 
     void addDevice(const Record& record);
     void removeDevice(const Dictionary& device);
+    void moveDevice(const Record& record, bool watch);
     void addSavedDevice(const Record& record);
     /// Whether an unsaved device goes back to the list of connected devices.
     [[nodiscard]] bool staysConnected(const Dictionary& device) const;

@@ -12,7 +12,7 @@ public:
     ErrorPresenter& operator=(const ErrorPresenter&) = delete;
     virtual ~ErrorPresenter() = default;
 
-    /// Returns when the user has dismissed the alert.
+    /// Takes the error and returns at once; runs no event loop.
     virtual void presentError(const Error& error) = 0;
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,16 +16,35 @@ struct ScriptError {
     friend bool operator==(const ScriptError&, const ScriptError&) = default;
 };
 
+/// A script under way. Destroying it ends the script and drops its result, without waiting.
+class ScriptRun {
+public:
+    ScriptRun() = default;
+    ScriptRun(const ScriptRun&) = delete;
+    ScriptRun& operator=(const ScriptRun&) = delete;
+    virtual ~ScriptRun() = default;
+
+    /// Whether `stop` has an effect.
+    [[nodiscard]] virtual bool canStop() const = 0;
+    /// Ends the script with all that it has started. Its end is reported as any other.
+    virtual void stop() = 0;
+};
+
 /// Compiles and runs a script's source.
 class ScriptRunner {
 public:
+    /// The script has ended; no error means success. The run may be destroyed in it.
+    using Ended = std::function<void(const std::optional<ScriptError>&)>;
+
     ScriptRunner() = default;
     ScriptRunner(const ScriptRunner&) = delete;
     ScriptRunner& operator=(const ScriptRunner&) = delete;
     virtual ~ScriptRunner() = default;
 
-    /// Returns when the script has ended; no error means success.
-    [[nodiscard]] virtual std::optional<ScriptError> run(std::string_view source) = 0;
+    /// Calls `ended` once, on the main thread; a runner that cannot but wait for the script's end
+    /// does so before it returns.
+    [[nodiscard]] virtual std::unique_ptr<ScriptRun> start(std::string_view source,
+                                                           Ended ended) = 0;
 };
 
 } // namespace zarvil

@@ -29,6 +29,11 @@ struct Message {
     friend bool operator==(const Message&, const Message&) = default;
 };
 
+/// The payload of a handler's message, empty when there is no message either.
+[[nodiscard]] inline const Dictionary& infoOf(const Message* message) {
+    static const Message none{""};
+    return (message ? *message : none).info();
+}
 /// What becomes of the way to the other side.
 enum class LinkEvent : std::uint8_t {
     Up,

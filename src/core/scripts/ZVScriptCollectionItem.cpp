@@ -37,8 +37,24 @@ const std::string* ZVScriptCollectionItem::stringOfRecord(std::string_view key) 
     return data_ ? data_->contents().stringForKey(key) : nullptr;
 }
 
+void ZVScriptCollectionItem::runAsHandler(void (ZVScriptCollectionItem::*operation)()) {
+    platform_.handlers.run(
+        [this, self = weak_from_this().lock(), operation] { (this->*operation)(); });
+}
+
 void ZVScriptCollectionItem::edit(Control* /*sender*/) {
-    const auto self = weak_from_this().lock();
+    runAsHandler(&ZVScriptCollectionItem::toggleEditing);
+}
+
+void ZVScriptCollectionItem::execute(Control* /*sender*/) {
+    runAsHandler(&ZVScriptCollectionItem::executeNow);
+}
+
+void ZVScriptCollectionItem::remove(Control* /*sender*/) {
+    runAsHandler(&ZVScriptCollectionItem::removeNow);
+}
+
+void ZVScriptCollectionItem::toggleEditing() {
     setEditing(!editing());
     if (editing())
         beginEditing();
@@ -87,23 +103,20 @@ void ZVScriptCollectionItem::storeEdited(std::string_view key, const ScriptEditF
         data_->setObject(key, fallback);
 }
 
-void ZVScriptCollectionItem::execute(Control* /*sender*/) {
-    const auto self = weak_from_this().lock();
+void ZVScriptCollectionItem::executeNow() {
     if (editing())
-        edit();
+        toggleEditing();
     const std::string* stored = stringOfRecord(script::text);
     if (isEmpty(stored)) {
         platform_.errors.presentError(
             cocoaError(emptyScriptCode, platform_.strings.localizedString(emptyScript)));
         return;
     }
-    const std::string source = *stored;
-    if (auto failure = platform_.scripts.run(source))
-        platform_.errors.presentError(cocoaError(failure->number, std::move(failure->message)));
+    const std::string* title = stringOfRecord(script::title);
+    progress_.run(isEmpty(title) ? untitled : *title, *stored);
 }
 
-void ZVScriptCollectionItem::remove(Control* /*sender*/) {
-    const auto self = weak_from_this().lock();
+void ZVScriptCollectionItem::removeNow() {
     removeFile();
     const Record record = data_;
     if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))

@@ -4,6 +4,7 @@
 #include "interface/TextField.h"
 #include "pane/Platform.h"
 #include "scripts/ScriptFile.h"
+#include "scripts/ScriptProgress.h"
 
 #include <memory>
 #include <string>
@@ -54,18 +55,18 @@ private:
 };
 
 /// Shows one script and lets the user edit, run and delete it. It edits the record that it shares
-/// with the list. An alert that an operation shows may let the list change meanwhile; an item that
-/// a shared pointer holds outlives its own operations.
+/// with the list. Its actions are handlers; an item that a shared pointer holds outlives them.
 class ZVScriptCollectionItem final : public CollectionViewItem,
                                      public std::enable_shared_from_this<ZVScriptCollectionItem> {
 public:
-    /// The ports must outlive the item.
-    explicit ZVScriptCollectionItem(Platform& platform) : platform_(platform) {}
+    /// The ports and the progress must outlive the item.
+    ZVScriptCollectionItem(Platform& platform, ScriptProgress& progress)
+        : platform_(platform), progress_(progress) {}
 
     // Actions.
     /// Begins editing, or ends it and saves: the old file goes, then the new one is written.
     void edit(Control* sender = nullptr);
-    /// Runs the script once and waits for its end; saves first while editing.
+    /// Runs the script once; saves first while editing. The pane is blocked until it has ended.
     void execute(Control* sender = nullptr);
     /// Deletes the file and has the owner drop the record.
     void remove(Control* sender = nullptr);
@@ -97,11 +98,16 @@ public:
 
 private:
     [[nodiscard]] const std::string* stringOfRecord(std::string_view key) const;
+    void runAsHandler(void (ZVScriptCollectionItem::*operation)());
+    void toggleEditing();
+    void executeNow();
+    void removeNow();
     void beginEditing();
     void save();
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
 
     Platform& platform_;
+    ScriptProgress& progress_;
     ScriptItemView view_;
     ScriptEditField* eTitle_ = nullptr;
     ScriptEditField* eText_ = nullptr;

@@ -22,10 +22,13 @@ StickyClick stickyClick() {
 QtPlatform::QtPlatform(Parts parts, MessageBus& session, std::string root)
     : parts_(std::move(parts)),
       workspace_(session),
-      platform_{*parts_.messages,  timers_,         clock_,
-                workspace_,        *parts_.files,   defaults_,
-                errors_,           *parts_.scripts, authorization_,
-                strings_,          stickyClick(),   modal_,
-                *parts_.processes, std::move(root), QLocale().decimalPoint().toStdString()} {}
+      platform_{handlers_,       *parts_.messages,
+                timers_,         clock_,
+                workspace_,      *parts_.files,
+                defaults_,       alerts_,
+                *parts_.scripts, authorization_,
+                strings_,        stickyClick(),
+                modal_,          *parts_.processes,
+                std::move(root), QLocale().decimalPoint().toStdString()} {}
 
 } // namespace zarvil

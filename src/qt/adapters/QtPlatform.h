@@ -1,9 +1,9 @@
 #pragma once
 
 #include "pane/Platform.h"
+#include "platform/AlertQueue.h"
 #include "qt/adapters/PolkitAuthorization.h"
 #include "qt/adapters/QtClock.h"
-#include "qt/adapters/QtErrorPresenter.h"
 #include "qt/adapters/QtModalLoop.h"
 #include "qt/adapters/QtStringTable.h"
 #include "qt/adapters/QtTimers.h"
@@ -33,16 +33,19 @@ public:
     ~QtPlatform() = default;
 
     [[nodiscard]] Platform& platform() { return platform_; }
+    /// Where the pane's errors arrive.
+    [[nodiscard]] AlertQueue& alerts() { return alerts_; }
 
 private:
+    HandlerQueue handlers_;
     Parts parts_;
     QtTimers timers_;
     QtClock clock_;
     QtWorkspace workspace_;
     QtUserDefaults defaults_;
-    QtErrorPresenter errors_;
     PolkitAuthorization authorization_;
     QtStringTable strings_;
+    AlertQueue alerts_{handlers_, strings_};
     QtModalLoop modal_;
     Platform platform_;
 };

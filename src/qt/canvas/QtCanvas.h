@@ -2,6 +2,7 @@
 
 #include "platform/Canvas.h"
 #include "qt/canvas/ShadowCache.h"
+#include "raster/Outline.h"
 
 #include <QImage>
 #include <QPainterPath>
@@ -16,9 +17,6 @@ QT_FORWARD_DECLARE_CLASS(QBrush)
 QT_FORWARD_DECLARE_CLASS(QPainter)
 
 namespace zarvil::qt {
-
-/// Which way a view's y grows.
-enum class Orientation : std::uint8_t { YDown, YUp };
 
 /// Draws on a painter. The view's upper left corner is the painter's origin; a point is one of the
 /// painter's units. Everything is drawn in whole device pixels of the painter, so that it is as

@@ -76,7 +76,7 @@ std::vector<SwitchCase> switchCases() {
 }
 
 Case messageCase(std::string name, Size size) {
-    return {std::move(name), size, qt::Orientation::YUp, [size](Canvas& canvas) {
+    return {std::move(name), size, Orientation::YUp, [size](Canvas& canvas) {
                 qt::QtImageRenderer renderer;
                 ZVMessageView(renderer, {0, 0, size.width, size.height}).drawRect(canvas);
             }};
@@ -84,7 +84,7 @@ Case messageCase(std::string name, Size size) {
 
 Case buttonCase(std::string name, bool pressed, std::string_view title) {
     constexpr Rect frame{0, 0, 90, 28};
-    return {std::move(name), frame.size(), qt::Orientation::YDown,
+    return {std::move(name), frame.size(), Orientation::YDown,
             [pressed, title, frame](Canvas& canvas) {
                 ZVMessageViewButton cell;
                 cell.setHighlighted(pressed);
@@ -94,7 +94,7 @@ Case buttonCase(std::string name, bool pressed, std::string_view title) {
 }
 
 Case noteCase(std::string name, Size size) {
-    return {std::move(name), size, qt::Orientation::YUp, [size](Canvas& canvas) {
+    return {std::move(name), size, Orientation::YUp, [size](Canvas& canvas) {
                 ZVCollectionNoteView note;
                 note.setFrame({0, 0, size.width, size.height});
                 note.drawRect(canvas);
@@ -106,7 +106,7 @@ Case noteCase(std::string name, Size size) {
 std::vector<Case> allCases() {
     std::vector<Case> cases;
     for (const SwitchCase& shown : switchCases())
-        cases.push_back({shown.name, shown.viewSize, qt::Orientation::YDown,
+        cases.push_back({shown.name, shown.viewSize, Orientation::YDown,
                          [shown](Canvas& canvas) { drawSwitch(shown, canvas); }});
     cases.push_back(messageCase("message_300x160", {300, 160}));
     cases.push_back(messageCase("message_120x60", {120, 60}));

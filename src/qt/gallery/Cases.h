@@ -13,7 +13,7 @@ namespace zarvil::gallery {
 struct Case {
     std::string name;
     Size viewSize; ///< in points
-    qt::Orientation orientation;
+    Orientation orientation;
     std::function<void(Canvas&)> draw;
 };
 

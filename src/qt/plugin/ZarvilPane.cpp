@@ -7,10 +7,13 @@
 #include "posix/PosixScriptRunner.h"
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
+#include "qt/binding/AlertBox.h"
 #include "qt/binding/OutletBinder.h"
+#include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QtDebug>
 
@@ -42,7 +45,10 @@ QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
     auto messages = std::make_unique<DBusMessageCenter>(session, bus::agentName);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
     return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
-            std::make_unique<posix::PosixScriptRunner>(), std::move(processes)};
+            std::make_unique<posix::PosixScriptRunner>([](const std::function<void()>& call) {
+                QMetaObject::invokeMethod(qApp, call, Qt::QueuedConnection);
+            }),
+            std::move(processes)};
 }
 
 } // namespace
@@ -53,7 +59,9 @@ struct ZarvilPane::Loaded {
         : platform(partsOfThePlatform(*options.session), *options.session,
                    qt::fromQt(options.root)),
           controller(platform.platform()),
-          view(std::make_unique<qt::PaneView>()) {
+          view(std::make_unique<qt::PaneView>()),
+          alerts(platform.alerts(), *view),
+          scriptWindow(controller.scriptProgress, *view) {
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
             qWarning().noquote() << "Layout:" << qt::toQt(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
@@ -64,6 +72,8 @@ struct ZarvilPane::Loaded {
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;
+    qt::AlertBox alerts;
+    qt::ScriptWindow scriptWindow;
     qt::Subscriptions bindings;
 };
 

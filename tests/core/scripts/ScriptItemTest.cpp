@@ -80,7 +80,7 @@ TEST_F(ScriptItem, aRecordWithoutEntriesGetsBothAndDeletesNothing) {
 }
 
 TEST_F(ScriptItem, anItemWithoutARecordTouchesNothing) {
-    const auto script = std::make_shared<ZVScriptCollectionItem>(platform);
+    const auto script = std::make_shared<ZVScriptCollectionItem>(platform, pane.scriptProgress);
     editByHand(*script, "typed", "in vain");
     script->remove();
     EXPECT_THAT(files.log, IsEmpty());
@@ -145,33 +145,47 @@ TEST_F(ScriptItem, removingAScriptWhoseFileIsGoneShowsTheErrorAndDropsItAnyway) 
     EXPECT_THAT(titles(), ElementsAre("b"));
 }
 
-/// An alert runs the event loop: the agent may vanish while the user reads it.
-class EmptyingPresenter final : public ErrorPresenter {
-public:
-    void presentError(const Error& /*error*/) override { onPresent(); }
-    std::function<void()> onPresent;
-};
+TEST_F(ScriptItem, aRunBlocksThePaneAndWhatCameMeanwhileFollowsInOrder) {
+    scriptRunner.lasting = true;
+    item(0)->execute();
+    pane.performAction("viewLog:", nullptr);
+    item(1)->remove();
+    item(1)->execute();
+    agentSends(Message(message::testFinished));
+    pane.testing = true;
+    time.advance(100);
+    EXPECT_THAT(takeSentNames(), IsEmpty());
+    EXPECT_EQ(count(), 2U);
+    scriptRunner.end(std::nullopt);
+    EXPECT_THAT(scriptRunner.ran, ElementsAre("echo a", "echo b"));
+    EXPECT_EQ(count(), 1U);
+    EXPECT_TRUE(pane.testing) << "the second script holds back what came after it";
+    scriptRunner.end(ScriptError{3, "b failed"});
+    EXPECT_FALSE(pane.testing);
+    EXPECT_THAT(takeSentNames(), ElementsAre("ZVViewLog", "ZVPing"));
+    EXPECT_THAT(errors.presented, ElementsAre(Error{"NSCocoaErrorDomain", 3, "b failed"}));
+    EXPECT_FALSE(pane.lostConnection);
+}
 
-TEST_F(ScriptItem, survivesAListThatIsEmptiedDuringItsOwnAlert) {
-    struct Case {
-        std::string_view name;
-        void (*operate)(ZVScriptCollectionItem&);
-    };
-    const Case cases[] = {{"edit", [](auto& script) { script.edit(), script.edit(); }},
-                          {"execute", [](auto& script) { script.edit(), script.execute(); }},
-                          {"remove", [](auto& script) { script.remove(); }}};
-    for (const auto& [name, operate] : cases) {
-        EmptyingPresenter presenter;
-        Platform other{bus,          time,          time,    workspace, files, defaults,  presenter,
-                       scriptRunner, authorization, strings, {},        modal, processes, ""};
-        Zarvil_Preferences owner(other);
-        presenter.onPresent = [&owner] { owner.unloadScripts(); };
-        files.files = {{pathOf("a.txt"), "echo a"}};
-        owner.loadScripts();
-        operate(*owner.scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(0));
-        EXPECT_TRUE(owner.scriptsArrayController.empty()) << name;
-        EXPECT_EQ(files.files.contains(pathOf("a.zvscript")), name != "remove") << name;
-    }
+TEST_F(ScriptItem, afterASecondAWindowTellsWhichScriptRunsAndCanStopIt) {
+    strings.translations["The script “%@” is running."] = "„%@“ läuft.";
+    scriptRunner.lasting = true;
+    const ScriptProgress& progress = pane.scriptProgress;
+    item(0)->execute();
+    time.advance(0.9);
+    EXPECT_TRUE(progress.runningProperty().get());
+    EXPECT_FALSE(progress.windowShownProperty().get());
+    time.advance(0.2);
+    EXPECT_TRUE(progress.windowShownProperty().get());
+    EXPECT_EQ(progress.textProperty().get(), "„a“ läuft.");
+    for (int press = 0; press < 2; ++press)
+        pane.scriptProgress.stop();
+    EXPECT_THAT(scriptRunner.log, ElementsAre("stop"));
+    scriptRunner.end(ScriptError{143, "Signal 15 (Terminated) ended the script."});
+    EXPECT_FALSE(progress.windowShownProperty().get());
+    EXPECT_FALSE(progress.runningProperty().get());
+    EXPECT_THAT(errors.presented, IsEmpty()) << "the user knows why it ended";
+    EXPECT_THAT(scriptRunner.log, ElementsAre("stop", "over"));
 }
 
 } // namespace

@@ -1,10 +1,8 @@
 #include "interface/Panel.h"
-#include "qt/adapters/QtErrorPresenter.h"
 #include "qt/adapters/QtModalLoop.h"
 #include "qt/adapters/QtStringTable.h"
 
-#include <QApplication>
-#include <QMessageBox>
+#include <QCoreApplication>
 #include <QTimer>
 #include <QTranslator>
 
@@ -55,25 +53,6 @@ TEST(QtStringTableTest, theKeyStandsInForWhatIsNotTranslated) {
     for (const char* key : {"Unknown", ""})
         EXPECT_EQ(strings.localizedString(key), key);
     QCoreApplication::removeTranslator(&table);
-}
-
-TEST(QtErrorPresenterTest, showsTheDescriptionAloneAsPlainTextAndWaits) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"The file <b>x</b> is in use.", "The file <b>x</b> is in use."},
-        {"", "The operation could not be completed."}};
-    for (const auto& [description, shown] : cases) {
-        QString text;
-        QTimer::singleShot(0, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            EXPECT_TRUE(box->informativeText().isEmpty());
-            text = box->text();
-            box->accept();
-        });
-        QtErrorPresenter().presentError({"NSCocoaErrorDomain", 513, description});
-        EXPECT_EQ(text, shown);
-    }
 }
 
 } // namespace

@@ -1,0 +1,71 @@
+#include "raster/GaussianBlur.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zarvil::raster {
+
+void Plane::reset(int columns, int rows) {
+    width = columns;
+    height = rows;
+    values.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), 0);
+}
+
+float* Plane::row(int y) {
+    return values.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width);
+}
+
+const float* Plane::row(int y) const {
+    return values.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width);
+}
+
+int gaussianReach(double standardDeviation) {
+    if (!(standardDeviation > 0))
+        return 0;
+    return static_cast<int>(std::ceil(4 * std::min(standardDeviation, GaussianBlur::maxDeviation)));
+}
+
+namespace {
+
+void setKernel(std::vector<float>& kernel, double deviation, int reach) {
+    kernel.clear();
+    double sum = 0;
+    for (int x = -reach; x <= reach; ++x) {
+        const double distance = x / deviation;
+        kernel.push_back(static_cast<float>(std::exp(-distance * distance / 2)));
+        sum += static_cast<double>(kernel.back());
+    }
+    for (float& weight : kernel)
+        weight = static_cast<float>(static_cast<double>(weight) / sum);
+}
+
+void addScaled(float* target, const float* source, int count, float factor) {
+    for (int x = 0; x < count; ++x)
+        target[x] += factor * source[x];
+}
+
+} // namespace
+
+void GaussianBlur::apply(Plane& plane, double standardDeviation) {
+    const int reach = gaussianReach(standardDeviation);
+    if (reach == 0)
+        return;
+    setKernel(kernel_, std::min(standardDeviation, maxDeviation), reach);
+    const int width = plane.width;
+    along_.reset(width, plane.height);
+    for (int y = 0; y < plane.height; ++y)
+        for (int offset = -reach; offset <= reach; ++offset) {
+            const int first = std::max(0, -offset);
+            const int last = std::min(width, width - offset);
+            addScaled(along_.row(y) + first, plane.row(y) + first + offset, last - first,
+                      kernel_[static_cast<std::size_t>(offset + reach)]);
+        }
+    std::ranges::fill(plane.values, 0.0F);
+    for (int y = 0; y < plane.height; ++y)
+        for (int from = std::max(0, y - reach); from <= std::min(plane.height - 1, y + reach);
+             ++from)
+            addScaled(plane.row(y), along_.row(from), width,
+                      kernel_[static_cast<std::size_t>(from - y + reach)]);
+}
+
+} // namespace zarvil::raster

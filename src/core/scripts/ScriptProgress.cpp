@@ -1,0 +1,54 @@
+#include "scripts/ScriptProgress.h"
+
+#include <utility>
+
+namespace zarvil {
+
+namespace {
+
+constexpr double windowDelay = 1.0; // seconds
+constexpr std::string_view titleMark = "%@";
+
+std::string withTitle(std::string text, std::string_view title) {
+    if (const auto mark = text.find(titleMark); mark != std::string::npos)
+        text.replace(mark, titleMark.size(), title);
+    return text;
+}
+
+} // namespace
+
+void ScriptProgress::run(std::string_view title, std::string_view source) {
+    hold_ = platform_.handlers.hold();
+    text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."), title));
+    stopping_.set(false);
+    running_.set(true);
+    // Not by way of the handlers, which are held.
+    windowTimer_ = platform_.timers.schedule(windowDelay, Repetition::Once,
+                                             [this] { windowShown_.set(true); });
+    auto run = platform_.scripts.start(source, [this](const auto& error) { ended(error); });
+    if (running_.get())
+        run_ = std::move(run);
+}
+
+std::string ScriptProgress::stopTitle() const { return platform_.strings.localizedString("Stop"); }
+
+void ScriptProgress::stop() {
+    if (!canStop() || stopping_.get())
+        return;
+    stopping_.set(true);
+    run_->stop();
+}
+
+void ScriptProgress::ended(const std::optional<ScriptError>& error) {
+    windowTimer_.reset();
+    run_.reset();
+    windowShown_.set(false);
+    running_.set(false);
+    if (error && !stopping_.get())
+        platform_.errors.presentError(
+            {std::string(cocoaErrorDomain), error->number, error->message});
+    // Last: what was held follows in here.
+    std::exchange(hold_, {}).cancel();
+}
+
+} // namespace zarvil
