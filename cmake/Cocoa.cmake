@@ -46,6 +46,8 @@ else()
         zarvil_cocoa_system
         INTERFACE $<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags}>
                   $<$<COMPILE_LANGUAGE:OBJC>:-std=c11>
+                  # GNU's compiler finds them in the accessors that it makes itself.
+                  $<$<COMPILE_LANGUAGE:OBJCXX>:-Wno-unused-parameter>
                   $<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20 -fobjc-call-cxx-cdtors>)
     target_include_directories(zarvil_cocoa_system SYSTEM INTERFACE "${GNUSTEP_INCLUDE_DIR}")
     target_link_libraries(zarvil_cocoa_system INTERFACE ${libraries} PreferencePanes)
