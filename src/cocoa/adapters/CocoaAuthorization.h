@@ -25,6 +25,7 @@ public:
     bool setLock(AuthorizationView& model, NSView* lock);
 
     void check(std::string_view right, Interaction interaction, Reply reply) override;
+    void release(std::string_view right) override;
 
 private:
     struct Lock;

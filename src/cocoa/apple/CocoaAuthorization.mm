@@ -75,4 +75,9 @@ void CocoaAuthorization::check(std::string_view right, Interaction interaction, 
     });
 }
 
+void CocoaAuthorization::release(std::string_view /*right*/) {
+    if (lock_)
+        [lock_->view.get() deauthorize:nil];
+}
+
 } // namespace zarvil::cocoa

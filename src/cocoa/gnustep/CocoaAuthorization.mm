@@ -111,4 +111,6 @@ void CocoaAuthorization::check(std::string_view /*right*/, Interaction /*interac
     pendingReply_ = timers_.schedule(0, Repetition::Once, [=] { reply({false, why}); });
 }
 
+void CocoaAuthorization::release(std::string_view /*right*/) {}
+
 } // namespace zarvil::cocoa

@@ -19,6 +19,9 @@ namespace {
 
 using test::spinUntil;
 
+/// The host hands the pane a bundle of its own.
+NSBundle* bundle() { return [NSBundle bundleWithPath:@ZARVIL_PANE_BUNDLE]; }
+
 /// The pane with views made by code, one of the outlet's class each, and the agent's end.
 struct PaneTest : ::testing::Test {
     PaneTest() {
@@ -55,8 +58,8 @@ struct PaneTest : ::testing::Test {
 
     Ref<NSView> view =
         Ref<NSView>::adopt([[NSView alloc] initWithFrame:NSMakeRect(0, 0, 595, 400)]);
-    Ref<::Zarvil_Preferences> pane = Ref<::Zarvil_Preferences>::adopt(
-        [[::Zarvil_Preferences alloc] initWithBundle:[NSBundle mainBundle]]);
+    Ref<::Zarvil_Preferences> pane =
+        Ref<::Zarvil_Preferences>::adopt([[::Zarvil_Preferences alloc] initWithBundle:bundle()]);
     DistributedMessageCenter agent;
     std::vector<Message> received;
     std::vector<Subscription> observed;
@@ -95,8 +98,8 @@ TEST_F(PaneTest, respondsToEveryActionOfTheController) {
 }
 
 TEST_F(PaneTest, withoutAMainViewTheHostsCallsAreHarmless) {
-    const auto empty = Ref<::Zarvil_Preferences>::adopt(
-        [[::Zarvil_Preferences alloc] initWithBundle:[NSBundle mainBundle]]);
+    const auto empty =
+        Ref<::Zarvil_Preferences>::adopt([[::Zarvil_Preferences alloc] initWithBundle:bundle()]);
     [empty.get() mainViewDidLoad];
     [empty.get() willSelect];
     [empty.get() toggleOnOff:nil];

@@ -29,4 +29,5 @@ typedef enum {
 - (void)setDelegate:(id)delegate;
 - (BOOL)updateStatus:(id)inSender;
 - (BOOL)authorize:(id)inSender;
+- (BOOL)deauthorize:(id)inSender;
 @end
