@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <tuple>
 
 namespace zarvil {
 
@@ -20,8 +21,10 @@ public:
     template <typename Call, typename... Arguments>
     void run(Call call, const Arguments&... arguments) {
         if (!mayRun()) {
-            waiting_.emplace_back(
-                [call = std::move(call), ... copies = arguments] { call(copies...); });
+            // Named before they are captured: Objective-C++ front ends include this header, and
+            // GNU's compiler has no captures with an initializer there.
+            const std::tuple<Arguments...> copies(arguments...);
+            waiting_.emplace_back([call, copies] { std::apply(call, copies); });
             return;
         }
         running_ = true;
