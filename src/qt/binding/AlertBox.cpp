@@ -1,7 +1,5 @@
 #include "qt/binding/AlertBox.h"
 
-#include "qt/canvas/Convert.h"
-
 #include <QMessageBox>
 #include <QPushButton>
 

@@ -1,7 +1,5 @@
 #include "qt/binding/ScriptWindow.h"
 
-#include "qt/canvas/Convert.h"
-
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
