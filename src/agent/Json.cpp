@@ -28,26 +28,28 @@ Value valueFrom(const QJsonValue& json) {
     }
 }
 
-QJsonValue jsonFrom(const Value& value);
+QJsonValue encoded(const Value& value);
 
-QJsonValue jsonFrom(bool value) { return value; }
-QJsonValue jsonFrom(std::int64_t value) { return qint64{value}; }
-QJsonValue jsonFrom(double value) { return value; }
-QJsonValue jsonFrom(const std::string& text) { return QString::fromUtf8(text); }
-QJsonValue jsonFrom(const Data& data) {
+QJsonValue encoded(bool value) { return value; }
+QJsonValue encoded(std::int64_t value) { return qint64{value}; }
+QJsonValue encoded(double value) { return value; }
+QJsonValue encoded(const std::string& text) { return QString::fromUtf8(text); }
+QJsonValue encoded(const Data& data) {
     const QByteArray bytes(reinterpret_cast<const char*>(data.data()),
                            static_cast<qsizetype>(data.size()));
     return QString::fromLatin1(bytes.toBase64());
 }
-QJsonValue jsonFrom(const Array& array) {
+QJsonValue encoded(const Array& array) {
     QJsonArray json;
     for (const Value& element : array)
-        json.append(jsonFrom(element));
+        json.append(encoded(element));
     return json;
 }
 
-QJsonValue jsonFrom(const Value& value) {
-    return std::visit([](const auto& held) -> QJsonValue { return jsonFrom(held); },
+QJsonValue encoded(const Dictionary& dictionary) { return jsonFrom(dictionary); }
+
+QJsonValue encoded(const Value& value) {
+    return std::visit([](const auto& held) -> QJsonValue { return encoded(held); },
                       value.storage());
 }
 
@@ -63,7 +65,7 @@ Dictionary dictionaryFrom(const QJsonObject& object) {
 QJsonObject jsonFrom(const Dictionary& dictionary) {
     QJsonObject object;
     for (const auto& [key, value] : dictionary.entries())
-        object.insert(QString::fromUtf8(key), jsonFrom(value));
+        object.insert(QString::fromUtf8(key), encoded(value));
     return object;
 }
 
