@@ -3,6 +3,7 @@
 #include "qt/scripts/ScriptCard.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
