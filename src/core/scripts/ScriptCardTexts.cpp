@@ -42,7 +42,7 @@ std::string ZVScriptCollectionItem::aboutThis(std::string_view key) const {
 
 std::string_view ZVScriptCollectionItem::stringOfRow(std::string_view key) const {
     const Record& record = representedObject();
-    const std::string* value = record ? record->contents().stringForKey(key) : nullptr;
+    const std::string* value = record ? record->stringForKey(key) : nullptr;
     return value ? std::string_view(*value) : std::string_view();
 }
 

@@ -40,9 +40,8 @@ void Zarvil_Preferences::loadScripts() {
     }
     // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
     for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
-        const auto text = platform_.files.readText(folder + "/" + name);
         const Record record =
-            makeScript(script::titleOfFile(name), script::withoutByteOrderMark(text.value_or("")));
+            scriptTexts_.makeScript(script::titleOfFile(name), folder + "/" + name);
         scriptsArrayController.addObject(record);
         handToItem(record);
     }
@@ -70,20 +69,13 @@ void Zarvil_Preferences::resumeDrafts() {
 
 /// The script that the draft belongs to: the same one, else the only one of its title.
 std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const ScriptDraft& draft) {
-    auto index = scriptsArrayController.indexOfObject(draft.saved);
+    auto index = scriptsArrayController.indexOfObject(makeRecord(draft.saved));
     if (!index) {
         const std::string* title = draft.saved.stringForKey(script::title);
-        const auto& records = scriptsArrayController.arrangedObjects();
-        const auto isOfTitle = [title](const Record& record) {
-            const std::string* listed = record->contents().stringForKey(script::title);
-            return title && listed && *listed == *title;
-        };
-        if (std::ranges::count_if(records, isOfTitle) != 1)
-            return nullptr;
-        index =
-            static_cast<std::size_t>(std::ranges::find_if(records, isOfTitle) - records.begin());
+        const Record only = title ? onlyScriptOfTitle(scriptsArrayController, *title) : nullptr;
+        index = only ? scriptsArrayController.indexOfObject(only) : std::nullopt;
     }
-    return scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index);
+    return index ? scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index) : nullptr;
 }
 
 void Zarvil_Preferences::unloadScripts() {
@@ -100,6 +92,7 @@ void Zarvil_Preferences::create(Control* /*sender*/) {
         return;
     }
     const std::string path = script::filePath(platform_.files, title);
+    scriptFilesWillChange();
     if (const auto error = platform_.files.writeText("", path, Atomicity::Direct)) {
         platform_.errors.presentError(*error);
         return;

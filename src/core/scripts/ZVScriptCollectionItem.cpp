@@ -35,7 +35,7 @@ void ScriptItemView::removeSubview(const ScriptEditField* field) {
 }
 
 const std::string* ZVScriptCollectionItem::stringOfRecord(std::string_view key) const {
-    return data_ ? data_->contents().stringForKey(key) : nullptr;
+    return data_ ? data_->stringForKey(key) : nullptr;
 }
 
 void ZVScriptCollectionItem::runAsHandler(void (ZVScriptCollectionItem::*operation)()) {
@@ -75,7 +75,13 @@ void ZVScriptCollectionItem::beginEditing() {
     view_.addSubviews({text, title});
 }
 
+void ZVScriptCollectionItem::filesWillChange() const {
+    if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))
+        owner->scriptFilesWillChange();
+}
+
 void ZVScriptCollectionItem::save() {
+    filesWillChange();
     Dictionary before = data_ ? data_->contents() : Dictionary();
     const std::string* file = titleOfFile();
     const std::optional<std::string> former = file ? std::optional(*file) : std::nullopt;
@@ -174,6 +180,7 @@ void ZVScriptCollectionItem::executeNow() {
 }
 
 void ZVScriptCollectionItem::removeNow() {
+    filesWillChange();
     removeFile();
     const Record record = data_;
     if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))
