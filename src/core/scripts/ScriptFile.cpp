@@ -32,11 +32,11 @@ std::string titleOfFile(std::string_view fileName) {
     return std::string(fileName);
 }
 
-std::string withoutByteOrderMark(std::string text) {
+std::string withoutByteOrderMark(std::string contents) {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
-    if (text.starts_with(mark))
-        text.erase(0, mark.size());
-    return text;
+    if (contents.starts_with(mark))
+        contents.erase(0, mark.size());
+    return contents;
 }
 
 } // namespace zarvil::script

@@ -17,7 +17,8 @@ std::string withTitle(std::string text, std::string_view title) {
 
 } // namespace
 
-void ScriptProgress::run(std::string_view title, std::string_view source) {
+void ScriptProgress::run(std::string_view title, std::string_view source, Ended ended) {
+    ended_ = std::move(ended);
     hold_ = platform_.handlers.hold();
     text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."), title));
     stopping_.set(false);
@@ -25,7 +26,7 @@ void ScriptProgress::run(std::string_view title, std::string_view source) {
     // Not by way of the handlers, which are held.
     windowTimer_ = platform_.timers.schedule(windowDelay, Repetition::Once,
                                              [this] { windowShown_.set(true); });
-    auto run = platform_.scripts.start(source, [this](const auto& error) { ended(error); });
+    auto run = platform_.scripts.start(source, [this](const auto& error) { runEnded(error); });
     if (running_.get())
         run_ = std::move(run);
 }
@@ -39,12 +40,15 @@ void ScriptProgress::stop() {
     run_->stop();
 }
 
-void ScriptProgress::ended(const std::optional<ScriptError>& error) {
+void ScriptProgress::runEnded(const std::optional<ScriptError>& error) {
     windowTimer_.reset();
     run_.reset();
     windowShown_.set(false);
     running_.set(false);
-    if (error && !stopping_.get())
+    const bool failed = error && !stopping_.get();
+    if (const auto tell = std::exchange(ended_, nullptr))
+        tell(failed ? &*error : nullptr);
+    if (failed)
         platform_.errors.presentError(
             {std::string(cocoaErrorDomain), error->number, error->message});
     // Last: what was held follows in here.

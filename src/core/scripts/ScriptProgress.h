@@ -3,6 +3,7 @@
 #include "interface/Property.h"
 #include "pane/Platform.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,8 +20,11 @@ public:
     ScriptProgress(const ScriptProgress&) = delete;
     ScriptProgress& operator=(const ScriptProgress&) = delete;
 
+    /// Told of the end; null for a good one or a script that was stopped.
+    using Ended = std::function<void(const ScriptError*)>;
+
     /// To be called within a handler. A failure is presented; one of a stopped script is not.
-    void run(std::string_view title, std::string_view source);
+    void run(std::string_view title, std::string_view source, Ended ended);
 
     // State.
     [[nodiscard]] const Property<bool>& runningProperty() const { return running_; }
@@ -36,12 +40,13 @@ public:
     void stop();
 
 private:
-    void ended(const std::optional<ScriptError>& error);
+    void runEnded(const std::optional<ScriptError>& error);
 
     Platform& platform_;
     Subscription hold_;
     std::unique_ptr<Timer> windowTimer_;
     std::unique_ptr<ScriptRun> run_;
+    Ended ended_;
     Property<bool> running_{false};
     Property<bool> windowShown_{false};
     Property<bool> stopping_{false};

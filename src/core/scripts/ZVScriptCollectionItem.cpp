@@ -1,5 +1,7 @@
 #include "scripts/ZVScriptCollectionItem.h"
 
+#include "interface/DisplayText.h"
+
 namespace zarvil {
 
 namespace {
@@ -57,6 +59,7 @@ void ZVScriptCollectionItem::remove(Control* /*sender*/) {
 
 void ZVScriptCollectionItem::toggleEditing() {
     setEditing(!editing());
+    setFailure({});
     if (editing())
         beginEditing();
     else if (eTitle_)
@@ -176,7 +179,13 @@ void ZVScriptCollectionItem::executeNow() {
         return;
     }
     const std::string* title = stringOfRecord(script::title);
-    progress_.run(isEmpty(title) ? untitled : *title, *stored);
+    setFailure({});
+    setRunning(true);
+    progress_.run(showableText(isEmpty(title) ? untitled : *title, longestShownLine), *stored,
+                  [self = shared_from_this()](const ScriptError* error) {
+                      self->setRunning(false);
+                      self->setFailure(error ? self->failureText(*error) : std::string());
+                  });
 }
 
 void ZVScriptCollectionItem::removeNow() {

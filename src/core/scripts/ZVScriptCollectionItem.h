@@ -181,6 +181,7 @@ private:
     /// `before` is the record as the file had it.
     void noteFailure(const std::optional<Error>& failure, Dictionary before);
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
+    [[nodiscard]] std::string failureText(const ScriptError& error) const;
     [[nodiscard]] std::string localized(std::string_view key) const;
     [[nodiscard]] std::string aboutThis(std::string_view key) const;
     /// Of the record of this row, which an item without `data` shows as well.

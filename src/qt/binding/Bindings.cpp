@@ -128,7 +128,7 @@ void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscription
     bindView(model, widget, kept);
     kept.push_back(
         model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
-            widget.setText(toQt(text.title), toQt(text.words));
+            widget.setText(text.symbol, toQt(text.title), toQt(text.words));
         }));
 }
 
