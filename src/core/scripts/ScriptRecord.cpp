@@ -27,9 +27,8 @@ std::string scriptSortKey(const MutableRecord& script) {
 }
 
 Record scriptOfTitle(const ArrayController& scripts, std::string_view title) {
-    return scripts.firstOfHash(titleHash(title), [title](const Record& record) {
-        return hasTitle(record, title);
-    });
+    return scripts.firstOfHash(titleHash(title),
+                               [title](const Record& record) { return hasTitle(record, title); });
 }
 
 Record onlyScriptOfTitle(const ArrayController& scripts, std::string_view title) {

@@ -26,9 +26,8 @@ void ScriptTexts::readSome() {
     constexpr int atATime = 64; // takes about a millisecond
     for (int count = 0; count < atATime && !unread_.empty(); ++count)
         readNext();
-    next_ = unread_.empty()
-                ? nullptr
-                : timers_.schedule(0, Repetition::Once, [this] { readSome(); });
+    next_ =
+        unread_.empty() ? nullptr : timers_.schedule(0, Repetition::Once, [this] { readSome(); });
 }
 
 void ScriptTexts::readNext() {

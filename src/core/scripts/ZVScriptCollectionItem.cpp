@@ -140,7 +140,7 @@ std::optional<ScriptDraft> ZVScriptCollectionItem::draft() const {
 void ZVScriptCollectionItem::resume(const ScriptDraft& draft) {
     if (!data_ || editing())
         return;
-    edit();
+    toggleEditing(); // within the handler that lists the scripts
     const auto fill = [&draft](ScriptEditField& field, std::string_view key,
                                const std::string& typed) {
         // What was left alone shows the file as it is by now.
