@@ -97,7 +97,7 @@ void DeviceListModel::rowsDidChange(const RowChange& change) {
         break;
     case RowChange::Kind::Changed: {
         const QModelIndex changed = index(static_cast<int>(change.row));
-        emit dataChanged(changed, changed);
+        Q_EMIT dataChanged(changed, changed);
         break;
     }
     }
