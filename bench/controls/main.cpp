@@ -1,8 +1,8 @@
 #include "controls/KXButtonCell.h"
 #include "controls/ZVMessageView.h"
-#include "qt/canvas/QtCanvas.h"
-#include "qt/canvas/QtImage.h"
+#include "qt/canvas/RasterPainter.h"
 #include "qt/widgets/NoteCard.h"
+#include "raster/RasterImage.h"
 
 #include <QApplication>
 #include <QImage>
@@ -15,7 +15,7 @@
 #include <functional>
 #include <vector>
 
-/// Times the drawing of the controls on a window's kind of surface, with shadows and without.
+/// Times the drawing of the controls on a window's kind of surface.
 namespace {
 
 using namespace zarvil;
@@ -23,12 +23,6 @@ using namespace zarvil;
 class StandingClock final : public Clock {
 public:
     [[nodiscard]] double timeIntervalSinceReferenceDate() const override { return 0; }
-};
-
-class ShadowlessCanvas final : public qt::QtCanvas {
-public:
-    using QtCanvas::QtCanvas;
-    void setShadow(const Shadow& /*shadow*/) override {}
 };
 
 /// A part of a window of so many points, at a pixel density.
@@ -60,29 +54,31 @@ void report(const char* name, int runs, const std::function<void(int)>& run) {
 constexpr int runs = 5000;
 
 /// The knob goes to and fro below the pointer, from one end of the track to the other.
-template <typename CanvasType>
 void benchSwitch(const char* name, double step) {
     const StandingClock clock;
     KXButtonCell cell(std::nullopt, clock);
     cell.startTrackingAt({10, 13}, nullptr);
     QImage window = surface({60, 26}, 2);
+    qt::RasterPainter raster;
     report(name, runs, [&](int index) {
         const double travel = std::fmod(index * step, 34);
         cell.continueTracking({}, {10 + travel, 13}, nullptr);
         QPainter painter(&window);
-        CanvasType canvas(painter, {60, 26}, Orientation::YDown);
-        cell.drawWithFrame({0, 0, 60, 26}, nullptr, canvas);
+        raster.paint(painter, {60, 26}, Orientation::YDown, [&](Canvas& canvas) {
+            cell.drawWithFrame({0, 0, 60, 26}, nullptr, canvas);
+        });
     });
 }
 
 void benchPanel(const char* name, int scale) {
-    qt::QtImageRenderer renderer;
+    RasterImageRenderer renderer;
     ZVMessageView panel(renderer, {0, 0, 300, 160});
     QImage window = surface({300, 160}, scale);
+    qt::RasterPainter raster;
     report(name, runs, [&](int) {
         QPainter painter(&window);
-        qt::QtCanvas canvas(painter, {300, 160}, Orientation::YUp);
-        panel.drawRect(canvas);
+        raster.paintKept(painter, {300, 160}, Orientation::YUp,
+                         [&](Canvas& canvas) { panel.drawRect(canvas); });
     });
 }
 
@@ -102,10 +98,8 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    benchSwitch<qt::QtCanvas>("switch dragged by points, scale 2", 1);
-    benchSwitch<ShadowlessCanvas>("  the same without shadows", 1);
-    benchSwitch<qt::QtCanvas>("switch dragged by odd fractions, scale 2", 0.37);
-    benchSwitch<ShadowlessCanvas>("  the same without shadows", 0.37);
+    benchSwitch("switch dragged by points, scale 2", 1);
+    benchSwitch("switch dragged by odd fractions, scale 2", 0.37);
     benchPanel("panel of 300 by 160 from its image, scale 1", 1);
     benchPanel("panel of 300 by 160 from its image, scale 2", 2);
     benchCards();

@@ -121,8 +121,8 @@ bool AgentSettings::write() {
     contents.setObject(savedDevicesKey, savedDevices_);
     QDir().mkpath(QFileInfo(path_).path());
     QSaveFile file(path_);
-    if (file.open(QIODevice::WriteOnly) && file.write(writePropertyList(contents)) >= 0 &&
-        file.commit()) {
+    if (file.open(QIODevice::WriteOnly) &&
+        file.write(QJsonDocument(jsonFrom(contents)).toJson()) >= 0 && file.commit()) {
         changed_ = false;
         reported_ = false;
         return true;

@@ -13,10 +13,6 @@ namespace {
 
 constexpr int flushTimeout = 1000; // milliseconds
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 } // namespace
 
 DBusMessageCenter::DBusMessageCenter(MessageBus& bus, QString acceptFrom)

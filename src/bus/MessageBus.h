@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
 #include "protocol/Subscription.h"
 
 #include <QDBusConnection>
@@ -22,13 +23,10 @@ enum class BusState : std::uint8_t {
 /// A message bus as those see it who share one connection to it. The connection may go and another
 /// one come: what was asked of the former must be asked of the next. Virtual throughout, since the
 /// host hands its own to the panes, which are libraries of their own. Used on the main thread.
-class MessageBus {
+class MessageBus : NonCopyable {
 public:
     using Observer = std::function<void(BusState)>;
 
-    MessageBus() = default;
-    MessageBus(const MessageBus&) = delete;
-    MessageBus& operator=(const MessageBus&) = delete;
     virtual ~MessageBus() = default;
 
     [[nodiscard]] virtual BusState state() const = 0;

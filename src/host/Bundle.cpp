@@ -22,11 +22,11 @@ QString translated(const char* text) { return QCoreApplication::translate("Bundl
 BundleFailure failure(BundleFault fault, const QString& path, const QString& message) {
     // It quotes the bundle's own words and path.
     const std::string shown = showableText(message.toStdString(), longestShownMessage);
-    return {fault, path, QString::fromStdString(shown)};
+    return {fault, path, QString::fromUtf8(shown)};
 }
 
 QString shownName(const QString& name) {
-    return QString::fromStdString(showableText(name.toStdString(), longestShownLine));
+    return QString::fromUtf8(showableText(name.toStdString(), longestShownLine));
 }
 
 using InfoOutcome = std::variant<QJsonObject, BundleFailure>;

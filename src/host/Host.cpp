@@ -4,6 +4,7 @@
 #include "host/Failure.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
+#include "protocol/NonCopyable.h"
 
 #include <QApplication>
 #include <QDir>
@@ -152,7 +153,7 @@ int print(const QString& text) {
 /// Qt connects to the session bus, at the latest when its accessibility first looks for it, and a
 /// bus that hangs would keep the main thread waiting for half a minute. So Qt's own connection,
 /// which it never makes again, is made to fail here; ours goes on trying.
-class HungBusHidden {
+class HungBusHidden : NonCopyable {
 public:
     HungBusHidden() {
         constexpr std::chrono::milliseconds limit{500};
@@ -171,8 +172,6 @@ public:
         else
             qputenv(variable, *address_);
     }
-    HungBusHidden(const HungBusHidden&) = delete;
-    HungBusHidden& operator=(const HungBusHidden&) = delete;
 
 private:
     static constexpr const char* variable = "DBUS_SESSION_BUS_ADDRESS";

@@ -1,6 +1,6 @@
 #include "host/HostWindow.h"
 
-#include "qt/widgets/ToolTip.h"
+#include "qt/text/ToolTip.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>

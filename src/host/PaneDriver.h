@@ -20,8 +20,6 @@ public:
 
     /// The bundle's path is filled into the options.
     PaneDriver(Bundle bundle, PaneOptions options);
-    PaneDriver(const PaneDriver&) = delete;
-    PaneDriver& operator=(const PaneDriver&) = delete;
     /// Takes the view out of whatever window it is in. The pane is not told: leave it before.
     ~PaneDriver();
 

@@ -38,7 +38,7 @@ public Q_SLOTS:
     /// Called over the bus by a second instance. The platform's hints are not used.
     Q_SCRIPTABLE void Activate(const QVariantMap& hints);
 
-signals:
+Q_SIGNALS:
     void activated();
 
 private:

@@ -61,9 +61,9 @@ protected:
     /// The same, for one receiver alone.
     static QDBusMessage signalTo(const Center& receiver, std::string_view name,
                                  const QVariantList& arguments = {}) {
-        QDBusMessage message = QDBusMessage::createTargetedSignal(
-            receiver.bus.connection()->baseService(), bus::path, bus::interface,
-            QString::fromUtf8(name.data(), qsizetype(name.size())));
+        QDBusMessage message =
+            QDBusMessage::createTargetedSignal(receiver.bus.connection()->baseService(), bus::path,
+                                               bus::interface, QString::fromUtf8(name));
         message.setArguments(arguments);
         return message;
     }

@@ -1,12 +1,14 @@
 #include "Bundles.h"
 #include "PrivateBus.h"
 #include "PrivateDisplay.h"
+#include "host/UnixSignals.h"
 
 #include <QDBusConnectionInterface>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTest>
 
+#include <cerrno>
 #include <csignal>
 
 namespace zarvil::host {
@@ -93,6 +95,12 @@ TEST_F(HostProcessTest, runsWithoutABusAndEndsCleanlyOnASignal) {
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         const auto process = start({"--root", path("home")});
         ASSERT_TRUE(isCalled("A: willSelect"));
+        QFile status(QStringLiteral("/proc/%1/status").arg(process->processId()));
+        ASSERT_TRUE(status.open(QIODevice::ReadOnly));
+        // What it ignored or blocked, the programs that it starts would too.
+        const QByteArray state = status.readAll();
+        for (const char* mask : {"SigIgn", "SigBlk"})
+            EXPECT_TRUE(state.contains(QByteArray(mask) + ":\t0000000000000000")) << mask;
         ASSERT_EQ(kill(static_cast<pid_t>(process->processId()), number), 0);
         ASSERT_TRUE(process->waitForFinished(limit));
         EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
@@ -173,6 +181,16 @@ TEST_F(HostProcessTest, aSecondStartRaisesTheFirstOrSaysOnceThatItHangs) {
     ::kill(static_cast<pid_t>(first->processId()), SIGCONT);
     first->terminate();
     EXPECT_TRUE(first->waitForFinished(limit));
+}
+
+TEST(UnixSignalsTest, aSignalLeavesTheErrorNumberOfWhatItInterrupts) {
+    UnixSignals watcher;
+    // More than the way to the event loop can take.
+    for (int count = 0; count < 100'000; ++count) {
+        errno = ENOENT;
+        std::raise(SIGHUP);
+        ASSERT_EQ(errno, ENOENT) << count;
+    }
 }
 
 } // namespace

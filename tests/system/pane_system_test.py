@@ -71,6 +71,11 @@ class Presence(SystemTest):
     def test_a_second_start_raises_the_first_and_ends(self):
         self.start()
         wait_until(lambda: self.session.owner(HOST_NAME) == self.host.pid, "the name is owned")
+        # Filtered by the bus itself: what arrives was sent by the owner of the name.
+        pings = []
+        self.session.bus.signal_subscribe(HOST_NAME, AGENT_NAME, "ZVPing", desktop.PATH, None, 0,
+                                          lambda *_: pings.append(True))
+        wait_until(lambda: pings, "the pane speaks as the owner of the host's name")
         second = self.session.start(desktop.BUILD / "bin/zarvil-preferences", "--root",
                                     self.session.root,
                                     desktop.BUILD / "bin/Zarvil Preferences.prefPane")

@@ -23,10 +23,6 @@ namespace zarvil {
 /// while they are listed.
 class DeviceList : NonCopyable {
 public:
-    DeviceList() = default;
-    DeviceList(const DeviceList&) = delete;
-    DeviceList& operator=(const DeviceList&) = delete;
-
     void add(Record record);
     /// Removes the first same device, if there is one.
     void removeSameDevice(const Dictionary& device);

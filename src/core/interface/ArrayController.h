@@ -26,7 +26,7 @@ struct ListChange {
 
 /// The records of a list in the order of their addition. Looking a record up answers as a walk in
 /// order would, in constant time.
-class ArrayController {
+class ArrayController : NonCopyable {
     struct Entry {
         RecordSerial serial;
         std::size_t hash; ///< kept current by watching the record's edits
@@ -80,8 +80,6 @@ public:
 
     /// A hash of what records are most often looked up by serves `firstOfHash` as well.
     explicit ArrayController(Hash hash = &hashOfContents) : hash_(hash) {}
-    ArrayController(const ArrayController&) = delete;
-    ArrayController& operator=(const ArrayController&) = delete;
 
     [[nodiscard]] ArrangedObjects arrangedObjects() const { return ArrangedObjects(entries_); }
     [[nodiscard]] bool empty() const { return entries_.empty(); }

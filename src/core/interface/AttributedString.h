@@ -40,14 +40,17 @@ public:
     /// The attributes at a byte index; none behind the end.
     [[nodiscard]] std::optional<TextAttributes> attributesAt(std::size_t index) const;
 
-    friend bool operator==(const AttributedString&, const AttributedString&) = default;
-
-private:
+    /// A stretch of text whose attributes are all the same; never empty.
     struct Run {
         std::string text;
         TextAttributes attributes;
         friend bool operator==(const Run&, const Run&) = default;
     };
+    [[nodiscard]] const std::vector<Run>& runs() const { return runs_; }
+
+    friend bool operator==(const AttributedString&, const AttributedString&) = default;
+
+private:
     std::vector<Run> runs_;
 };
 

@@ -6,7 +6,7 @@
 
 namespace zarvil {
 
-/// The pictures that a layout draws in the colours of text; each front end has its own drawing.
+/// The pictures that a layout draws in the colors of text; each front end has its own drawing.
 enum class Symbol : std::uint8_t {
     None,
     Shield,        ///< filled, with a tick

@@ -4,6 +4,8 @@ namespace zarvil {
 
 namespace {
 
+constexpr std::string_view acceptedAddress =
+    "Stored with Return, once it is complete and ends in two to four letters.";
 constexpr std::string_view notStored = "Not stored while Zarvil is not running.";
 constexpr std::string_view separator = " · ";
 constexpr std::int64_t secondsPerMinute = 60;
@@ -218,7 +220,7 @@ void Guidance::showWhatIsNotStored() {
     const bool absent = presence_ == Presence::Absent;
     connectMessageHint.setHidden(!absent);
     connectMessageHint.setStringValue(text(notStored));
-    emailHint.setStringValue(text(absent ? notStored : "Stored with Return, once it is complete."));
+    emailHint.setStringValue(text(absent ? notStored : acceptedAddress));
 }
 
 void Guidance::showLock() {

@@ -57,8 +57,10 @@ void Zarvil_Preferences::mainViewDidLoad() {
 
 void Zarvil_Preferences::setUpAuthorization() {
     authView.onClick = [this] {
-        guidance.lockWasClicked();
-        clickLock();
+        platform_.handlers.run([this] {
+            guidance.lockWasClicked();
+            clickLock();
+        });
     };
     authView.onUpdateStatus = [this] { checkAuthorization(Interaction::None); };
     authView.setAuthorizationRights({{std::string(product::adminRight)}});
@@ -83,10 +85,15 @@ void Zarvil_Preferences::checkAuthorization(Interaction interaction) {
         product::adminRight, interaction,
         [this, alive = std::weak_ptr<char>(lifetime_)](const AuthorizationOutcome& outcome) {
             // The user may take minutes to answer, and the pane may be gone by then.
-            if (!alive.expired())
-                authView.show(outcome.granted ? authorizationState::unlocked
-                                              : authorizationState::locked,
-                              outcome.reason);
+            if (alive.expired())
+                return;
+            platform_.handlers.run(
+                [this](const AuthorizationOutcome& decided) {
+                    authView.show(decided.granted ? authorizationState::unlocked
+                                                  : authorizationState::locked,
+                                  decided.reason);
+                },
+                outcome);
         });
 }
 

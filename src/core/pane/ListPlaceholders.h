@@ -4,6 +4,7 @@
 #include "interface/CollectionView.h"
 #include "interface/Placeholder.h"
 #include "platform/StringTable.h"
+#include "protocol/NonCopyable.h"
 
 #include <vector>
 
@@ -11,7 +12,7 @@ namespace zarvil {
 
 /// What stands in place of the rows of the pane's empty lists. It follows the lists and changes
 /// none of them.
-class ListPlaceholders {
+class ListPlaceholders : NonCopyable {
 public:
     /// What the placeholders follow. Nothing is owned; all must outlive them.
     struct Lists {
@@ -22,8 +23,6 @@ public:
     };
 
     ListPlaceholders(Lists lists, const StringTable& strings);
-    ListPlaceholders(const ListPlaceholders&) = delete;
-    ListPlaceholders& operator=(const ListPlaceholders&) = delete;
 
     Placeholder noneConnected;
     Placeholder noneWatched;

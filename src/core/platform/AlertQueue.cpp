@@ -1,5 +1,7 @@
 #include "platform/AlertQueue.h"
 
+#include "interface/DisplayText.h"
+
 #include <algorithm>
 
 namespace zarvil {
@@ -30,7 +32,7 @@ void AlertQueue::showNext() {
     const std::string& description = errors_.front().description;
     text_.set(description.empty()
                   ? strings_.localizedString("The operation could not be completed.")
-                  : description);
+                  : showableText(description, longestShownMessage, LineBreaks::Kept));
 }
 
 } // namespace zarvil

@@ -1,30 +1,30 @@
 #pragma once
 
 #include "platform/Timers.h"
+#include "protocol/NonCopyable.h"
 #include "protocol/ObserverList.h"
 
 #include <deque>
 #include <functional>
 #include <memory>
+#include <tuple>
 
 namespace zarvil {
 
 /// Lets a pane's handlers run one at a time, each to its end: every timer tick, agent message,
 /// action and edit enters through here. What comes while another one runs, or while the pane is
 /// held, follows in the order in which it came. Used on the main thread only.
-class HandlerQueue {
+class HandlerQueue : NonCopyable {
 public:
-    HandlerQueue() = default;
-    HandlerQueue(const HandlerQueue&) = delete;
-    HandlerQueue& operator=(const HandlerQueue&) = delete;
-
     /// Calls now, or later with copies of the arguments. What else the call refers to must live
     /// until it is made or discarded.
     template <typename Call, typename... Arguments>
     void run(Call call, const Arguments&... arguments) {
         if (!mayRun()) {
-            waiting_.emplace_back(
-                [call = std::move(call), ... copies = arguments] { call(copies...); });
+            // Named before they are captured: Objective-C++ front ends include this header, and
+            // GNU's compiler has no captures with an initializer there.
+            const std::tuple<Arguments...> copies(arguments...);
+            waiting_.emplace_back([call, copies] { std::apply(call, copies); });
             return;
         }
         running_ = true;

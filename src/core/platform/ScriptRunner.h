@@ -21,11 +21,8 @@ struct ScriptError {
 };
 
 /// A script under way. Destroying it ends the script and drops its result, without waiting.
-class ScriptRun {
+class ScriptRun : NonCopyable {
 public:
-    ScriptRun() = default;
-    ScriptRun(const ScriptRun&) = delete;
-    ScriptRun& operator=(const ScriptRun&) = delete;
     virtual ~ScriptRun() = default;
 
     /// Whether `stop` has an effect.
@@ -40,9 +37,6 @@ public:
     /// The script has ended; no error means success. The run may be destroyed in it.
     using Ended = std::function<void(const std::optional<ScriptError>&)>;
 
-    ScriptRunner() = default;
-    ScriptRunner(const ScriptRunner&) = delete;
-    ScriptRunner& operator=(const ScriptRunner&) = delete;
     virtual ~ScriptRunner() = default;
 
     /// Calls `ended` once, on the main thread; a runner that cannot but wait for the script's end

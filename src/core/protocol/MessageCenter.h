@@ -35,6 +35,7 @@ struct Message {
     static const Message none{""};
     return (message ? *message : none).info();
 }
+
 /// What becomes of the way to the other side.
 enum class LinkEvent : std::uint8_t {
     Up,

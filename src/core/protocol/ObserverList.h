@@ -23,15 +23,18 @@ public:
             entries_ = std::make_shared<Entries>();
         auto entry = std::make_shared<Observer>(std::move(observer));
         entries_->push_back(entry);
-        return Subscription(
-            [list = std::weak_ptr<Entries>(entries_), target = std::weak_ptr<Observer>(entry)] {
-                const auto observers = list.lock();
-                const auto registered = target.lock();
-                if (!observers || !registered)
-                    return;
-                std::erase(*observers, registered);
-                *registered = nullptr;
-            });
+        // Named before they are captured: Objective-C++ front ends include this header, and GNU's
+        // compiler has no captures with an initializer there.
+        const std::weak_ptr<Entries> list = entries_;
+        const std::weak_ptr<Observer> target = entry;
+        return Subscription([list, target] {
+            const auto observers = list.lock();
+            const auto registered = target.lock();
+            if (!observers || !registered)
+                return;
+            std::erase(*observers, registered);
+            *registered = nullptr;
+        });
     }
 
     void notify(Arguments... arguments) const {

@@ -7,20 +7,38 @@ namespace zarvil {
 
 namespace {
 
-constexpr int redShift = 0;
-constexpr int greenShift = 16;
-constexpr int blueShift = 32;
-constexpr int alphaShift = 48;
+constexpr Pixel everyOther = 0x0000FFFF0000FFFF;
+constexpr Pixel lowBytes = 0x000000FF000000FF;
 
-/// The nearest of 256 levels.
-std::uint32_t byteOf(Pixel pixel, int shift) {
-    const auto level = static_cast<std::uint32_t>(pixel >> shift & 0xFFFF);
-    return (level * 255 + 32767) / 65535;
+/// Two channels at a time to the nearest of 256 levels each, exactly: all 16 bits count.
+constexpr Pixel toBytes(Pixel pair) {
+    constexpr Pixel half = 0x0000807F0000807F;
+    return (pair * 255 + half) >> 16 & lowBytes;
 }
 
-std::uint32_t argb(Pixel pixel) {
-    return byteOf(pixel, alphaShift) << 24 | byteOf(pixel, redShift) << 16 |
-           byteOf(pixel, greenShift) << 8 | byteOf(pixel, blueShift);
+constexpr std::uint32_t argbWord(Pixel pixel) {
+    const Pixel redBlue = toBytes(pixel & everyOther);
+    const Pixel greenAlpha = toBytes(pixel >> 16 & everyOther);
+    return static_cast<std::uint32_t>((redBlue & 0xFF) << 16 | redBlue >> 32 |
+                                      (greenAlpha & 0xFF) << 8 | greenAlpha >> 32 << 24);
+}
+
+void copyRow(const Pixel* pixels, int count, std::uint8_t* bytes, PixelLayout layout) {
+    if (layout == PixelLayout::Argb32Words) {
+        for (int x = 0; x < count; ++x, bytes += 4) {
+            const std::uint32_t word = argbWord(pixels[x]);
+            std::memcpy(bytes, &word, sizeof word);
+        }
+        return;
+    }
+    for (int x = 0; x < count; ++x, bytes += 4) {
+        const Pixel redBlue = toBytes(pixels[x] & everyOther);
+        const Pixel greenAlpha = toBytes(pixels[x] >> 16 & everyOther);
+        bytes[0] = static_cast<std::uint8_t>(redBlue);
+        bytes[1] = static_cast<std::uint8_t>(greenAlpha);
+        bytes[2] = static_cast<std::uint8_t>(redBlue >> 32);
+        bytes[3] = static_cast<std::uint8_t>(greenAlpha >> 32);
+    }
 }
 
 } // namespace
@@ -41,22 +59,8 @@ void Bitmap::reset(int width, int height) {
 }
 
 void Bitmap::copyTo(std::uint8_t* bytes, std::size_t bytesPerRow, PixelLayout layout) const {
-    for (int y = 0; y < height_; ++y, bytes += bytesPerRow) {
-        const Pixel* pixels = row(y);
-        std::uint8_t* target = bytes;
-        for (int x = 0; x < width_; ++x, target += 4) {
-            const Pixel pixel = pixels[x];
-            if (layout == PixelLayout::Argb32Words) {
-                const std::uint32_t word = argb(pixel);
-                std::memcpy(target, &word, sizeof word);
-            } else {
-                target[0] = static_cast<std::uint8_t>(byteOf(pixel, redShift));
-                target[1] = static_cast<std::uint8_t>(byteOf(pixel, greenShift));
-                target[2] = static_cast<std::uint8_t>(byteOf(pixel, blueShift));
-                target[3] = static_cast<std::uint8_t>(byteOf(pixel, alphaShift));
-            }
-        }
-    }
+    for (int y = 0; y < height_; ++y, bytes += bytesPerRow)
+        copyRow(row(y), width_, bytes, layout);
 }
 
 } // namespace zarvil

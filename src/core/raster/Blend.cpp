@@ -44,16 +44,23 @@ Pixel lightened(Pixel below, Pixel above) {
     return result;
 }
 
-void blendOver(Pixel* target, const Ink& ink, const Coverage* coverage, int count) {
-    const bool isOpaque = !ink.pixels && alphaOf(ink.color) == fullCoverage;
+void blendColor(Pixel* target, Pixel color, const Coverage* coverage, int count) {
+    const bool isOpaque = alphaOf(color) == fullCoverage;
     for (int x = 0; x < count; ++x) {
         if (coverage[x] == 0)
             continue;
-        const Pixel source = ink.pixels ? ink.pixels[x] : ink.color;
-        if (coverage[x] == fullCoverage)
-            target[x] = isOpaque ? source : over(target[x], source);
+        if (isOpaque && coverage[x] == fullCoverage)
+            target[x] = color;
         else
-            target[x] = over(target[x], scaledPixel(source, coverage[x]));
+            target[x] = over(target[x], scaledPixel(color, coverage[x]));
+    }
+}
+
+void blendPixels(Pixel* target, const Pixel* pixels, const Coverage* coverage, int count) {
+    for (int x = 0; x < count; ++x) {
+        const Pixel source =
+            coverage[x] == fullCoverage ? pixels[x] : scaledPixel(pixels[x], coverage[x]);
+        target[x] = target[x] == 0 ? source : over(target[x], source);
     }
 }
 
@@ -79,7 +86,10 @@ Pixel pixelOf(const Color& color) {
 void blendRow(Pixel* target, const Ink& ink, const Coverage* coverage, int count, BlendMode mode) {
     switch (mode) {
     case BlendMode::SourceOver:
-        blendOver(target, ink, coverage, count);
+        if (ink.pixels)
+            blendPixels(target, ink.pixels, coverage, count);
+        else
+            blendColor(target, ink.color, coverage, count);
         return;
     case BlendMode::Lighten:
         for (int x = 0; x < count; ++x)

@@ -46,26 +46,28 @@ void addScaled(float* target, const float* source, int count, float factor) {
 
 } // namespace
 
-void GaussianBlur::apply(Plane& plane, double standardDeviation) {
+void GaussianBlur::apply(Plane& plane, double standardDeviation, const PixelRect& window) {
     const int reach = gaussianReach(standardDeviation);
-    if (reach == 0)
+    if (reach == 0 || window.isEmpty())
         return;
     setKernel(kernel_, std::min(standardDeviation, maxDeviation), reach);
-    const int width = plane.width;
-    along_.reset(width, plane.height);
-    for (int y = 0; y < plane.height; ++y)
+    const int top = std::max(0, window.y - reach);
+    const int bottom = std::min(plane.height, window.bottom() + reach);
+    along_.reset(plane.width, plane.height);
+    for (int y = top; y < bottom; ++y)
         for (int offset = -reach; offset <= reach; ++offset) {
-            const int first = std::max(0, -offset);
-            const int last = std::min(width, width - offset);
+            const int first = std::max(window.x, -offset);
+            const int last = std::min(window.right(), plane.width - offset);
             addScaled(along_.row(y) + first, plane.row(y) + first + offset, last - first,
                       kernel_[static_cast<std::size_t>(offset + reach)]);
         }
-    std::ranges::fill(plane.values, 0.0F);
-    for (int y = 0; y < plane.height; ++y)
-        for (int from = std::max(0, y - reach); from <= std::min(plane.height - 1, y + reach);
-             ++from)
-            addScaled(plane.row(y), along_.row(from), width,
+    for (int y = window.y; y < window.bottom(); ++y) {
+        float* row = plane.row(y) + window.x;
+        std::fill_n(row, window.width, 0.0F);
+        for (int from = std::max(top, y - reach); from <= std::min(bottom - 1, y + reach); ++from)
+            addScaled(row, along_.row(from) + window.x, window.width,
                       kernel_[static_cast<std::size_t>(from - y + reach)]);
+    }
 }
 
 } // namespace zarvil::raster

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "raster/Bitmap.h"
+
 #include <cstddef>
 #include <vector>
 
@@ -25,10 +27,10 @@ struct Plane {
 class GaussianBlur {
 public:
     /// In pixels; larger deviations are taken for this one, so that no drawing takes for ever.
-    static constexpr double maxDeviation = 128;
+    static constexpr double maxDeviation = 64;
 
-    /// Outside the plane is zero.
-    void apply(Plane& plane, double standardDeviation);
+    /// Outside the plane is zero. Only the window, which lies inside, holds the result.
+    void apply(Plane& plane, double standardDeviation, const PixelRect& window);
 
 private:
     Plane along_;

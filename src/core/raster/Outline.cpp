@@ -70,10 +70,14 @@ void addCorner(std::vector<Point>& polygon, Point middle, const Size& radii, dou
         return;
     }
     const int sides = sidesOfQuarter(larger);
+    const double cosine = std::cos(quarterTurn / sides);
+    const double sine = std::sin(quarterTurn / sides);
+    Point direction{std::cos(startAngle), std::sin(startAngle)};
     for (int side = 0; side <= sides; ++side) {
-        const double angle = startAngle + quarterTurn * side / sides;
         polygon.push_back(
-            {middle.x + radii.width * std::cos(angle), middle.y + radii.height * std::sin(angle)});
+            {middle.x + radii.width * direction.x, middle.y + radii.height * direction.y});
+        direction = {direction.x * cosine - direction.y * sine,
+                     direction.x * sine + direction.y * cosine};
     }
 }
 

@@ -22,6 +22,7 @@ struct RasterView {
     [[nodiscard]] Point toPixels(Point point) const;
     /// Of positive size, whatever the sign of the rectangle's.
     [[nodiscard]] Rect toPixels(const Rect& rect) const;
+    friend bool operator==(const RasterView&, const RasterView&) = default;
 };
 
 } // namespace zarvil

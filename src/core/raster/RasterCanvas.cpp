@@ -69,19 +69,30 @@ void RasterCanvas::clip(const Path& path) {
     const std::size_t count = ++memory_.clipMaskCount_;
     if (memory_.clipMasks_.size() < count)
         memory_.clipMasks_.emplace_back();
-    Mask& mask = memory_.clipMasks_[count - 1];
-    mask.reset(area);
+    RasterMemory::ClipMask& mask = memory_.clipMasks_[count - 1];
+    if (state().clipMask > 0 || !mask.isWhole || mask.mask.area != area || mask.view != view_ ||
+        mask.path != path)
+        makeClipMask(mask, path);
+    state().clipMask = count;
+}
+
+/// From the outline of the path.
+void RasterCanvas::makeClipMask(RasterMemory::ClipMask& made, const Path& path) {
+    const PixelRect area = state().clip;
+    made.isWhole = state().clipMask == 0;
+    made.path = path;
+    made.view = view_;
+    made.mask.reset(area);
     memory_.area_.cover(memory_.outline_, area);
     for (int y = 0; y < area.height; ++y) {
-        Coverage* row = mask.row(area.y + y);
+        Coverage* row = made.mask.row(area.y + y);
         memory_.area_.row(y, row);
-        if (state().clipMask == 0)
+        if (made.isWhole)
             continue;
-        const Mask& outer = memory_.clipMasks_[state().clipMask - 1];
+        const Mask& outer = memory_.clipMasks_[state().clipMask - 1].mask;
         const Coverage* outerRow = outer.row(area.y + y) + (area.x - outer.area.x);
         std::transform(row, row + area.width, outerRow, row, raster::product);
     }
-    state().clipMask = count;
 }
 
 void RasterCanvas::setShadow(const Shadow& shadow) { state().shadow = shadow; }
@@ -147,12 +158,17 @@ void RasterCanvas::drawOutline(const Path& path, double strokeWidth, const Paint
     if (state().shadow)
         castShadow(path, strokeWidth, *extent, paint);
     const PixelRect region = pixelsAround(*extent, state().clip);
-    memory_.area_.cover(memory_.outline_, region);
+    const bool isFull = std::holds_alternative<Rect>(path) && strokeWidth == 0 && isWhole(*extent);
+    if (!isFull)
+        memory_.area_.cover(memory_.outline_, region);
     raster::Ink ink{.color = paint.color};
     if (paint.isGradient)
         ink.pixels = memory_.inkRow_.data();
     for (int y = 0; y < region.height; ++y) {
-        memory_.area_.row(y, coverage());
+        if (isFull)
+            std::fill_n(coverage(), region.width, fullCoverage);
+        else
+            memory_.area_.row(y, coverage());
         if (paint.isGradient)
             memory_.gradient_.row(region.x, region.y + y, region.width, memory_.inkRow_.data());
         blendCovered(region.x, region.y + y, region.width, ink);
@@ -161,7 +177,7 @@ void RasterCanvas::drawOutline(const Path& path, double strokeWidth, const Paint
 
 void RasterCanvas::blendCovered(int x, int y, int count, const raster::Ink& ink) {
     if (state().clipMask > 0) {
-        const Mask& mask = memory_.clipMasks_[state().clipMask - 1];
+        const Mask& mask = memory_.clipMasks_[state().clipMask - 1].mask;
         const Coverage* clipped = mask.row(y) + (x - mask.area.x);
         std::transform(coverage(), coverage() + count, clipped, coverage(), raster::product);
     }

@@ -26,6 +26,13 @@ private:
         PixelRect clip;           ///< nothing is drawn outside
         std::size_t clipMask = 0; ///< how far inside; counts from one, none is zero
     };
+    /// A clip's coverage. Kept, as a control clips to the same shape in each of its drawings.
+    struct ClipMask {
+        raster::Mask mask;
+        Path path;
+        RasterView view;
+        bool isWhole = false; ///< whether it is the path's alone, not cut by another
+    };
     /// Where a layer begins in the stacks.
     struct Layer {
         std::size_t states;
@@ -35,7 +42,7 @@ private:
     std::vector<State> states_;
     std::vector<Layer> layers_;
     std::vector<Bitmap> layerPixels_; ///< as many as ever were needed at once
-    std::vector<raster::Mask> clipMasks_;
+    std::vector<ClipMask> clipMasks_;
     std::size_t clipMaskCount_ = 0;
 
     raster::Outline outline_;
@@ -95,6 +102,7 @@ private:
     /// The row of coverage, long enough for the bitmap.
     [[nodiscard]] raster::Coverage* coverage() { return memory_.coverageRow_.data(); }
     void startStates(const PixelRect& clip);
+    void makeClipMask(RasterMemory::ClipMask& made, const Path& path);
 
     void drawOutline(const Path& path, double strokeWidth, const Paint& paint);
     /// Draws a row of the target where the row of coverage and the clip let it.
@@ -107,10 +115,11 @@ private:
     [[nodiscard]] double shadowDeviation();
     [[nodiscard]] PixelRect shadowOffset();
     void castShadow(const Path& path, double strokeWidth, const Rect& extent, const Paint& paint);
-    /// The outline's shadow, from those of its pixels that lie in the region.
-    void makeShadow(raster::Mask& shadow, const PixelRect& region, const Paint& paint);
+    /// The outline's shadow where it is wanted, from those of its pixels that lie in the region.
+    void makeShadow(raster::Mask& shadow, const PixelRect& region, const PixelRect& wanted,
+                    const Paint& paint);
     void castLayerShadow(const Bitmap& layer);
-    void blurInto(raster::Mask& shadow, const PixelRect& region);
+    void blurInto(raster::Mask& shadow, const PixelRect& region, const PixelRect& wanted);
     /// The shadow's plane, large enough for a region and what the blur adds; the region's row.
     void resetPlane(const PixelRect& region);
     [[nodiscard]] float* planeRow(int y);

@@ -57,13 +57,13 @@ void RasterCanvas::castShadow(const Path& path, double strokeWidth, const Rect& 
     const Pixel color = raster::pixelOf(state().shadow->color);
     const auto [dx, dy, noWidth, noHeight] = shadowOffset();
     const int reach = gaussianReach(shadowDeviation());
-    const PixelRect reached = state().clip.translated(-dx, -dy).outset(reach);
-    const PixelRect near = pixelsAround(extent, reached);
+    const PixelRect wanted = state().clip.translated(-dx, -dy);
+    const PixelRect near = pixelsAround(extent, wanted.outset(reach));
     if (near.isEmpty())
         return;
     const bool isEven = !paint.isGradient || memory_.gradient_.isOpaque();
     if (!isEven || !isKept(extent, reach)) {
-        makeShadow(memory_.shadowMask_, near, paint);
+        makeShadow(memory_.shadowMask_, near, wanted, paint);
         drawMask(memory_.shadowMask_, dx, dy, color);
         return;
     }
@@ -84,10 +84,9 @@ void RasterCanvas::castShadow(const Path& path, double strokeWidth, const Rect& 
     const Mask* kept = memory_.shadows_.find(key);
     if (!kept) {
         Mask made;
-        makeShadow(made,
-                   {x, y, static_cast<int>(std::ceil(extent.x - left + extent.width)),
-                    static_cast<int>(std::ceil(extent.y - top + extent.height))},
-                   {.color = Pixel{fullCoverage} << 48});
+        const PixelRect whole{x, y, static_cast<int>(std::ceil(extent.x - left + extent.width)),
+                              static_cast<int>(std::ceil(extent.y - top + extent.height))};
+        makeShadow(made, whole, whole.outset(reach), {.color = Pixel{fullCoverage} << 48});
         made.area = made.area.translated(-x, -y);
         kept = &memory_.shadows_.insert(key, std::move(made));
     }
@@ -105,7 +104,8 @@ float* RasterCanvas::planeRow(int y) {
     return memory_.shadowPlane_.row(y + reach) + reach;
 }
 
-void RasterCanvas::makeShadow(Mask& shadow, const PixelRect& region, const Paint& paint) {
+void RasterCanvas::makeShadow(Mask& shadow, const PixelRect& region, const PixelRect& wanted,
+                              const Paint& paint) {
     resetPlane(region);
     memory_.area_.cover(memory_.outline_, region);
     std::vector<Coverage>& row = memory_.coverageRow_;
@@ -124,29 +124,36 @@ void RasterCanvas::makeShadow(Mask& shadow, const PixelRect& region, const Paint
                        float{fullCoverage};
         }
     }
-    blurInto(shadow, region);
+    blurInto(shadow, region, wanted);
 }
 
 void RasterCanvas::castLayerShadow(const Bitmap& layer) {
     if (!state().shadow || state().clip.isEmpty())
         return;
     const PixelRect region = layer.bounds();
+    const PixelRect offset = shadowOffset();
     resetPlane(region);
     for (int y = 0; y < region.height; ++y)
         std::transform(layer.row(y), layer.row(y) + region.width, planeRow(y), [](Pixel pixel) {
             return static_cast<float>(raster::alphaOf(pixel)) / float{fullCoverage};
         });
-    blurInto(memory_.shadowMask_, region);
-    const PixelRect offset = shadowOffset();
+    blurInto(memory_.shadowMask_, region, state().clip.translated(-offset.x, -offset.y));
     drawMask(memory_.shadowMask_, offset.x, offset.y, raster::pixelOf(state().shadow->color));
 }
 
-void RasterCanvas::blurInto(Mask& shadow, const PixelRect& region) {
-    memory_.blur_.apply(memory_.shadowPlane_, shadowDeviation());
-    shadow.reset(region.outset(gaussianReach(shadowDeviation())));
-    std::ranges::transform(memory_.shadowPlane_.values, shadow.values.begin(), [](float value) {
-        return static_cast<Coverage>(std::clamp(value, 0.0F, 1.0F) * float{fullCoverage} + 0.5F);
-    });
+void RasterCanvas::blurInto(Mask& shadow, const PixelRect& region, const PixelRect& wanted) {
+    const PixelRect plane = region.outset(gaussianReach(shadowDeviation()));
+    const PixelRect window = wanted.intersected(plane);
+    memory_.blur_.apply(memory_.shadowPlane_, shadowDeviation(),
+                        window.translated(-plane.x, -plane.y));
+    shadow.reset(window);
+    for (int y = window.y; y < window.bottom(); ++y) {
+        const float* values = memory_.shadowPlane_.row(y - plane.y) + (window.x - plane.x);
+        std::transform(values, values + window.width, shadow.row(y), [](float value) {
+            const float level = std::clamp(value, 0.0F, 1.0F) * float{fullCoverage};
+            return static_cast<Coverage>(level + 0.5F);
+        });
+    }
 }
 
 } // namespace zarvil

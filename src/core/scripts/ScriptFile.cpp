@@ -32,11 +32,11 @@ std::string titleOfFile(std::string_view fileName) {
     return std::string(fileName);
 }
 
-std::string withoutByteOrderMark(std::string contents) {
+std::string withoutByteOrderMark(std::string content) {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
-    if (contents.starts_with(mark))
-        contents.erase(0, mark.size());
-    return contents;
+    if (content.starts_with(mark))
+        content.erase(0, mark.size());
+    return content;
 }
 
 } // namespace zarvil::script

@@ -26,7 +26,7 @@ inline constexpr std::string_view fileExtension = "zvscript";
 [[nodiscard]] std::string titleOfFile(std::string_view fileName);
 
 /// A mark at the start of a file is no part of its text.
-[[nodiscard]] std::string withoutByteOrderMark(std::string contents);
+[[nodiscard]] std::string withoutByteOrderMark(std::string content);
 
 } // namespace script
 

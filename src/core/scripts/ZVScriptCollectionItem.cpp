@@ -58,8 +58,8 @@ void ZVScriptCollectionItem::remove(Control* /*sender*/) {
 }
 
 void ZVScriptCollectionItem::toggleEditing() {
-    setEditing(!editing());
     setFailure({});
+    setEditing(!editing());
     if (editing())
         beginEditing();
     else if (eTitle_)
@@ -182,9 +182,12 @@ void ZVScriptCollectionItem::executeNow() {
     setFailure({});
     setRunning(true);
     progress_.run(showableText(isEmpty(title) ? untitled : *title, longestShownLine), *stored,
-                  [self = shared_from_this()](const ScriptError* error) {
-                      self->setRunning(false);
-                      self->setFailure(error ? self->failureText(*error) : std::string());
+                  [weak = weak_from_this()](const ScriptError* error) {
+                      const auto item = weak.lock();
+                      if (!item)
+                          return;
+                      item->setRunning(false);
+                      item->setFailure(error ? item->failureText(*error) : std::string());
                   });
 }
 

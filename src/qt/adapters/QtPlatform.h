@@ -2,6 +2,7 @@
 
 #include "pane/Platform.h"
 #include "platform/AlertQueue.h"
+#include "protocol/NonCopyable.h"
 #include "qt/adapters/PolkitAuthorization.h"
 #include "qt/adapters/QtClock.h"
 #include "qt/adapters/QtModalLoop.h"
@@ -28,8 +29,6 @@ public:
 
     /// `root` is put before the absolute product paths. The bus must outlive this.
     QtPlatform(Parts parts, MessageBus& session, std::string root);
-    QtPlatform(const QtPlatform&) = delete;
-    QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() = default;
 
     [[nodiscard]] Platform& platform() { return platform_; }

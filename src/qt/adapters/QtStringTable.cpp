@@ -23,7 +23,7 @@ std::string QtStringTable::localizedCount(std::string_view one, std::string_view
                                           std::int64_t count) const {
     const std::string source(many);
     const auto number = static_cast<int>(std::clamp<std::int64_t>(count, INT_MIN, INT_MAX));
-    const QString pattern = QString::fromStdString(source);
+    const QString pattern = QString::fromUtf8(source);
     const QString text = QCoreApplication::translate(context, source.c_str(), nullptr, number);
     const bool isTranslated =
         QString(pattern).replace(QLatin1String("%n"), QString::number(number)) != text;

@@ -27,8 +27,8 @@ void AlertBox::open(const std::string& text) {
     box_->setWindowTitle(pane_.window()->windowTitle());
     box_->setIcon(QMessageBox::Warning);
     box_->setTextFormat(Qt::PlainText);
-    box_->setText(toQt(text));
-    box_->addButton(toQt(alerts_.buttonTitle()), QMessageBox::AcceptRole);
+    box_->setText(QString::fromUtf8(text));
+    box_->addButton(QString::fromUtf8(alerts_.buttonTitle()), QMessageBox::AcceptRole);
     QObject::connect(box_, &QMessageBox::finished, box_, [this] { alerts_.dismiss(); });
     box_->open();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/AlertQueue.h"
+#include "protocol/NonCopyable.h"
 
 class QMessageBox;
 class QWidget;
@@ -8,12 +9,10 @@ class QWidget;
 namespace zarvil::qt {
 
 /// Shows the alerts of a pane as sheets on the pane's window. No event loop runs for them.
-class AlertBox final {
+class AlertBox final : NonCopyable {
 public:
     /// Both must outlive this.
     AlertBox(AlertQueue& alerts, QWidget& pane);
-    AlertBox(const AlertBox&) = delete;
-    AlertBox& operator=(const AlertBox&) = delete;
     ~AlertBox();
 
 private:

@@ -17,6 +17,7 @@
 #include "qt/widgets/SymbolWidget.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -117,19 +118,20 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
     }
     QObject::connect(&widget, &QLineEdit::returnPressed, &widget,
                      [&model] { model.userDidPressReturn(); });
-    // Return ends the edit for the widget as well, which then still has the keyboard.
-    QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [&model, &widget] {
-        if (!widget.hasFocus())
-            model.userDidLeave();
-    });
+    // Not `editingFinished`: after Return it does not tell that the field is left.
+    QObject::connect(qApp, &QApplication::focusChanged, &widget,
+                     [&model, &widget](QWidget* left, QWidget* /*entered*/) {
+                         if (left == &widget)
+                             model.userDidLeave();
+                     });
 }
 
 void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
-    kept.push_back(
-        model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
-            widget.setText(text.symbol, toQt(text.title), toQt(text.words));
-        }));
+    kept.push_back(model.textProperty().observe([&widget](const Placeholder::Text& text,
+                                                          Transition) {
+        widget.setText(text.symbol, QString::fromUtf8(text.title), QString::fromUtf8(text.words));
+    }));
 }
 
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {
@@ -140,8 +142,9 @@ void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kep
 
 void bindAuthorization(AuthorizationView& model, LockWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
-    kept.push_back(model.reasonProperty().observe(
-        [&widget](const std::string& reason, Transition) { widget.setReason(toQt(reason)); }));
+    kept.push_back(model.reasonProperty().observe([&widget](const std::string& reason, Transition) {
+        widget.setReason(QString::fromUtf8(reason));
+    }));
     QObject::connect(&widget, &LockWidget::clicked, &widget, [&model] { model.performClick(); });
 }
 

@@ -189,7 +189,7 @@ private:
 
     /// A label that shows the fault of a field.
     void bindFault(QLabel& label) {
-        const std::string name = fromQt(label.property("faultOf").toString());
+        const std::string name = label.property("faultOf").toString().toStdString();
         if (name.empty())
             return;
         visitOutlets(pane_, [&](std::string_view outlet, View& view) {
@@ -198,7 +198,7 @@ private:
                 return;
             kept_.push_back(
                 field->faultProperty().observe([&label](const std::string& fault, Transition) {
-                    label.setText(toQt(fault));
+                    label.setText(QString::fromUtf8(fault));
                     label.setHidden(fault.empty());
                 }));
         });

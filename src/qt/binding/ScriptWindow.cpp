@@ -69,7 +69,7 @@ ScriptWindow::ScriptWindow(ScriptProgress& progress, QWidget& pane)
     auto* bar = new QProgressBar(window_);
     bar->setRange(0, 0); // without an end in sight
     bar->setTextVisible(false);
-    stop_ = new QPushButton(toQt(progress.stopTitle()), window_);
+    stop_ = new QPushButton(QString::fromUtf8(progress.stopTitle()), window_);
     stop_->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->addWidget(bar, 1);
@@ -102,7 +102,7 @@ void ScriptWindow::show(bool shown) {
         return;
     }
     window_->setWindowTitle(window_->parentWidget()->window()->windowTitle());
-    text_->setText(toQt(progress_.textProperty().get()));
+    text_->setText(QString::fromUtf8(progress_.textProperty().get()));
     stop_->setVisible(progress_.canStop());
     window_->show();
     // Not the button: a key that was meant for the pane must not press it.

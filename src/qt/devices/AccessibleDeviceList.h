@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/ArrayController.h"
+#include "protocol/NonCopyable.h"
 
 #include <QAccessibleWidget>
 
@@ -13,12 +14,10 @@ class DeviceListView;
 /// What assistive programs see of a list of devices: its rows, as children that can be ticked. A
 /// row that was read once is known by its serial, so it stays itself while others come and go, and
 /// the end of one row touches no other.
-class AccessibleDeviceList final : public QAccessibleWidget {
+class AccessibleDeviceList final : public QAccessibleWidget, NonCopyable {
 public:
     /// Belongs to the toolkit's cache, which drops it with the view.
     explicit AccessibleDeviceList(DeviceListView* view);
-    AccessibleDeviceList(const AccessibleDeviceList&) = delete;
-    AccessibleDeviceList& operator=(const AccessibleDeviceList&) = delete;
 
     [[nodiscard]] int childCount() const override;
     [[nodiscard]] QAccessibleInterface* child(int row) const override;

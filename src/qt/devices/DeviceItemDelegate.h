@@ -8,7 +8,7 @@ namespace zarvil::qt {
 
 /// Draws a device as a note card with a check box and two lines: its name, and below it what else
 /// tells it apart. The card
-/// is the same yellow in every colour scheme, so what stands on it is always dark.
+/// is the same yellow in every color scheme, so what stands on it is always dark.
 class DeviceItemDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 

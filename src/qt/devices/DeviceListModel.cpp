@@ -1,6 +1,6 @@
 #include "qt/devices/DeviceListModel.h"
 
-#include "qt/widgets/ToolTip.h"
+#include "qt/text/ToolTip.h"
 
 namespace zarvil::qt {
 
@@ -21,13 +21,13 @@ QVariant DeviceListModel::data(const QModelIndex& index, int role) const {
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return QString::fromStdString(item->name());
+        return QString::fromUtf8(item->name());
     case DetailRole:
-        return QString::fromStdString(item->detail());
+        return QString::fromUtf8(item->detail());
     case Qt::ToolTipRole:
-        return plainToolTip(QString::fromStdString(item->toolTip()));
+        return plainToolTip(QString::fromUtf8(item->toolTip()));
     case Qt::AccessibleTextRole:
-        return QString::fromStdString(item->spokenName());
+        return QString::fromUtf8(item->spokenName());
     case Qt::CheckStateRole:
         return item->state() != 0 ? Qt::Checked : Qt::Unchecked;
     default:

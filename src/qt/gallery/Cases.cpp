@@ -4,7 +4,7 @@
 #include "controls/ZVCollectionNoteView.h"
 #include "controls/ZVMessageView.h"
 #include "controls/ZVMessageViewButton.h"
-#include "qt/canvas/QtImage.h"
+#include "raster/RasterImage.h"
 
 #include <optional>
 
@@ -77,7 +77,7 @@ std::vector<SwitchCase> switchCases() {
 
 Case messageCase(std::string name, Size size) {
     return {std::move(name), size, Orientation::YUp, [size](Canvas& canvas) {
-                qt::QtImageRenderer renderer;
+                RasterImageRenderer renderer;
                 ZVMessageView(renderer, {0, 0, size.width, size.height}).drawRect(canvas);
             }};
 }

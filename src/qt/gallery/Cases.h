@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
-#include "qt/canvas/QtCanvas.h"
+#include "raster/Outline.h"
 
 #include <functional>
 #include <string>

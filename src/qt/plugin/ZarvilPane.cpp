@@ -57,7 +57,7 @@ QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
 struct ZarvilPane::Loaded {
     explicit Loaded(const PaneOptions& options)
         : platform(partsOfThePlatform(*options.session), *options.session,
-                   qt::fromQt(options.root)),
+                   options.root.toStdString()),
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),

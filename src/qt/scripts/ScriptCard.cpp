@@ -1,8 +1,8 @@
 #include "qt/scripts/ScriptCard.h"
 
+#include "qt/text/ToolTip.h"
 #include "qt/widgets/SymbolWidget.h"
 #include "qt/widgets/Theme.h"
-#include "qt/widgets/ToolTip.h"
 
 #include <QEvent>
 #include <QFontDatabase>
@@ -33,9 +33,9 @@ constexpr double mutedScale = 0.92;
 constexpr int fewestTitleCharacters = 16;
 
 void showCaption(QPushButton& button, const ButtonCaption& caption) {
-    button.setText(QString::fromStdString(caption.title));
-    button.setToolTip(plainToolTip(QString::fromStdString(caption.toolTip)));
-    button.setAccessibleName(QString::fromStdString(caption.accessibleName));
+    button.setText(QString::fromUtf8(caption.title));
+    button.setToolTip(plainToolTip(QString::fromUtf8(caption.toolTip)));
+    button.setAccessibleName(QString::fromUtf8(caption.accessibleName));
 }
 
 QLabel* makeLabel(QWidget* card) {
@@ -120,26 +120,26 @@ void ScriptCard::unbind() {
 void ScriptCard::showItem() {
     if (!item_)
         return;
-    setAccessibleName(QString::fromStdString(item_->cardName()));
-    title_->setAccessibleName(QString::fromStdString(item_->shownTitle()));
-    hint_->setText(QString::fromStdString(item_->editingHint()));
-    textCaption_->setText(QString::fromStdString(item_->textFieldName()));
+    setAccessibleName(QString::fromUtf8(item_->cardName()));
+    title_->setAccessibleName(QString::fromUtf8(item_->shownTitle()));
+    hint_->setText(QString::fromUtf8(item_->editingHint()));
+    textCaption_->setText(QString::fromUtf8(item_->textFieldName()));
     showCaption(*remove_, item_->removeCaption());
     QStringList lines;
     for (const std::string& line : item_->shownLines())
-        lines += QString::fromStdString(line);
+        lines += QString::fromUtf8(line);
     const bool empty = lines.isEmpty();
     text_->setFont(empty ? theme::scaled(font(), mutedScale) : textFontOf(*this));
     setInk(*text_, empty ? theme::mutedText(palette()) : palette().color(QPalette::WindowText));
-    text_->setText(empty ? QString::fromStdString(item_->emptyText()) : lines.join(u'\n'));
+    text_->setText(empty ? QString::fromUtf8(item_->emptyText()) : lines.join(u'\n'));
     showState();
 }
 
 void ScriptCard::showState() {
     const ScriptNote& note = item_->noteProperty().get();
     const std::string& failure = item_->failureProperty().get();
-    const QString reason = QString::fromStdString(note.reason);
-    state_->setText(QString::fromStdString(failure.empty() ? note.caption : failure));
+    const QString reason = QString::fromUtf8(note.reason);
+    state_->setText(QString::fromUtf8(failure.empty() ? note.caption : failure));
     state_->setToolTip(plainToolTip(failure.empty() ? reason : state_->text()));
     state_->setAccessibleDescription(reason);
     showCaption(*run_, item_->runCaption());

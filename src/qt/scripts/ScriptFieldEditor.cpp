@@ -41,10 +41,10 @@ QRect flipped(const Rect& frame, const Size& viewSize) {
 ScriptFieldEditor::ScriptFieldEditor(const ZVScriptCollectionItem& item,
                                      std::shared_ptr<ScriptEditField> field, QWidget* card)
     : field_(std::move(field)),
-      tooLargeText_(QString::fromStdString(item.tooLargeText())),
+      tooLargeText_(QString::fromUtf8(item.tooLargeText())),
       widget_(hasSeveralLines(*field_) ? makeText(card) : makeLine(card)) {
     widget_->setFont(fieldFont(*card, *field_));
-    widget_->setAccessibleName(QString::fromStdString(
+    widget_->setAccessibleName(QString::fromUtf8(
         field_.get() == item.eTitle() ? item.titleFieldName() : item.textFieldName()));
 }
 

@@ -18,13 +18,11 @@ namespace zarvil::qt {
 /// The widget of one edit field: a line, or a text of several lines where the frame has room for
 /// them. What the user types goes into the field at once; what he leaves alone stays as it was,
 /// byte for byte.
-class ScriptFieldEditor {
+class ScriptFieldEditor : NonCopyable {
 public:
     /// Takes its texts from the item that the field belongs to.
     ScriptFieldEditor(const ZVScriptCollectionItem& item, std::shared_ptr<ScriptEditField> field,
                       QWidget* card);
-    ScriptFieldEditor(const ScriptFieldEditor&) = delete;
-    ScriptFieldEditor& operator=(const ScriptFieldEditor&) = delete;
     /// The widget may be in the middle of its own event, so it goes a moment later.
     ~ScriptFieldEditor();
 

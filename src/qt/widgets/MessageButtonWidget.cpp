@@ -1,6 +1,6 @@
 #include "qt/widgets/MessageButtonWidget.h"
 
-#include "qt/canvas/QtCanvas.h"
+#include "qt/canvas/RasterPainter.h"
 #include "qt/widgets/Contrast.h"
 
 #include <QGuiApplication>
@@ -64,14 +64,11 @@ void MessageButtonWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
-    {
-        QtCanvas canvas(painter, size(), Orientation::YDown);
-        // The cell clears its frame, which must not reach the panel behind the button.
-        canvas.beginTransparencyLayer();
+    // The cell clears its frame on a bitmap of its own, not the panel behind the button.
+    RasterPainter().paint(painter, size(), Orientation::YDown, [this](Canvas& canvas) {
         cell_.drawInteriorWithFrame(
             {0, 0, static_cast<double>(width()), static_cast<double>(height())}, nullptr, canvas);
-        canvas.endTransparencyLayer();
-    }
+    });
     paintRing(painter);
 }
 

@@ -1,6 +1,5 @@
 #include "qt/widgets/MessagePanelWidget.h"
 
-#include "qt/canvas/QtCanvas.h"
 #include "qt/widgets/Contrast.h"
 
 #include <QGuiApplication>
@@ -34,8 +33,8 @@ void MessagePanelWidget::paintEvent(QPaintEvent* /*event*/) {
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         return;
     }
-    QtCanvas canvas(painter, size(), Orientation::YUp);
-    view_.drawRect(canvas);
+    raster_.paintKept(painter, size(), Orientation::YUp,
+                      [this](Canvas& canvas) { view_.drawRect(canvas); });
 }
 
 void MessagePanelWidget::tellFrame() {

@@ -2,7 +2,8 @@
 
 #include "controls/ZVMessageView.h"
 #include "interface/PointerTracker.h"
-#include "qt/canvas/QtImage.h"
+#include "qt/canvas/RasterPainter.h"
+#include "raster/RasterImage.h"
 
 #include <QWidget>
 
@@ -33,7 +34,8 @@ private:
     void tellFrame();
     void followPointer(std::optional<QPointF> position);
 
-    QtImageRenderer renderer_;
+    RasterPainter raster_;
+    RasterImageRenderer renderer_;
     ZVMessageView view_{renderer_};
     PointerTracker tracker_{view_};
     bool highContrast_ = false; ///< the theme is, and so the colors are its own

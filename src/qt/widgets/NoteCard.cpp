@@ -1,7 +1,7 @@
 #include "qt/widgets/NoteCard.h"
 
 #include "controls/ZVCollectionNoteView.h"
-#include "qt/canvas/QtCanvas.h"
+#include "qt/canvas/RasterPainter.h"
 
 #include <QCache>
 #include <QImage>
@@ -33,10 +33,10 @@ QImage drawnCard(const CardSize& size) {
     image.setDevicePixelRatio(size.scale);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    QtCanvas canvas(painter, {size.width, size.height}, Orientation::YUp);
     ZVCollectionNoteView note;
     note.setFrame({0, 0, size.width, size.height});
-    note.drawRect(canvas);
+    RasterPainter().paint(painter, {size.width, size.height}, Orientation::YUp,
+                          [&note](Canvas& canvas) { note.drawRect(canvas); });
     return image;
 }
 

@@ -1,6 +1,5 @@
 #include "qt/widgets/SwitchWidget.h"
 
-#include "qt/canvas/QtCanvas.h"
 #include "qt/widgets/Accessibility.h"
 #include "qt/widgets/Contrast.h"
 
@@ -87,10 +86,8 @@ void SwitchWidget::paintEvent(QPaintEvent* /*event*/) {
         return;
     QPainter painter(this);
     painter.translate(place.topLeft());
-    {
-        QtCanvas canvas(painter, place.size(), Orientation::YDown);
-        cell->drawWithFrame(model_->bounds(), model_, canvas);
-    }
+    raster_.paint(painter, place.size(), Orientation::YDown,
+                  [&](Canvas& canvas) { cell->drawWithFrame(model_->bounds(), model_, canvas); });
     painter.setRenderHint(QPainter::Antialiasing);
     if (isHighContrast(palette()))
         paintOutline(painter, -0.5, 1, palette().color(QPalette::WindowText));

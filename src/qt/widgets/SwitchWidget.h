@@ -3,6 +3,7 @@
 #include "controls/KXButtonCell.h"
 #include "interface/Button.h"
 #include "interface/MouseLoop.h"
+#include "qt/canvas/RasterPainter.h"
 
 #include <QWidget>
 
@@ -58,6 +59,7 @@ private:
     void announceState();
     void paintOutline(QPainter& painter, double distance, double width, const QColor& color) const;
 
+    RasterPainter raster_;
     Button* model_ = nullptr;
     std::optional<MouseLoop> mouseLoop_;
     std::vector<Subscription> subscriptions_;

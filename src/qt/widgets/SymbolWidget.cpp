@@ -176,7 +176,7 @@ void SymbolWidget::paintEvent(QPaintEvent* /*event*/) {
     square.moveCenter(QRectF(rect()).center());
     const bool isLoud = symbol_ == Symbol::Warning;
     QColor ink = isLoud ? palette().color(QPalette::WindowText) : theme::mutedText(palette());
-    // On a chip it takes the colour of what it stands beside.
+    // On a chip it takes the color of what it stands beside.
     if (const auto* label = qobject_cast<const QLabel*>(parentWidget()))
         ink = label->palette().color(QPalette::Active, label->foregroundRole());
     paintSymbol(painter, symbol_, square, palette(), ink);

@@ -8,7 +8,7 @@ QT_FORWARD_DECLARE_CLASS(QPainter)
 
 namespace zarvil::qt {
 
-/// Paints a symbol into a square, in colours of the palette: a shield in that of selections, all
+/// Paints a symbol into a square, in colors of the palette: a shield in that of selections, all
 /// else in `ink`. It is not mirrored for writing from right to left.
 void paintSymbol(QPainter& painter, Symbol symbol, const QRectF& square, const QPalette& palette,
                  const QColor& ink);

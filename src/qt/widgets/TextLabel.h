@@ -7,7 +7,7 @@
 namespace zarvil::qt {
 
 /// A label in one of the pages' kinds of text. It wraps, remembers its height by width, paints its
-/// colour from whatever palette holds, and dims itself. Plain text only.
+/// color from whatever palette holds, and dims itself. Plain text only.
 class TextLabel : public QLabel {
     Q_OBJECT
     Q_PROPERTY(Look look READ look WRITE setLook)
@@ -65,7 +65,7 @@ private:
     mutable std::size_t nextMeasured_ = 0;
 };
 
-/// A verdict: its text in a fixed colour beside a symbol, on a ground that suits that colour in
+/// A verdict: its text in a fixed color beside a symbol, on a ground that suits that color in
 /// every theme. The symbol is the child of the class SymbolWidget.
 class VerdictChip final : public TextLabel {
     Q_OBJECT

@@ -8,7 +8,7 @@
 class QPushButton;
 class QWidget;
 
-/// Measures and colours that the pages share. All follow the application's font and palette, so
+/// Measures and colors that the pages share. All follow the application's font and palette, so
 /// that nothing here is fixed to a theme; call again when those change.
 namespace zarvil::qt::theme {
 
@@ -31,7 +31,7 @@ inline constexpr int sideMargin = 20;
 /// The font in another size and weight, whether it is given in points or in pixels.
 [[nodiscard]] QFont scaled(QFont font, double factor, QFont::Weight weight = QFont::Normal);
 
-// Colours.
+// Colors.
 [[nodiscard]] QColor mixed(const QColor& one, const QColor& other, double share);
 [[nodiscard]] QColor cardGround(const QPalette& palette);
 [[nodiscard]] QColor outlineOn(const QPalette& palette, const QColor& ground);
@@ -42,7 +42,7 @@ inline constexpr int sideMargin = 20;
 [[nodiscard]] QColor shield(const QPalette& palette);
 /// Black or white, whichever stands out.
 [[nodiscard]] QColor inkOn(const QColor& ground);
-/// Dark enough for the fixed colours of a verdict in every theme.
+/// Dark enough for the fixed colors of a verdict in every theme.
 [[nodiscard]] QColor chipGround(const QPalette& palette);
 
 } // namespace zarvil::qt::theme

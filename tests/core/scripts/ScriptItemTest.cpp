@@ -214,8 +214,9 @@ TEST_F(ScriptItem, aRunBlocksThePaneAndWhatCameMeanwhileFollowsInOrder) {
     scriptRunner.lasting = true;
     item(0)->execute();
     pane.performAction("viewLog:", nullptr);
-    item(1)->remove();
-    item(1)->execute();
+    const auto second = item(1);
+    second->remove();
+    second->execute();
     agentSends(Message(message::testFinished));
     pane.testing = true;
     time.advance(100);
@@ -225,7 +226,11 @@ TEST_F(ScriptItem, aRunBlocksThePaneAndWhatCameMeanwhileFollowsInOrder) {
     EXPECT_THAT(scriptRunner.ran, ElementsAre("echo a", "echo b"));
     EXPECT_EQ(count(), 1U);
     EXPECT_TRUE(pane.testing) << "the second script holds back what came after it";
+    EXPECT_FALSE(item(0)->runningProperty().get());
+    EXPECT_TRUE(second->runningProperty().get());
     scriptRunner.end(ScriptError{3, "b failed"});
+    EXPECT_FALSE(second->runningProperty().get());
+    EXPECT_EQ(second->failureProperty().get(), "b failed");
     EXPECT_FALSE(pane.testing);
     EXPECT_THAT(takeSentNames(), ElementsAre("ZVViewLog", "ZVPing"));
     EXPECT_THAT(errors.presented, ElementsAre(Error{"NSCocoaErrorDomain", 3, "b failed"}));

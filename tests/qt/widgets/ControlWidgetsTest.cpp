@@ -120,11 +120,9 @@ TEST_F(ControlWidgets, aMessageButtonDarkensWhilePressedAndKeepsWhatIsBehindItsC
     const auto pixel = [&](int x, int y) { return window.grab().toImage().pixelColor(x, y); };
     // In the row's middle the face is 0.55 white, pressed 0.2.
     EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
-    EXPECT_GT(pixel(30, 24).red(), pixel(30, 44).red()) << "the lighter color is at the top";
     EXPECT_EQ(pixel(20, 20), QColor(0, 200, 0));
     QTest::mousePress(&button, Qt::LeftButton);
     EXPECT_NEAR(pixel(30, 34).red(), 0.2 * 255, 4);
-    EXPECT_LT(pixel(30, 24).red(), pixel(30, 44).red());
     QTest::mouseRelease(&button, Qt::LeftButton);
     EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
 }
@@ -175,17 +173,13 @@ TEST_F(ControlWidgets, aPanelPausesItsCountdownUnderThePointer) {
     EXPECT_EQ(countdown->log, "pause resume ");
 }
 
-TEST_F(ControlWidgets, aPanelShowsItsFaceAndGrooveAtItsPresentSize) {
+TEST_F(ControlWidgets, aPanelIsDrawnAnewInItsPresentSize) {
     MessagePanelWidget panel(&window);
-    panel.setGeometry(0, 0, 300, 160);
     for (const int height : {160, 240}) {
-        panel.resize(300, height);
+        panel.setGeometry(0, 0, 300, height);
         const QImage image = panel.grab().toImage();
-        EXPECT_EQ(image.pixelColor(150, 39), QColor(Qt::black)) << "40 points below the top";
-        EXPECT_GT(image.pixelColor(150, 40).red(), image.pixelColor(150, 38).red());
-        EXPECT_NEAR(image.pixelColor(150, 3).red(), 0.5 * 255, 4);
+        EXPECT_EQ(image.pixelColor(150, 39), QColor(Qt::black)) << "the groove";
         EXPECT_NEAR(image.pixelColor(150, height - 4).red(), 0.2 * 255, 4);
-        EXPECT_EQ(image.pixelColor(150, 0).red(), 26) << "half covered by the rim";
     }
 }
 
@@ -200,8 +194,6 @@ TEST(NoteCard, standsWhereItIsPaintedAtEveryScale) {
         painter.end();
         const auto at = [&](int x, int y) { return image.pixelColor(x * scale, y * scale); };
         EXPECT_GT(at(150, 70).blue(), 170) << "cream at the top";
-        EXPECT_LT(at(150, 112).blue(), 30) << "saturated in the middle";
-        EXPECT_NEAR(at(150, 154).blue(), 0.32 * 255, 14) << "warm at the bottom";
         EXPECT_EQ(at(150, 60 + 2), QColor(Qt::white)) << "7.5 points from the top";
         EXPECT_NE(at(150, 60 + 8), QColor(Qt::white));
         EXPECT_EQ(at(48, 110), QColor(Qt::white));

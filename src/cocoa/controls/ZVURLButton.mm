@@ -1,0 +1,44 @@
+#import "cocoa/controls/ZVURLButton.h"
+
+#import "cocoa/controls/PointerArea.h"
+
+#include "interface/TrackingArea.h"
+
+using zarvil::cocoa::PointerArea;
+
+namespace {
+constexpr unsigned options =
+    zarvil::trackingOption::mouseEnteredAndExited | zarvil::trackingOption::activeInKeyWindow;
+}
+
+@implementation ZVURLButton
+
+- (instancetype)initWithCoder:(NSCoder*)coder {
+    if ((self = [super initWithCoder:coder]))
+        [self setupTracking];
+    return self;
+}
+
+- (void)setupTracking {
+    _area = std::make_unique<PointerArea>(self, [self bounds], options, nil);
+}
+
+- (void)viewDidMoveToWindow {
+    [super viewDidMoveToWindow];
+    if (_area)
+        _area->viewDidMove();
+}
+
+- (void)mouseEntered:(NSEvent*)event {
+    if (PointerArea::isActive(self, options))
+        [[NSCursor pointingHandCursor] set];
+    [super mouseEntered:event];
+}
+
+- (void)mouseExited:(NSEvent*)event {
+    if (PointerArea::isActive(self, options))
+        [[NSCursor arrowCursor] set];
+    [super mouseExited:event];
+}
+
+@end

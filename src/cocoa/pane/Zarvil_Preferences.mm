@@ -1,0 +1,113 @@
+#import "cocoa/pane/Zarvil_Preferences.h"
+
+#import "cocoa/adapters/CocoaPlatform.h"
+#import "cocoa/binding/AlertPanel.h"
+#import "cocoa/binding/OutletBinder.h"
+#import "cocoa/support/Convert.h"
+
+#include "pane/Zarvil_Preferences.h"
+
+#include <cstdlib>
+
+namespace zarvil::cocoa {
+
+namespace {
+
+/// Where a trial keeps the product instead of at the file system's root.
+std::string trialRoot() {
+    const char* root = std::getenv("ZARVIL_ROOT");
+    return root ? root : "";
+}
+
+} // namespace
+
+/// In the order of construction: what is below uses what is above.
+struct LoadedPane {
+    explicit LoadedPane(NSObject* owner) : platform(trialRoot()), controller(platform.platform()) {
+        for (const std::string& fault :
+             bindOutlets(controller, owner, platform, controls, bindings))
+            NSLog(@"Zarvil: layout: %@", toCocoa(fault));
+        bindings.push_back(presentAlerts(platform.alerts()));
+    }
+
+    CocoaPlatform platform;
+    zarvil::Zarvil_Preferences controller;
+    OperatedControls controls;
+    Subscriptions bindings;
+};
+
+} // namespace zarvil::cocoa
+
+@implementation Zarvil_Preferences
+
+#define ZV_ACCESSORS(Class, name) @synthesize name;
+ZV_OUTLETS(ZV_ACCESSORS)
+
+- (void)dealloc {
+    _loaded.reset();
+#define ZV_RELEASE(Class, name) [name release];
+    ZV_OUTLETS(ZV_RELEASE)
+    [super dealloc];
+}
+
+// Life within the host.
+
+- (void)mainViewDidLoad {
+    if (_loaded || ![self mainView])
+        return;
+    _loaded = std::make_unique<zarvil::cocoa::LoadedPane>(self);
+    _loaded->controller.mainViewDidLoad();
+}
+
+- (void)willSelect {
+    if (_loaded)
+        _loaded->controller.willSelect();
+}
+
+- (NSPreferencePaneUnselectReply)shouldUnselect {
+    return _loaded
+               ? static_cast<NSPreferencePaneUnselectReply>(_loaded->controller.shouldUnselect())
+               : NSUnselectNow;
+}
+
+- (void)willUnselect {
+    if (_loaded)
+        _loaded->controller.willUnselect();
+}
+
+- (void)didUnselect {
+    if (_loaded)
+        _loaded->controller.didUnselect();
+}
+
+- (BOOL)isUnlocked {
+    return _loaded && _loaded->controller.isUnlocked();
+}
+
+- (void)setInterfaceEnabled:(BOOL)enabled {
+    if (_loaded)
+        _loaded->controller.setInterfaceEnabled(enabled);
+}
+
+// Actions. An outlet's goes through its model; another control's straight to the controller.
+
+- (void)perform:(SEL)action sender:(id)sender {
+    if (!_loaded)
+        return;
+    const auto found = _loaded->controls.find(sender);
+    if (found == _loaded->controls.end()) {
+        _loaded->controller.performAction(zarvil::cocoa::fromCocoa(NSStringFromSelector(action)),
+                                          nullptr);
+        return;
+    }
+    const auto operated = found->second;
+    operated();
+}
+
+#define ZV_ACTION(name)                                                                            \
+    -(IBAction)name : (id)sender {                                                                 \
+        [self perform:_cmd sender:sender];                                                         \
+    }
+ZV_ACTIONS(ZV_ACTION)
+
+@end
