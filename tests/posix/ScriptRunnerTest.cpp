@@ -82,13 +82,13 @@ TEST_F(ScriptRunnerTest, aFailureCarriesTheStatusAndTheLastLineOfTheErrorOutput)
     };
     const Case cases[] = {
         {"exit 3", {3, "The script failed with exit status 3 and gave no reason."}},
-        {"echo first >&2; echo last >&2; exit 4", {4, "last"}},
-        {"printf 'last\\n \\n\\n\\t\\n' >&2; exit 1", {1, "last"}},
-        {"printf ' \\033[31mred\\r\\n' >&2; exit 1", {1, "\u241B[31mred"}},
-        {"printf 'a\\377b' >&2; exit 1", {1, "a\uFFFDb"}},
+        {"echo first >&2; echo last >&2; exit 4", {4, "last", true}},
+        {"printf 'last\\n \\n\\n\\t\\n' >&2; exit 1", {1, "last", true}},
+        {"printf ' \\033[31mred\\r\\n' >&2; exit 1", {1, "\u241B[31mred", true}},
+        {"printf 'a\\377b' >&2; exit 1", {1, "a\uFFFDb", true}},
         {"printf 'last\\n' >&2; head -c 300000 /dev/zero | tr '\\0' '\\n' >&2; exit 1",
-         {1, "last"}},
-        {"head -c 300000 /dev/zero | tr '\\0' x >&2; exit 1", {1, std::string(1024, 'x')}},
+         {1, "last", true}},
+        {"head -c 300000 /dev/zero | tr '\\0' x >&2; exit 1", {1, std::string(1024, 'x'), true}},
     };
     for (const auto& [source, error] : cases)
         EXPECT_EQ(run(source), error) << source;
@@ -167,13 +167,13 @@ TEST_F(ScriptRunnerTest, endlessErrorOutputNeitherHangsNorFillsTheMemory) {
     // A background job goes on writing after the script's own end.
     EXPECT_FALSE(run("yes 'noise' >&2 & exit 0"));
     EXPECT_EQ(run("head -c 200000000 /dev/zero >&2; echo >&2; echo last >&2; exit 7"),
-              (ScriptError{7, "last"}));
+              (ScriptError{7, "last", true}));
 }
 
 TEST_F(ScriptRunnerTest, aBackgroundJobThatHoldsTheErrorOutputIsNotWaitedFor) {
     const std::string pidFile = result();
     EXPECT_EQ(run("sleep 1000 & echo $! > " + pidFile + "; echo last >&2; exit 2"),
-              (ScriptError{2, "last"}));
+              (ScriptError{2, "last", true}));
     const pid_t job = std::stoi(get(pidFile));
     EXPECT_EQ(::kill(job, 0), 0) << "it goes on living";
     PosixProcessControl().kill(job);

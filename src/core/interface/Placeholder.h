@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interface/View.h"
+#include "interface/Symbol.h"
 
 #include <string>
 
@@ -11,6 +11,7 @@ namespace zarvil {
 class Placeholder : public View {
 public:
     struct Text {
+        Symbol symbol = Symbol::None;
         std::string title;
         std::string words; ///< below the title, muted
         friend bool operator==(const Text&, const Text&) = default;

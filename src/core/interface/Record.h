@@ -12,10 +12,31 @@ namespace zarvil {
 /// was edited. Has identity; copying its contents makes an independent record.
 class MutableRecord : NonCopyable {
 public:
-    explicit MutableRecord(Dictionary contents) : contents_(std::move(contents)) {}
+    using Fetch = std::function<Value()>;
 
-    [[nodiscard]] const Dictionary& contents() const { return contents_; }
+    explicit MutableRecord(Dictionary contents) : contents_(std::move(contents)) {}
+    /// One more entry is fetched when it is first asked for; nobody can tell it from the others.
+    MutableRecord(Dictionary contents, std::string lateKey, Fetch fetch)
+        : contents_(std::move(contents)), lateKey_(std::move(lateKey)), fetch_(std::move(fetch)) {}
+
+    /// Complete.
+    [[nodiscard]] const Dictionary& contents() const {
+        fetchLateEntry();
+        return contents_;
+    }
+    /// One entry of the contents, without a need for the others; null unless it is a string.
+    [[nodiscard]] const std::string* stringForKey(std::string_view key) const {
+        if (key == lateKey_)
+            fetchLateEntry();
+        return contents_.stringForKey(key);
+    }
+    void fetchLateEntry() const {
+        if (const auto fetch = std::exchange(fetch_, nullptr))
+            contents_.setObject(lateKey_, fetch());
+    }
     void setObject(std::string_view key, Value value) {
+        if (key == lateKey_)
+            fetch_ = nullptr;
         contents_.setObject(key, std::move(value));
         edited_.notify();
     }
@@ -25,7 +46,10 @@ public:
     }
 
 private:
-    Dictionary contents_;
+    /// Fetching changes nothing that a reader of the record can see.
+    mutable Dictionary contents_;
+    std::string lateKey_;
+    mutable Fetch fetch_;
     ObserverList<> edited_;
 };
 

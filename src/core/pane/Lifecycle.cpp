@@ -13,7 +13,10 @@ constexpr double pingPeriod = 3.0; // seconds
 } // namespace
 
 Zarvil_Preferences::Zarvil_Preferences(Platform& platform)
-    : Outlets(platform), guidance(*this, platform.strings), platform_(platform) {
+    : Outlets(platform),
+      guidance(*this, platform.strings),
+      platform_(platform),
+      scriptTexts_(platform.timers, platform.files) {
     connectedDevices.setDelegate(this);
     selectedDevices.setDelegate(this);
     visitOutlets(*this, [this](std::string_view /*name*/, View& outlet) {

@@ -5,13 +5,13 @@ namespace zarvil {
 ListPlaceholders::ListPlaceholders(Lists lists, const StringTable& strings)
     : lists_(lists), strings_(strings) {
     noneConnected.setText(
-        text("No device connected",
+        text(Symbol::Plug, "No device connected",
              "Connect a power supply with a data cable. It appears here by itself."));
     noneWatched.setText(
-        text("No device watched",
+        text(Symbol::Eye, "No device watched",
              "Tick a connected device. Until then a power failure goes unnoticed."));
-    devicesUnknown.setText(
-        text("No devices to show", "Your devices are listed here while Zarvil runs."));
+    devicesUnknown.setText(text(Symbol::Plug, "No devices to show",
+                                "Your devices are listed here while Zarvil runs."));
     const auto follow = [this](const auto& property, void (ListPlaceholders::*show)()) {
         changes_.push_back(
             property.observe([this, show](const auto&, Transition) { (this->*show)(); }));
@@ -41,17 +41,20 @@ void ListPlaceholders::showScripts() {
         noScripts.setText(scriptsText());
 }
 
-Placeholder::Text ListPlaceholders::text(std::string_view title, std::string_view words) const {
-    return {strings_.localizedString(title), strings_.localizedString(words)};
+Placeholder::Text ListPlaceholders::text(Symbol symbol, std::string_view title,
+                                         std::string_view words) const {
+    return {symbol, strings_.localizedString(title), strings_.localizedString(words)};
 }
 
 Placeholder::Text ListPlaceholders::scriptsText() const {
     // The switch is greyed exactly while the agent is absent.
     if (!lists_.useScripts.isEnabled())
-        return text("No scripts to show", "Your scripts are listed here while Zarvil runs.");
+        return text(Symbol::Script, "No scripts to show",
+                    "Your scripts are listed here while Zarvil runs.");
     if (lists_.useScripts.state() == buttonState::off)
-        return text("Scripts are off", "They are kept. Switch them on to see them.");
-    return text("No scripts yet", "Type a title above to create the first one.");
+        return text(Symbol::Script, "Scripts are off",
+                    "They are kept. Switch them on to see them.");
+    return text(Symbol::Script, "No scripts yet", "Type a title above to create the first one.");
 }
 
 } // namespace zarvil

@@ -33,7 +33,8 @@ public:
 private:
     void showDevices();
     void showScripts();
-    [[nodiscard]] Placeholder::Text text(std::string_view title, std::string_view words) const;
+    [[nodiscard]] Placeholder::Text text(Symbol symbol, std::string_view title,
+                                         std::string_view words) const;
     [[nodiscard]] Placeholder::Text scriptsText() const;
 
     Lists lists_;

@@ -6,6 +6,7 @@
 #include "pane/Guidance.h"
 #include "pane/Outlets.h"
 #include "pane/Platform.h"
+#include "scripts/ScriptTexts.h"
 #include "scripts/ZVScriptCollectionItem.h"
 
 #include <memory>
@@ -100,6 +101,7 @@ public:
     void unloadScripts();
     void create(Control* sender);
     void removeScript(const Record& record) override;
+    void scriptFilesWillChange() override { scriptTexts_.readAll(); }
     [[nodiscard]] bool admitsRemoval() override;
     void useScripts(Control* sender);
     void scriptsTitleChanged(TextField& field);
@@ -203,6 +205,7 @@ private:
 
     Platform& platform_;
     DeviceList allConnectedDevices_;
+    ScriptTexts scriptTexts_;
     NotificationCenter textChanges_;
     Panel* ttip = nullptr;
     std::unique_ptr<Timer> appTimer;

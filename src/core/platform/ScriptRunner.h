@@ -15,6 +15,8 @@ namespace zarvil {
 struct ScriptError {
     std::int64_t number = 0;
     std::string message;
+    /// The message is what the script said last before it exited with `number`.
+    bool inItsOwnWords = false;
     friend bool operator==(const ScriptError&, const ScriptError&) = default;
 };
 

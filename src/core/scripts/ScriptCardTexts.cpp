@@ -36,13 +36,21 @@ std::string ZVScriptCollectionItem::localized(std::string_view key) const {
     return platform_.strings.localizedString(key);
 }
 
+std::string ZVScriptCollectionItem::failureText(const ScriptError& error) const {
+    const std::string message = showableText(error.message, longestShownLine);
+    if (!error.inItsOwnWords)
+        return message;
+    return platform_.strings.localizedString("Failed with exit status %1: %2",
+                                             {std::to_string(error.number), message});
+}
+
 std::string ZVScriptCollectionItem::aboutThis(std::string_view key) const {
     return platform_.strings.localizedString(key, {shownTitle()});
 }
 
 std::string_view ZVScriptCollectionItem::stringOfRow(std::string_view key) const {
     const Record& record = representedObject();
-    const std::string* value = record ? record->contents().stringForKey(key) : nullptr;
+    const std::string* value = record ? record->stringForKey(key) : nullptr;
     return value ? std::string_view(*value) : std::string_view();
 }
 

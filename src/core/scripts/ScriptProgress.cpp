@@ -1,7 +1,5 @@
 #include "scripts/ScriptProgress.h"
 
-#include "interface/DisplayText.h"
-
 #include <utility>
 
 namespace zarvil {
@@ -20,16 +18,15 @@ std::string withTitle(std::string text, std::string_view title) {
 } // namespace
 
 void ScriptProgress::run(std::string_view title, std::string_view source, Ended ended) {
-    hold_ = platform_.handlers.hold();
     ended_ = std::move(ended);
-    text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."),
-                        showableText(title, longestShownLine)));
+    hold_ = platform_.handlers.hold();
+    text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."), title));
     stopping_.set(false);
     running_.set(true);
     // Not by way of the handlers, which are held.
     windowTimer_ = platform_.timers.schedule(windowDelay, Repetition::Once,
                                              [this] { windowShown_.set(true); });
-    auto run = platform_.scripts.start(source, [this](const auto& error) { finish(error); });
+    auto run = platform_.scripts.start(source, [this](const auto& error) { runEnded(error); });
     if (running_.get())
         run_ = std::move(run);
 }
@@ -43,17 +40,17 @@ void ScriptProgress::stop() {
     run_->stop();
 }
 
-void ScriptProgress::finish(const std::optional<ScriptError>& error) {
+void ScriptProgress::runEnded(const std::optional<ScriptError>& error) {
     windowTimer_.reset();
     run_.reset();
     windowShown_.set(false);
     running_.set(false);
-    std::string reason; // none for a script that the user stopped
-    if (error && !stopping_.get()) {
-        reason = error->message;
-        platform_.errors.presentError({std::string(cocoaErrorDomain), error->number, reason});
-    }
-    std::exchange(ended_, nullptr)(reason);
+    const bool failed = error && !stopping_.get();
+    if (const auto tell = std::exchange(ended_, nullptr))
+        tell(failed ? &*error : nullptr);
+    if (failed)
+        platform_.errors.presentError(
+            {std::string(cocoaErrorDomain), error->number, error->message});
     // Last: what was held follows in here.
     std::exchange(hold_, {}).cancel();
 }

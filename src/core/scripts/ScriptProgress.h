@@ -2,7 +2,6 @@
 
 #include "interface/Property.h"
 #include "pane/Platform.h"
-#include "protocol/NonCopyable.h"
 
 #include <functional>
 #include <memory>
@@ -14,15 +13,17 @@ namespace zarvil {
 
 /// The script that the user runs, one at a time, and what is shown of it. While it runs the pane
 /// is blocked: no handler begins, and a front end takes no input but that of the window below.
-class ScriptProgress : NonCopyable {
+class ScriptProgress {
 public:
     /// The ports must outlive this.
     explicit ScriptProgress(Platform& platform) : platform_(platform) {}
+    ScriptProgress(const ScriptProgress&) = delete;
+    ScriptProgress& operator=(const ScriptProgress&) = delete;
 
-    /// Told why the script has failed; nothing if it has not, or was stopped.
-    using Ended = std::function<void(const std::string& reason)>;
+    /// Told of the end; null for a good one or a script that was stopped.
+    using Ended = std::function<void(const ScriptError*)>;
 
-    /// To be called within a handler. A failure is presented as well.
+    /// To be called within a handler. A failure is presented; one of a stopped script is not.
     void run(std::string_view title, std::string_view source, Ended ended);
 
     // State.
@@ -39,13 +40,13 @@ public:
     void stop();
 
 private:
-    void finish(const std::optional<ScriptError>& error);
+    void runEnded(const std::optional<ScriptError>& error);
 
     Platform& platform_;
     Subscription hold_;
-    Ended ended_;
     std::unique_ptr<Timer> windowTimer_;
     std::unique_ptr<ScriptRun> run_;
+    Ended ended_;
     Property<bool> running_{false};
     Property<bool> windowShown_{false};
     Property<bool> stopping_{false};

@@ -15,5 +15,7 @@ namespace zarvil {
 
 /// The first script of exactly this title, in a list that is hashed by `scriptHash`, or null.
 [[nodiscard]] Record scriptOfTitle(const ArrayController& scripts, std::string_view title);
+/// The same, but null where several have the title.
+[[nodiscard]] Record onlyScriptOfTitle(const ArrayController& scripts, std::string_view title);
 
 } // namespace zarvil

@@ -40,9 +40,8 @@ void Zarvil_Preferences::loadScripts() {
     }
     // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
     for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
-        const auto text = platform_.files.readText(folder + "/" + name);
         const Record record =
-            makeScript(script::titleOfFile(name), script::withoutByteOrderMark(text.value_or("")));
+            scriptTexts_.makeScript(script::titleOfFile(name), folder + "/" + name);
         scriptsArrayController.addObject(record);
         handToItem(record);
     }
@@ -73,18 +72,10 @@ std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const Sc
     auto index = scriptsArrayController.indexOfObject(makeRecord(draft.saved));
     if (!index) {
         const std::string* title = draft.saved.stringForKey(script::title);
-        const auto records = scriptsArrayController.arrangedObjects();
-        std::vector<std::size_t> ofTitle;
-        for (std::size_t listed = 0; title && listed < records.size(); ++listed) {
-            const std::string* other = records[listed]->contents().stringForKey(script::title);
-            if (other && *other == *title)
-                ofTitle.push_back(listed);
-        }
-        if (ofTitle.size() != 1)
-            return nullptr;
-        index = ofTitle.front();
+        const Record only = title ? onlyScriptOfTitle(scriptsArrayController, *title) : nullptr;
+        index = only ? scriptsArrayController.indexOfObject(only) : std::nullopt;
     }
-    return scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index);
+    return index ? scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index) : nullptr;
 }
 
 void Zarvil_Preferences::unloadScripts() {
@@ -101,6 +92,7 @@ void Zarvil_Preferences::create(Control* /*sender*/) {
         return;
     }
     const std::string path = script::filePath(platform_.files, title);
+    scriptFilesWillChange();
     if (const auto error = platform_.files.writeText("", path, Atomicity::Direct)) {
         platform_.errors.presentError(*error);
         return;

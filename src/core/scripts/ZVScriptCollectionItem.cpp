@@ -37,7 +37,7 @@ void ScriptItemView::removeSubview(const ScriptEditField* field) {
 }
 
 const std::string* ZVScriptCollectionItem::stringOfRecord(std::string_view key) const {
-    return data_ ? data_->contents().stringForKey(key) : nullptr;
+    return data_ ? data_->stringForKey(key) : nullptr;
 }
 
 void ZVScriptCollectionItem::runAsHandler(void (ZVScriptCollectionItem::*operation)()) {
@@ -78,7 +78,13 @@ void ZVScriptCollectionItem::beginEditing() {
     view_.addSubviews({text, title});
 }
 
+void ZVScriptCollectionItem::filesWillChange() const {
+    if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))
+        owner->scriptFilesWillChange();
+}
+
 void ZVScriptCollectionItem::save() {
+    filesWillChange();
     Dictionary before = data_ ? data_->contents() : Dictionary();
     const std::string* file = titleOfFile();
     const std::optional<std::string> former = file ? std::optional(*file) : std::nullopt;
@@ -134,7 +140,7 @@ std::optional<ScriptDraft> ZVScriptCollectionItem::draft() const {
 void ZVScriptCollectionItem::resume(const ScriptDraft& draft) {
     if (!data_ || editing())
         return;
-    toggleEditing();
+    toggleEditing(); // within the handler that lists the scripts
     const auto fill = [&draft](ScriptEditField& field, std::string_view key,
                                const std::string& typed) {
         // What was left alone shows the file as it is by now.
@@ -175,16 +181,18 @@ void ZVScriptCollectionItem::executeNow() {
     const std::string* title = stringOfRecord(script::title);
     setFailure({});
     setRunning(true);
-    progress_.run(isEmpty(title) ? untitled : *title, *stored,
-                  [weak = weak_from_this()](const std::string& reason) {
-                      if (const auto item = weak.lock()) {
-                          item->setRunning(false);
-                          item->setFailure(showableText(reason, longestShownLine));
-                      }
+    progress_.run(showableText(isEmpty(title) ? untitled : *title, longestShownLine), *stored,
+                  [weak = weak_from_this()](const ScriptError* error) {
+                      const auto item = weak.lock();
+                      if (!item)
+                          return;
+                      item->setRunning(false);
+                      item->setFailure(error ? item->failureText(*error) : std::string());
                   });
 }
 
 void ZVScriptCollectionItem::removeNow() {
+    filesWillChange();
     removeFile();
     const Record record = data_;
     if (auto* owner = dynamic_cast<ScriptOwner*>(owner_))

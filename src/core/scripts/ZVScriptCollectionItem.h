@@ -20,6 +20,8 @@ public:
     virtual ~ScriptOwner() = default;
 
     virtual void removeScript(const Record& record) = 0;
+    /// Asked before an item writes or deletes: texts that are still to be read are read first.
+    virtual void scriptFilesWillChange() = 0;
     /// Whether a press on a remove button counts: the next card moves under the pointer, and a
     /// double click must not remove that one too.
     [[nodiscard]] virtual bool admitsRemoval() = 0;
@@ -170,6 +172,7 @@ private:
     void toggleEditing();
     void executeNow();
     void removeNow();
+    void filesWillChange() const;
     void beginEditing();
     void save();
     /// The file's title; null for a script without a file.
@@ -178,6 +181,7 @@ private:
     /// `before` is the record as the file had it.
     void noteFailure(const std::optional<Error>& failure, Dictionary before);
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
+    [[nodiscard]] std::string failureText(const ScriptError& error) const;
     [[nodiscard]] std::string localized(std::string_view key) const;
     [[nodiscard]] std::string aboutThis(std::string_view key) const;
     /// Of the record of this row, which an item without `data` shows as well.

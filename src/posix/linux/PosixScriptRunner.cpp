@@ -106,7 +106,7 @@ std::optional<ScriptError> errorOf(const ProcessOutcome& outcome, const std::str
     if (outcome.number == 0)
         return std::nullopt;
     if (!outcome.lastErrorLine.empty())
-        return ScriptError{outcome.number, outcome.lastErrorLine};
+        return ScriptError{outcome.number, outcome.lastErrorLine, true};
     return ScriptError{outcome.number, "The script failed with exit status " +
                                            std::to_string(outcome.number) + " and gave no reason."};
 }

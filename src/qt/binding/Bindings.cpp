@@ -128,10 +128,10 @@ void bindField(TextField& model, QLineEdit& widget, Subscriptions& kept) {
 
 void bindPlaceholder(Placeholder& model, PlaceholderWidget& widget, Subscriptions& kept) {
     bindView(model, widget, kept);
-    kept.push_back(
-        model.textProperty().observe([&widget](const Placeholder::Text& text, Transition) {
-            widget.setText(QString::fromUtf8(text.title), QString::fromUtf8(text.words));
-        }));
+    kept.push_back(model.textProperty().observe([&widget](const Placeholder::Text& text,
+                                                          Transition) {
+        widget.setText(text.symbol, QString::fromUtf8(text.title), QString::fromUtf8(text.words));
+    }));
 }
 
 void bindIndicator(ProgressIndicator& model, Spinner& widget, Subscriptions& kept) {

@@ -24,6 +24,9 @@ DeviceListView::DeviceListView(QWidget* parent)
     // Before the model comes, for that makes the toolkit ask for an interface.
     QAccessible::registerAccessibleInterface(accessible_);
     setItemDelegate(new DeviceItemDelegate(this));
+    setFrameShape(QFrame::NoFrame);
+    // The cards stand on the window's ground.
+    viewport()->setAutoFillBackground(false);
     setUniformItemSizes(true);
     setResizeMode(QListView::Adjust);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

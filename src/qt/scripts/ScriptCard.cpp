@@ -1,6 +1,8 @@
 #include "qt/scripts/ScriptCard.h"
 
 #include "qt/text/ToolTip.h"
+#include "qt/widgets/SymbolWidget.h"
+#include "qt/widgets/Theme.h"
 
 #include <QEvent>
 #include <QFontDatabase>
@@ -15,20 +17,20 @@ namespace zarvil::qt {
 
 namespace {
 
-// The item's view has the title on top, the text at the bottom and a band between them. What is
-// read stands where it is edited.
-constexpr Rect titleFrame{15, 108, 490, 26};
-constexpr Rect textFrame{20, 10, 558, 70};
-constexpr Rect buttonBand{0, 82, 578, 24};
-constexpr int titleFontSize = 15;
-constexpr int textFontSize = 13;
+// In logical pixels. The fields stand at their frames from the card's lower left corner.
+constexpr int sidePadding = 14;
+constexpr int fieldPadding = 12; // at the right, where a card is too narrow for the frames
+constexpr int topPadding = 9;
+constexpr int bottomPadding = 12;
 constexpr int buttonGap = 6;
-constexpr double cornerRadius = 6;
+constexpr int lineGap = 4;
+constexpr int stateIcon = 16;
+constexpr Rect captionFrame{15, 82, 490, 24};
 
-QRect inCard(const Rect& frame) {
-    return flipped(frame, ScriptItemView::minimumSize)
-        .translated(ScriptCard::padding, ScriptCard::padding);
-}
+constexpr double titleScale = 1.1;
+constexpr double textScale = 0.95;
+constexpr double mutedScale = 0.92;
+constexpr int fewestTitleCharacters = 16;
 
 void showCaption(QPushButton& button, const ButtonCaption& caption) {
     button.setText(QString::fromUtf8(caption.title));
@@ -36,30 +38,45 @@ void showCaption(QPushButton& button, const ButtonCaption& caption) {
     button.setAccessibleName(QString::fromUtf8(caption.accessibleName));
 }
 
+QLabel* makeLabel(QWidget* card) {
+    auto* label = new QLabel(card);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+void setInk(QLabel& label, const QColor& ink) {
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, ink);
+    label.setPalette(palette);
+}
+
+QFont textFontOf(const QWidget& widget) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(widget.font().pointSizeF() > 0 ? widget.font().pointSizeF()
+                                                      : font.pointSizeF());
+    return theme::scaled(font, textScale);
+}
+
 } // namespace
 
-QSize ScriptCard::minimumCardSize() {
-    return {qRound(ScriptItemView::minimumSize.width) + 2 * padding,
-            qRound(ScriptItemView::minimumSize.height) + 2 * padding};
+int ScriptCard::typicalHeight(const QWidget& list) {
+    const int lines = 2 * QFontMetrics(textFontOf(list)).lineSpacing();
+    const int header = list.fontMetrics().height() + theme::unit(list) + lineGap;
+    return topPadding + header + lineGap + lines + bottomPadding;
 }
 
 ScriptCard::ScriptCard(QWidget* parent)
     : QWidget(parent),
-      title_(new QLabel(this)),
-      text_(new QLabel(this)),
-      note_(new QLabel(this)),
-      edit_(addButton(&ZVScriptCollectionItem::userDidPressEdit)),
+      title_(makeLabel(this)),
+      hint_(makeLabel(this)),
+      text_(makeLabel(this)),
+      textCaption_(makeLabel(this)),
+      state_(makeLabel(this)),
       run_(addButton(&ZVScriptCollectionItem::userDidPressRun)),
+      edit_(addButton(&ZVScriptCollectionItem::userDidPressEdit)),
       remove_(addButton(&ZVScriptCollectionItem::userDidPressRemove)) {
-    setMinimumSize(minimumCardSize());
-    // Not that of the sheet and of the edit fields, which stand out against it.
-    setBackgroundRole(QPalette::Window);
-    for (QLabel* label : {title_, text_, note_})
-        label->setTextFormat(Qt::PlainText);
     text_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    title_->setGeometry(inCard(titleFrame));
-    text_->setGeometry(inCard(textFrame));
-    updateFonts();
+    updateLook();
 }
 
 QPushButton* ScriptCard::addButton(void (ZVScriptCollectionItem::*press)()) {
@@ -78,53 +95,63 @@ void ScriptCard::bind(std::shared_ptr<ZVScriptCollectionItem> item) {
     item_ = std::move(item);
     const Size size = ScriptItemView::minimumSize;
     item_->view().setFrame({0, 0, size.width, size.height});
+    observe();
+    showItem();
+}
+
+void ScriptCard::observe() {
     if (const Record& record = item_->representedObject())
-        recordEdits_ = record->observeEdits([this] { showRecord(); });
-    showRecord();
-    fieldChanges_ = item_->view().subviewsProperty().observe(
-        [this](const ScriptItemView::Subviews& fields, Transition) { showFields(fields); });
-    noteChanges_ = item_->noteProperty().observe(
-        [this](const ScriptNote& note, Transition) { showNote(note); });
+        changes_.push_back(record->observeEdits([this] { showItem(); }));
+    changes_.push_back(item_->runningProperty().observe([this](bool, Transition) { showState(); }));
+    changes_.push_back(
+        item_->failureProperty().observe([this](const auto&, Transition) { showState(); }));
+    changes_.push_back(
+        item_->noteProperty().observe([this](const auto&, Transition) { showState(); }));
+    changes_.push_back(item_->view().subviewsProperty().observe(
+        [this](const ScriptItemView::Subviews& fields, Transition) { showFields(fields); }));
 }
 
 void ScriptCard::unbind() {
-    recordEdits_.cancel();
-    fieldChanges_.cancel();
-    noteChanges_.cancel();
+    changes_.clear();
     editors_.clear();
     item_.reset();
 }
 
-void ScriptCard::showRecord() {
+void ScriptCard::showItem() {
     if (!item_)
         return;
-    showTitle();
-    showText();
     setAccessibleName(QString::fromUtf8(item_->cardName()));
-    showCaption(*run_, item_->runCaption());
+    title_->setAccessibleName(QString::fromUtf8(item_->shownTitle()));
+    hint_->setText(QString::fromUtf8(item_->editingHint()));
+    textCaption_->setText(QString::fromUtf8(item_->textFieldName()));
     showCaption(*remove_, item_->removeCaption());
-    showEditing(!editors_.empty());
-}
-
-void ScriptCard::showTitle() {
-    const QString title = QString::fromUtf8(item_->shownTitle());
-    title_->setText(title_->fontMetrics().elidedText(title, Qt::ElideRight, title_->width()));
-    title_->setToolTip(title_->text() == title ? QString() : plainToolTip(title));
-    title_->setAccessibleName(title);
-}
-
-void ScriptCard::showText() {
-    const QFontMetrics metrics = text_->fontMetrics();
     QStringList lines;
     for (const std::string& line : item_->shownLines())
-        lines += metrics.elidedText(QString::fromUtf8(line), Qt::ElideRight, text_->width());
-    text_->setForegroundRole(lines.isEmpty() ? QPalette::PlaceholderText : QPalette::WindowText);
-    text_->setText(lines.isEmpty() ? QString::fromUtf8(item_->emptyText()) : lines.join(u'\n'));
+        lines += QString::fromUtf8(line);
+    const bool empty = lines.isEmpty();
+    text_->setFont(empty ? theme::scaled(font(), mutedScale) : textFontOf(*this));
+    setInk(*text_, empty ? theme::mutedText(palette()) : palette().color(QPalette::WindowText));
+    text_->setText(empty ? QString::fromUtf8(item_->emptyText()) : lines.join(u'\n'));
+    showState();
+}
+
+void ScriptCard::showState() {
+    const ScriptNote& note = item_->noteProperty().get();
+    const std::string& failure = item_->failureProperty().get();
+    const QString reason = QString::fromUtf8(note.reason);
+    state_->setText(QString::fromUtf8(failure.empty() ? note.caption : failure));
+    state_->setToolTip(plainToolTip(failure.empty() ? reason : state_->text()));
+    state_->setAccessibleDescription(reason);
+    showCaption(*run_, item_->runCaption());
+    showCaption(*edit_, item_->editCaption());
+    run_->setEnabled(!item_->runningProperty().get());
+    layOut();
+    Q_EMIT heightChanged();
 }
 
 void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     const bool hadFocus = hasFocusWithin();
-    const bool wasEditing = !editors_.empty();
+    const bool wasEditing = isEditing();
     const bool fieldHadFocus = std::ranges::any_of(
         editors_, [](const auto& editor) { return editor->widget()->hasFocus(); });
     std::erase_if(editors_, [&fields](const auto& editor) {
@@ -136,33 +163,15 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
                 editors_, [&field](const auto& editor) { return editor->field() == field.get(); }))
             continue;
         editors_.push_back(std::make_unique<ScriptFieldEditor>(*item_, field, this));
-        QWidget* widget = editors_.back()->widget();
-        widget->setGeometry(inCard(field->frame()));
-        widget->show();
-        widget->raise();
+        editors_.back()->widget()->show();
+        editors_.back()->widget()->raise();
     }
-    const bool editing = !editors_.empty();
-    showEditing(editing);
+    showState();
     Q_EMIT focusChainChanged();
-    if (hadFocus && editing && !wasEditing)
+    if (hadFocus && isEditing() && !wasEditing)
         editors_.back()->widget()->setFocus(Qt::TabFocusReason); // selects the title
-    else if (fieldHadFocus && !editing)
+    else if (fieldHadFocus && !isEditing())
         edit_->setFocus(Qt::OtherFocusReason);
-}
-
-void ScriptCard::showEditing(bool editing) {
-    title_->setVisible(!editing);
-    text_->setVisible(!editing);
-    showCaption(*edit_, item_->editCaption());
-    placeButtons();
-}
-
-void ScriptCard::showNote(const ScriptNote& note) {
-    const QString reason = QString::fromUtf8(note.reason);
-    note_->setText(QString::fromUtf8(note.caption));
-    note_->setToolTip(plainToolTip(reason));
-    note_->setAccessibleDescription(reason);
-    note_->setVisible(!note.caption.empty());
 }
 
 bool ScriptCard::hasFocusWithin() const {
@@ -175,48 +184,119 @@ std::vector<QWidget*> ScriptCard::focusChain() const {
     // The last field lies on top and is the first to be filled in.
     for (auto editor = editors_.rbegin(); editor != editors_.rend(); ++editor)
         chain.push_back((*editor)->widget());
-    chain.insert(chain.end(), {edit_, run_, remove_});
+    chain.insert(chain.end(), {run_, edit_, remove_});
     return chain;
 }
 
-void ScriptCard::placeButtons() {
-    const QRect band = inCard(buttonBand);
-    int right = width() - padding;
-    for (QPushButton* button : {remove_, run_, edit_}) {
-        const int width = button->sizeHint().width();
-        button->setGeometry(right - width, band.top(), width, band.height());
-        right -= width + buttonGap;
-    }
-    const int left = inCard(titleFrame).left();
-    note_->setGeometry(left, band.top(), std::max(0, right - left), band.height());
+int ScriptCard::buttonsWidth() const {
+    int width = -buttonGap;
+    for (const QPushButton* button : buttons())
+        width += theme::buttonSize(*button).width() + buttonGap;
+    return width;
 }
 
-void ScriptCard::updateFonts() {
-    QFont titleFont = font();
-    titleFont.setPixelSize(titleFontSize);
-    titleFont.setWeight(QFont::DemiBold);
-    title_->setFont(titleFont);
-    QFont textFont = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    textFont.setPixelSize(textFontSize);
-    text_->setFont(textFont);
+int ScriptCard::buttonHeight() const { return theme::buttonSize(*run_).height(); }
+
+bool ScriptCard::buttonsStandBelow(int width) const {
+    const int room = width - 2 * sidePadding - buttonsWidth() - buttonGap;
+    return room < theme::charactersWide(*this, fewestTitleCharacters);
+}
+
+int ScriptCard::headerHeight(int width) const {
+    const int line = std::max(buttonHeight(), title_->sizeHint().height());
+    return buttonsStandBelow(width) ? title_->sizeHint().height() + lineGap + line : line;
+}
+
+int ScriptCard::heightForWidth(int width) const {
+    const int header = topPadding + headerHeight(width);
+    const int state = state_->text().isEmpty() ? 0 : lineGap + state_->sizeHint().height();
+    if (isEditing())
+        return header + lineGap + state + qRound(ScriptItemView::minimumSize.height);
+    return header + lineGap + text_->sizeHint().height() + state + bottomPadding;
+}
+
+void ScriptCard::layOut() {
+    const int inner = std::max(0, width() - 2 * sidePadding);
+    const bool below = buttonsStandBelow(width());
+    const int titleHeight = below ? title_->sizeHint().height() : headerHeight(width());
+    const int titleWidth = below ? inner : std::max(0, inner - buttonsWidth() - buttonGap);
+    title_->setGeometry(sidePadding, topPadding, titleWidth, titleHeight);
+    hint_->setGeometry(title_->geometry());
+    elideTitle();
+    const int bandTop = topPadding + headerHeight(width()) - buttonHeight();
+    int left = below ? sidePadding : sidePadding + titleWidth + buttonGap;
+    for (QPushButton* button : buttons()) {
+        const int width = theme::buttonSize(*button).width();
+        button->setGeometry(left, bandTop, width, buttonHeight());
+        left += width + buttonGap;
+    }
+    int top = topPadding + headerHeight(width()) + lineGap;
+    text_->setGeometry(sidePadding, top, inner, text_->sizeHint().height());
+    if (!isEditing())
+        top += text_->height() + lineGap;
+    state_->setGeometry(sidePadding + stateIcon + lineGap, top, inner - stateIcon - lineGap,
+                        state_->sizeHint().height());
+    title_->setVisible(!isEditing());
+    text_->setVisible(!isEditing());
+    hint_->setVisible(isEditing());
+    textCaption_->setVisible(isEditing());
+    state_->setVisible(!state_->text().isEmpty());
+    placeFields();
+    update();
+}
+
+/// A frame keeps its place from the lower left; only its right edge gives way.
+void ScriptCard::placeFields() {
+    const auto place = [this](QWidget& widget, const Rect& frame) {
+        const Size size{static_cast<double>(width()), static_cast<double>(height())};
+        QRect shown = flipped(frame, size);
+        shown.setRight(std::min(shown.right(), width() - fieldPadding));
+        widget.setGeometry(shown);
+    };
+    place(*textCaption_, captionFrame);
+    for (const auto& editor : editors_)
+        place(*editor->widget(), editor->field()->frame());
+}
+
+void ScriptCard::elideTitle() {
+    const QString title = title_->accessibleName();
+    title_->setText(title_->fontMetrics().elidedText(title, Qt::ElideRight, title_->width()));
+    title_->setToolTip(title_->text() == title ? QString() : plainToolTip(title));
+}
+
+void ScriptCard::updateLook() {
+    const QFont muted = theme::scaled(font(), mutedScale);
+    title_->setFont(theme::scaled(font(), titleScale, QFont::DemiBold));
+    for (QLabel* label : {hint_, textCaption_}) {
+        label->setFont(muted);
+        setInk(*label, theme::mutedText(palette()));
+    }
 }
 
 void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(backgroundRole()));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
-                            cornerRadius);
+    const QColor ground = theme::cardGround(palette());
+    painter.setPen(theme::outlineOn(palette(), ground));
+    painter.setBrush(ground);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
+                            theme::cardRadius);
+    if (state_->isHidden())
+        return;
+    const QRectF square(sidePadding, state_->geometry().center().y() - stateIcon / 2.0, stateIcon,
+                        stateIcon);
+    paintSymbol(painter, Symbol::Warning, square, palette(), palette().color(QPalette::WindowText));
 }
 
-void ScriptCard::resizeEvent(QResizeEvent* /*event*/) { placeButtons(); }
+void ScriptCard::resizeEvent(QResizeEvent* /*event*/) { layOut(); }
 
 void ScriptCard::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange) {
-        updateFonts();
-        showRecord();
+    const auto kind = event->type();
+    if (kind == QEvent::FontChange || kind == QEvent::PaletteChange ||
+        kind == QEvent::StyleChange) {
+        updateLook();
+        showItem();
     }
 }
 

@@ -13,16 +13,13 @@ class QPushButton;
 
 namespace zarvil::qt {
 
-/// Shows one script item: its title and text with the buttons that edit, run and remove it, and
-/// its edit fields while it has any. A card outlives its item and is bound to others in turn.
+/// Shows one script item: its title and first lines with the buttons that run, edit and remove it,
+/// and its edit fields while it has any. The buttons stay where they are when editing begins and
+/// ends. A card outlives its item and is bound to others in turn.
 class ScriptCard final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Around the item's view.
-    static constexpr int padding = 6;
-    [[nodiscard]] static QSize minimumCardSize();
-
     explicit ScriptCard(QWidget* parent);
 
     void bind(std::shared_ptr<ZVScriptCollectionItem> item);
@@ -32,9 +29,17 @@ public:
     /// The widgets that take the keyboard, in the order in which Tab visits them.
     [[nodiscard]] std::vector<QWidget*> focusChain() const;
 
+    /// What the present content asks for.
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    /// Of a card of two lines: what a list reckons with before it has seen a script.
+    [[nodiscard]] static int typicalHeight(const QWidget& list);
+
 Q_SIGNALS:
     /// Edit fields came or went.
     void focusChainChanged();
+    /// `heightForWidth` has another answer.
+    void heightChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -43,26 +48,33 @@ protected:
 
 private:
     QPushButton* addButton(void (ZVScriptCollectionItem::*press)());
-    void showRecord();
-    void showTitle();
-    void showText();
+    void observe();
+    void showItem();
+    void showState();
     void showFields(const ScriptItemView::Subviews& fields);
-    void showEditing(bool editing);
-    void showNote(const ScriptNote& note);
-    void placeButtons();
-    void updateFonts();
+    void updateLook();
+    void layOut();
+    void placeFields();
+    void elideTitle();
+    [[nodiscard]] bool isEditing() const { return !editors_.empty(); }
+    [[nodiscard]] std::vector<QPushButton*> buttons() const { return {run_, edit_, remove_}; }
+    [[nodiscard]] int buttonsWidth() const;
+    [[nodiscard]] int buttonHeight() const;
+    [[nodiscard]] int headerHeight(int width) const;
+    /// The title would get too little room beside the buttons.
+    [[nodiscard]] bool buttonsStandBelow(int width) const;
 
     QLabel* title_;
+    QLabel* hint_; ///< in place of the title while editing
     QLabel* text_;
-    QLabel* note_;
-    QPushButton* edit_;
+    QLabel* textCaption_; ///< between the fields
+    QLabel* state_;       ///< what is wrong: a failed run, a save that failed
     QPushButton* run_;
+    QPushButton* edit_;
     QPushButton* remove_;
     std::vector<std::unique_ptr<ScriptFieldEditor>> editors_; ///< back to front
     std::shared_ptr<ZVScriptCollectionItem> item_;
-    Subscription recordEdits_;
-    Subscription fieldChanges_;
-    Subscription noteChanges_;
+    std::vector<Subscription> changes_;
 };
 
 } // namespace zarvil::qt

@@ -5,27 +5,27 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QStyle>
 
 #include <algorithm>
+#include <numeric>
 
 namespace zarvil::qt {
 
 namespace {
 
-constexpr int spacing = 8; // between cards and around them
-constexpr int rowsOfSizeHint = 3;
-constexpr int rowsBeyondSight = 1; // so that Tab finds the next card there
-
-int rowHeight() { return ScriptCard::minimumCardSize().height() + spacing; }
-
-int contentWidth() { return ScriptCard::minimumCardSize().width() + 2 * spacing; }
+constexpr int spacing = 8; // between cards
+constexpr int fewestRows = 3;
+constexpr int fewestCharacters = 24;
 
 } // namespace
 
 ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    verticalScrollBar()->setSingleStep(rowHeight() / 4);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // The cards stand on the window's ground.
+    viewport()->setAutoFillBackground(false);
+    verticalScrollBar()->setSingleStep(ScriptCard::typicalHeight(*this) / 4);
     layoutTimer_.setSingleShot(true);
     layoutTimer_.setInterval(0);
     connect(&layoutTimer_, &QTimer::timeout, this, &ScriptListView::layOut);
@@ -37,6 +37,7 @@ void ScriptListView::setModel(CollectionView& model) {
     rowChanges_.cancel();
     renumber([](int) { return -1; });
     model_ = &model;
+    heights_.assign(model.rowCount(), 0);
     addedSinceLayout_ = 0;
     rowChanges_ = model.observeRows([this](const RowChange& change) { rowsDidChange(change); });
     layoutTimer_.start();
@@ -51,17 +52,21 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
     const auto to = static_cast<int>(change.to);
     switch (change.kind) {
     case RowChange::Kind::Inserted:
+        heights_.insert(heights_.begin() + row, 0);
         if (!cards_.empty() && row <= cards_.rbegin()->first)
             renumber([row](int former) { return former < row ? former : former + 1; });
         ++addedSinceLayout_;
         lastAddedRow_ = row;
         break;
     case RowChange::Kind::Removed:
+        heights_.erase(heights_.begin() + row);
         renumber([row](int former) {
             return former == row ? -1 : former < row ? former : former - 1;
         });
         break;
     case RowChange::Kind::Moved:
+        heights_.erase(heights_.begin() + row);
+        heights_.insert(heights_.begin() + to, 0);
         renumber([row, to](int former) {
             if (former == row)
                 return to;
@@ -71,6 +76,7 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
         });
         break;
     case RowChange::Kind::Cleared:
+        heights_.clear();
         renumber([](int) { return -1; });
         addedSinceLayout_ = 0;
         break;
@@ -95,7 +101,7 @@ void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
 
 void ScriptListView::layOut() {
     layoutTimer_.stop();
-    updateScrollBars();
+    updateScrollBar();
     bindCards();
     placeCards();
     // One more script in a list that was shown before is one that the user has just made.
@@ -105,57 +111,82 @@ void ScriptListView::layOut() {
         scrollToRow(lastAddedRow_);
 }
 
-void ScriptListView::updateScrollBars() {
-    const QSize sight = viewport()->size();
-    const int height = rowCount() == 0 ? 0 : rowCount() * rowHeight() + spacing;
-    verticalScrollBar()->setPageStep(sight.height());
-    verticalScrollBar()->setRange(0, std::max(0, height - sight.height()));
-    horizontalScrollBar()->setPageStep(sight.width());
-    horizontalScrollBar()->setRange(
-        0, rowCount() == 0 ? 0 : std::max(0, contentWidth() - sight.width()));
+void ScriptListView::updateScrollBar() {
+    QScrollBar& bar = *verticalScrollBar();
+    // Heights are measured when cards come into sight: the end stays the end.
+    const bool atEnd = bar.value() > 0 && bar.value() == bar.maximum();
+    const int height = rowCount() == 0 ? 0 : topOf(rowCount()) - spacing;
+    bar.setPageStep(viewport()->height());
+    bar.setRange(0, std::max(0, height - viewport()->height()));
+    if (atEnd)
+        bar.setValue(bar.maximum());
 }
 
-bool ScriptListView::isWanted(int row) const {
-    const int top = verticalScrollBar()->value();
-    const int first = top / rowHeight() - rowsBeyondSight;
-    const int last = (top + viewport()->height()) / rowHeight() + rowsBeyondSight;
-    return row >= first && row <= last && row < rowCount();
+int ScriptListView::heightOf(int row) const {
+    const int measured = heights_[static_cast<std::size_t>(row)];
+    return measured > 0 ? measured : ScriptCard::typicalHeight(*this);
+}
+
+int ScriptListView::topOf(int row) const {
+    const auto end = heights_.begin() + row;
+    const auto unknown = static_cast<int>(std::count(heights_.begin(), end, 0));
+    return std::accumulate(heights_.begin(), end, 0) + unknown * ScriptCard::typicalHeight(*this) +
+           row * spacing;
+}
+
+/// One card more at either end, so that Tab finds it there.
+std::pair<int, int> ScriptListView::rowsInSight() const {
+    const int margin = ScriptCard::typicalHeight(*this);
+    const int above = verticalScrollBar()->value() - margin;
+    const int below = verticalScrollBar()->value() + viewport()->height() + margin;
+    int first = 0;
+    int top = 0;
+    while (first < rowCount() && top + heightOf(first) < above)
+        top += heightOf(first++) + spacing;
+    int last = first;
+    while (last < rowCount() && top < below)
+        top += heightOf(last++) + spacing;
+    return {first, last};
 }
 
 void ScriptListView::bindCards() {
     if (!model_)
         return;
     bool changed = false;
+    const auto [first, end] = rowsInSight();
     for (auto shown = cards_.begin(); shown != cards_.end();) {
         const auto [row, card] = *shown;
-        const bool keep = isWanted(row) || card->hasFocusWithin();
+        const bool keep = (row >= first && row < end) || card->hasFocusWithin();
         if (!keep)
             makeSpare(card);
         shown = keep ? std::next(shown) : cards_.erase(shown);
         changed = changed || !keep;
     }
-    const int first = verticalScrollBar()->value() / rowHeight() - rowsBeyondSight;
-    for (int row = std::max(0, first); isWanted(row); ++row) {
-        if (cards_.contains(row))
-            continue;
-        auto item = model_->itemAtRowAs<ZVScriptCollectionItem>(static_cast<std::size_t>(row));
-        if (!item)
-            continue;
-        ScriptCard* card = takeSpare();
-        cards_.emplace(row, card);
-        card->bind(std::move(item));
-        changed = true;
-    }
+    for (int row = first; row < end; ++row)
+        changed = bindCard(row) || changed;
+    for (const auto& [row, card] : cards_)
+        heights_[static_cast<std::size_t>(row)] = card->heightForWidth(viewport()->width());
     if (changed)
         updateTabOrder();
+    updateScrollBar();
+}
+
+bool ScriptListView::bindCard(int row) {
+    if (cards_.contains(row))
+        return false;
+    auto item = model_->itemAtRowAs<ZVScriptCollectionItem>(static_cast<std::size_t>(row));
+    if (!item)
+        return false;
+    ScriptCard* card = takeSpare();
+    cards_.emplace(row, card);
+    card->bind(std::move(item));
+    return true;
 }
 
 void ScriptListView::placeCards() {
-    const int width = std::max(viewport()->width(), contentWidth()) - 2 * spacing;
+    const int scrolled = verticalScrollBar()->value();
     for (const auto& [row, card] : cards_) {
-        card->setGeometry(spacing - horizontalScrollBar()->value(),
-                          spacing + row * rowHeight() - verticalScrollBar()->value(), width,
-                          ScriptCard::minimumCardSize().height());
+        card->setGeometry(0, topOf(row) - scrolled, viewport()->width(), heightOf(row));
         card->show();
     }
 }
@@ -178,6 +209,7 @@ ScriptCard* ScriptListView::takeSpare() {
     }
     auto* card = new ScriptCard(viewport());
     connect(card, &ScriptCard::focusChainChanged, this, &ScriptListView::updateTabOrder);
+    connect(card, &ScriptCard::heightChanged, &layoutTimer_, qOverload<>(&QTimer::start));
     return card;
 }
 
@@ -197,8 +229,8 @@ int ScriptListView::rowOf(const QWidget* widget) const {
 }
 
 void ScriptListView::scrollToRow(int row) {
-    const int top = row * rowHeight();
-    const int bottom = top + rowHeight() + spacing;
+    const int top = topOf(row);
+    const int bottom = top + heightOf(row);
     QScrollBar& bar = *verticalScrollBar();
     if (top < bar.value())
         bar.setValue(top);
@@ -234,13 +266,10 @@ void ScriptListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 QSize ScriptListView::minimumSizeHint() const {
-    const int frame = 2 * frameWidth();
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    return {contentWidth() + frame + bar, rowHeight() + spacing + frame};
+    return {fontMetrics().averageCharWidth() * fewestCharacters,
+            fewestRows * (ScriptCard::typicalHeight(*this) + spacing)};
 }
 
-QSize ScriptListView::sizeHint() const {
-    return minimumSizeHint() + QSize(0, (rowsOfSizeHint - 1) * rowHeight());
-}
+QSize ScriptListView::sizeHint() const { return minimumSizeHint(); }
 
 } // namespace zarvil::qt

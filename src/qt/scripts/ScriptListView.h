@@ -44,16 +44,22 @@ private:
     void renumber(const std::function<int(int)>& rowNow);
 
     void layOut();
-    void updateScrollBars();
+    void updateScrollBar();
     void bindCards();
     void placeCards();
     void updateTabOrder();
-    [[nodiscard]] bool isWanted(int row) const;
+    bool bindCard(int row);
+    [[nodiscard]] int heightOf(int row) const;
+    /// In the content's coordinates, from the heights that are known so far.
+    [[nodiscard]] int topOf(int row) const;
+    /// The first one and the one behind the last.
+    [[nodiscard]] std::pair<int, int> rowsInSight() const;
     [[nodiscard]] int rowOf(const QWidget* widget) const;
     ScriptCard* takeSpare();
     void makeSpare(ScriptCard* card);
 
     CollectionView* model_ = nullptr;
+    std::vector<int> heights_; ///< by row; 0 where no card has been seen
     int addedSinceLayout_ = 0;
     int lastAddedRow_ = 0;
     std::map<int, ScriptCard*> cards_; ///< by row

@@ -1,5 +1,8 @@
 #include "qt/widgets/PlaceholderWidget.h"
 
+#include "qt/widgets/SymbolWidget.h"
+#include "qt/widgets/Theme.h"
+
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
@@ -10,7 +13,7 @@ namespace zarvil::qt {
 namespace {
 
 constexpr int margin = 16;
-constexpr int cornerRadius = 8;
+constexpr int symbolExtent = 36;
 
 QLabel* makeLabel(QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -23,18 +26,24 @@ QLabel* makeLabel(QWidget* parent) {
 } // namespace
 
 PlaceholderWidget::PlaceholderWidget(QWidget* parent)
-    : QWidget(parent), title_(makeLabel(this)), words_(makeLabel(this)) {
+    : QWidget(parent),
+      symbol_(new SymbolWidget(this)),
+      title_(makeLabel(this)),
+      words_(makeLabel(this)) {
+    symbol_->setExtent(symbolExtent);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->addStretch();
+    column->addWidget(symbol_, 0, Qt::AlignHCenter);
     column->addWidget(title_);
     column->addWidget(words_);
     column->addStretch();
-    updateFonts();
+    updateLook();
 }
 
-void PlaceholderWidget::setText(const QString& title, const QString& words) {
+void PlaceholderWidget::setText(Symbol symbol, const QString& title, const QString& words) {
+    symbol_->setSymbol(symbol);
     title_->setText(title);
     words_->setText(words);
     describe();
@@ -43,13 +52,22 @@ void PlaceholderWidget::setText(const QString& title, const QString& words) {
 void PlaceholderWidget::setVisible(bool visible) {
     QWidget::setVisible(visible);
     describe();
+    QWidget* list = hidesCovered_ ? covered() : nullptr;
+    if (!list)
+        return;
+    QSizePolicy policy = list->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    list->setSizePolicy(policy);
+    list->setVisible(!visible);
 }
 
 QWidget* PlaceholderWidget::covered() {
     if (!covered_ && parentWidget()) {
         covered_ = parentWidget()->findChild<QWidget*>(covers_);
-        if (covered_)
-            covered_->installEventFilter(this);
+        // It moves when what it stands in moves.
+        for (QWidget* widget = covered_; widget && widget != parentWidget();
+             widget = widget->parentWidget())
+            widget->installEventFilter(this);
     }
     return covered_;
 }
@@ -81,23 +99,23 @@ void PlaceholderWidget::showEvent(QShowEvent* event) {
 void PlaceholderWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor outline = palette().color(QPalette::WindowText);
-    outline.setAlphaF(0.3F);
-    painter.setPen(QPen(outline, 1, Qt::DashLine));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
-                            cornerRadius);
+    const QColor ground = palette().color(QPalette::Window);
+    painter.setPen(QPen(theme::mixed(ground, theme::mutedText(palette()), 0.45), 1, Qt::DashLine));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
+                            theme::cardRadius);
 }
 
 void PlaceholderWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        updateFonts();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
+        updateLook();
 }
 
-void PlaceholderWidget::updateFonts() {
-    QFont heading = font();
-    heading.setWeight(QFont::DemiBold);
-    title_->setFont(heading);
+void PlaceholderWidget::updateLook() {
+    title_->setFont(theme::scaled(font(), 1, QFont::DemiBold));
+    QPalette muted = palette();
+    muted.setColor(QPalette::WindowText, theme::mutedText(palette()));
+    words_->setPalette(muted);
 }
 
 } // namespace zarvil::qt

@@ -178,6 +178,9 @@ TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
 TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {
     scriptRunner.outcome = ScriptError{-2741, "Expected end of line."};
     item(0)->execute();
+    EXPECT_EQ(item(0)->failureProperty().get(), "Expected end of line.");
+    item(0)->edit();
+    EXPECT_EQ(item(0)->failureProperty().get(), "");
     EXPECT_THAT(errors.presented,
                 ElementsAre(Error{"NSCocoaErrorDomain", -2741, "Expected end of line."}));
 }

@@ -38,6 +38,29 @@ TEST_F(ScriptStore, aSecondLoadListsEveryScriptTwice) {
     EXPECT_THAT(titles(), ElementsAre("a", "a"));
 }
 
+TEST_F(ScriptStore, textsAreReadInSlicesAndThereWhenAskedFor) {
+    for (int index = 1000; index < 1200; ++index)
+        put(std::to_string(index) + ".zvscript", "as listed");
+    loadWithScripts();
+    const auto change = [this] {
+        for (auto& [path, text] : files.files)
+            text = "changed later";
+    };
+    EXPECT_EQ(item(199)->shownLines().at(0), "as listed") << "before its turn";
+    const auto other = item(1)->data();
+    editByHand(*item(0), "1001", "echo new");
+    EXPECT_EQ(*other->stringForKey(script::text), "as listed") << "its file was replaced";
+    pane.unloadScripts();
+    pane.loadScripts();
+    time.advance(0);
+    change();
+    EXPECT_EQ(listed(150, script::text), "as listed");
+    pane.unloadScripts();
+    pane.loadScripts();
+    pane.unloadScripts();
+    time.advance(0);
+}
+
 TEST_F(ScriptStore, aMissingFolderIsMadeAndNotListedInTheSameCall) {
     files.folders.clear();
     loadWithScripts();
