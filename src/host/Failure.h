@@ -2,10 +2,13 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace zarvil::host {
 
-/// Whether the environment names a display, or a platform that needs none.
-[[nodiscard]] bool hasDisplay();
+/// Why no window can be shown, in words, judged by the environment and the plug-ins that are
+/// installed; nothing if one can. Needs no application object: Qt ends the process in its making.
+[[nodiscard]] std::optional<QString> displayFault();
 
 /// Writes to the standard error stream.
 void logFailure(const QString& message);

@@ -210,8 +210,8 @@ int runHost(int argc, char** argv) {
     }
     if (commandLine.wish == CommandLine::Wish::Version)
         return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
-    if (!hasDisplay()) {
-        logFailure(QStringLiteral("There is no display to show a window on."));
+    if (const auto fault = displayFault()) {
+        logFailure(*fault);
         return exitCode::unavailable;
     }
     // Panes keep files under it and count on it, though nothing else here makes it. Without it a

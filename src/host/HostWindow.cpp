@@ -7,8 +7,10 @@
 #include <QIcon>
 #include <QLabel>
 #include <QListWidget>
+#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace zarvil::host {
@@ -94,9 +96,28 @@ std::optional<BundleFailure> HostWindow::open() {
     return std::nullopt;
 }
 
+/// The first size is the one that the pane would like, as far as the screen has room for it.
 void HostWindow::restorePlace() {
-    if (!restoreGeometry(settings_.value(geometryKey).toByteArray()))
-        adjustSize();
+    if (restoreGeometry(settings_.value(geometryKey).toByteArray()))
+        return;
+    constexpr QSize frame(16, 48); // what a window manager may put around a window
+    resize(sizeHint().boundedTo(screen()->availableSize() - frame));
+}
+
+QTabWidget* HostWindow::tabs() const { return view_ ? view_->findChild<QTabWidget*>() : nullptr; }
+
+QString HostWindow::tabKey() const {
+    return QStringLiteral("tabs/") + entries_[current_].driver->bundle().identifier;
+}
+
+void HostWindow::restoreTab() {
+    if (QTabWidget* pages = tabs())
+        pages->setCurrentIndex(settings_.value(tabKey(), pages->currentIndex()).toInt());
+}
+
+void HostWindow::rememberTab() {
+    if (const QTabWidget* pages = tabs())
+        settings_.setValue(tabKey(), pages->currentIndex());
 }
 
 void HostWindow::raiseToUser() {
@@ -112,6 +133,7 @@ void HostWindow::closeRegardless() {
         return;
     if (auto& driver = entries_[current_].driver)
         driver->leaveRegardless();
+    rememberTab();
     finish();
 }
 
@@ -135,6 +157,8 @@ void HostWindow::wish(Target target) {
 
 void HostWindow::proceed(bool left) {
     leaving_ = false;
+    if (left)
+        rememberTab();
     if (!left)
         markCurrent();
     else if (wished_)
@@ -147,6 +171,7 @@ void HostWindow::showPane(std::size_t row) {
     current_ = row;
     markCurrent();
     delete std::exchange(faultLabel_, nullptr);
+    view_ = nullptr;
     auto& entry = entries_[row];
     if (entry.driver)
         if (const auto failed = entry.driver->load())
@@ -155,13 +180,14 @@ void HostWindow::showPane(std::size_t row) {
         showFault(entry.fault);
         return;
     }
-    QWidget* view = entry.driver->view();
-    content_->addWidget(view);
+    view_ = entry.driver->view();
+    content_->addWidget(view_);
     entry.driver->select();
-    view->show();
+    view_->show();
     setWindowTitle(entry.driver->title());
     if (const QIcon icon = entry.driver->icon(); !icon.isNull())
         setWindowIcon(icon);
+    restoreTab();
 }
 
 void HostWindow::showFault(const QString& fault) {

@@ -2,6 +2,7 @@
 
 #include "host/PaneDriver.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -11,6 +12,7 @@
 class QLabel;
 class QListWidget;
 class QSettings;
+class QTabWidget;
 class QVBoxLayout;
 
 namespace zarvil::host {
@@ -59,10 +61,15 @@ private:
     void finish();
     void markCurrent();
     void restorePlace();
+    [[nodiscard]] QTabWidget* tabs() const;
+    [[nodiscard]] QString tabKey() const;
+    void restoreTab();
+    void rememberTab();
 
     std::vector<Entry> entries_;
     QSettings& settings_;
     QVBoxLayout* content_ = nullptr;
+    QPointer<QWidget> view_; ///< of the pane that is shown
     QListWidget* list_ = nullptr;
     QLabel* faultLabel_ = nullptr;
     std::size_t current_ = 0;

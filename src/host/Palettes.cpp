@@ -87,7 +87,9 @@ QPalette paletteFor(const Look& look) {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                             QPalette::PlaceholderText, QPalette::Link, QPalette::LinkVisited})
         palette.setColor(QPalette::Disabled, role, QColor(colors.dimmedText));
-    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(colors.window));
+    // A greyed box must not vanish into a window of its own color.
+    palette.setColor(QPalette::Disabled, QPalette::Base,
+                     QColor(look.highContrast ? colors.button : colors.window));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colors.dimmedHighlight));
     return palette;
 }

@@ -74,7 +74,7 @@ class Workspace final : public zarvil::Workspace {
 public:
     bool launchApplication(std::string_view path) override {
         launched.emplace_back(path);
-        return true;
+        return launches;
     }
     std::vector<RunningApplication> runningApplications() const override { return running; }
     std::string mainBundleIdentifier() const override { return hostIdentifier; }
@@ -84,6 +84,7 @@ public:
     }
 
     std::vector<std::string> launched;
+    bool launches = true;
     std::vector<std::string> opened;
     std::vector<RunningApplication> running;
     std::string hostIdentifier = "com.Tessrow.Preferences";

@@ -99,7 +99,7 @@ class Devices(SystemTest):
 
 class Alerts(SystemTest):
     USER, DEVICE, TEST = "Pushover user ID", "Pushover device ID", "Send a Test"
-    SWITCH = "Send a Pushover notification when the power fails"
+    SWITCH = "Send a push notification when the power fails"
     GREEN, RED = (26, 179, 26), (255, 26, 26)
 
     def start(self):

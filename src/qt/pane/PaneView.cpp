@@ -9,7 +9,9 @@
 #include "ui_ScriptsTab.h"
 #include "ui_UninstallPanel.h"
 
+#include <QBitmap>
 #include <QEvent>
+#include <QPainter>
 #include <QTabBar>
 
 namespace zarvil::qt {
@@ -21,10 +23,8 @@ constexpr int firstWidth = 38;
 constexpr int firstHeight = 36;
 /// In a lower window what is above and below the tabs makes room.
 constexpr int lowHeight = 24;
-
-void makeHeading(QLabel& label, double scale) {
-    label.setFont(theme::scaled(label.font(), scale, QFont::Bold));
-}
+/// Of the drawn panel, in pixels.
+constexpr double cornerRadius = 6;
 
 /// Nothing moves when the widget comes and goes.
 void keepRoomWhileHidden(QWidget& widget) {
@@ -33,17 +33,65 @@ void keepRoomWhileHidden(QWidget& widget) {
     widget.setSizePolicy(policy);
 }
 
-/// Starts every time with the keyboard at the harmless button, wherever it was left.
+/// Asks before the product is removed: as high as its text, over its window every time, and with
+/// the keyboard at the harmless button, wherever it was left.
 class ConfirmationPanel final : public QDialog {
 public:
-    using QDialog::QDialog;
+    explicit ConfirmationPanel(QWidget* parent) : QDialog(parent) {
+        layout_.setupUi(this);
+        setWindowFlag(Qt::FramelessWindowHint);
+        setWindowModality(Qt::ApplicationModal);
+    }
+
+    void setVisible(bool visible) override {
+        if (visible && !isVisible()) {
+            fit();
+            layout_.CancelUninstall->setFocus();
+        }
+        QDialog::setVisible(visible);
+    }
 
 protected:
-    void showEvent(QShowEvent* event) override {
-        if (auto* button = findChild<QPushButton*>("CancelUninstall"))
-            button->setFocus();
-        QDialog::showEvent(event);
+    void changeEvent(QEvent* event) override {
+        QDialog::changeEvent(event);
+        if (event->type() == QEvent::FontChange && isVisible())
+            fit();
     }
+
+private:
+    void fit() {
+        constexpr int characters = 48;
+        fitHeading();
+        const QMargins margins = layout_.Layout2->contentsMargins();
+        const int width =
+            theme::charactersWide(*this, characters) + margins.left() + margins.right();
+        const QSize size =
+            QSize(width, layout()->totalHeightForWidth(width)).expandedTo(layout()->minimumSize());
+        setFixedSize(size);
+        // Without a compositor what lies outside of the rounded panel would be black.
+        QBitmap shape(size);
+        shape.clear();
+        QPainter painter(&shape);
+        painter.setBrush(Qt::color1);
+        painter.drawRoundedRect(QRect(QPoint(), size).adjusted(0, 0, -1, -1), cornerRadius,
+                                cornerRadius);
+        painter.end();
+        setMask(shape);
+        QRect place(QPoint(), size);
+        place.moveCenter(parentWidget()->window()->geometry().center());
+        move(place.topLeft());
+    }
+
+    /// The band that the heading stands in is of a fixed height.
+    void fitHeading() {
+        QFont font = theme::scaled(QDialog::font(), 1.1, QFont::Bold);
+        const int room = layout_.UninstallHeading->maximumHeight() - 4;
+        if (const int height = QFontMetrics(font).height(); height > room)
+            font = theme::scaled(font, static_cast<double>(room) / height, QFont::Bold);
+        layout_.UninstallHeading->setFont(font);
+    }
+
+    Ui::UninstallPanel layout_;
 };
 
 } // namespace
@@ -95,12 +143,6 @@ PaneView::PaneView(QWidget* parent)
     tabs_->setCornerWidget(gap_, Qt::TopLeftCorner);
     // No key stroke switches anything by accident.
     tabs_->tabBar()->setFocus();
-
-    Ui::UninstallPanel panel;
-    panel.setupUi(uninstallPanel_);
-    makeHeading(*panel.UninstallHeading, 1.15);
-    uninstallPanel_->setWindowFlag(Qt::FramelessWindowHint);
-    uninstallPanel_->setWindowModality(Qt::ApplicationModal);
 }
 
 QSize PaneView::sizeHint() const {

@@ -12,9 +12,12 @@
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
+#include "qt/widgets/SymbolWidget.h"
 
 #include <QCoreApplication>
 #include <QDialog>
+#include <QGuiApplication>
+#include <QPainter>
 #include <QtDebug>
 
 namespace zarvil {
@@ -87,7 +90,20 @@ void ZarvilPane::setUnselectAnswer(UnselectAnswer /*answer*/) {}
 
 QString ZarvilPane::title() const { return QStringLiteral("Zarvil"); }
 
-QIcon ZarvilPane::icon() const { return {}; }
+QIcon ZarvilPane::icon() const {
+    QIcon icon;
+    for (const int extent : {16, 24, 32, 48, 64, 128}) {
+        QPixmap picture(extent, extent);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        const QPalette palette = QGuiApplication::palette();
+        qt::paintSymbol(painter, Symbol::Shield, picture.rect(), palette,
+                        palette.color(QPalette::WindowText));
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
 
 QWidget* ZarvilPane::mainView() {
     if (!loaded_)

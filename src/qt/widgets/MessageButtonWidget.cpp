@@ -51,7 +51,8 @@ void MessageButtonWidget::setModel(Button& model) {
 
 QSize MessageButtonWidget::sizeHint() const {
     const int title = fontMetrics().horizontalAdvance(withoutMnemonic(text()));
-    return {std::max(standardSize.width(), title + 2 * titleMargin), standardSize.height()};
+    return {std::max(standardSize.width(), title + 2 * titleMargin),
+            std::max(standardSize.height(), fontMetrics().height() + titleMargin / 2)};
 }
 
 void MessageButtonWidget::paintEvent(QPaintEvent* event) {
@@ -72,14 +73,14 @@ void MessageButtonWidget::paintEvent(QPaintEvent* event) {
     paintRing(painter);
 }
 
-/// The focus in the color of selections, else the default button in white.
+/// A light ring inside the button, which is dark in every theme: broad for the focus.
 void MessageButtonWidget::paintRing(QPainter& painter) const {
     if (!hasFocus() && !isDefault())
         return;
     const double width = hasFocus() ? 2 : 1;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(hasFocus() ? palette().color(QPalette::Highlight) : Qt::white, width));
-    const double inset = width / 2;
+    painter.setPen(QPen(Qt::white, width));
+    const double inset = 1 + width / 2;
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 4, 4);
 }
 

@@ -4,7 +4,9 @@
 #include "qt/binding/Spinner.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
+#include "qt/widgets/TextLabel.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QGraphicsOpacityEffect>
 #include <QKeySequence>
@@ -49,6 +51,33 @@ protected:
 constexpr int generalPage = 1;
 constexpr int alertsPage = 2;
 constexpr int scriptsPage = 3;
+
+/// What of the shown widgets does not fit: text that needs more room than it has, a child that
+/// leaves its parent, and neighbours that overlap.
+QStringList misfits(const QWidget& top) {
+    QStringList found;
+    for (const auto* widget : top.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const TextLabel*>(widget);
+        const bool isPart = label || qobject_cast<const QAbstractButton*>(widget) ||
+                            qobject_cast<const QLineEdit*>(widget);
+        if (!isPart || !widget->isVisible())
+            continue;
+        const QString name = widget->parentWidget()->objectName() + '/' + widget->objectName();
+        if (label && !label->isElided() && label->heightForWidth(label->width()) > label->height())
+            found += name + " is clipped";
+        if (qobject_cast<const QPushButton*>(widget) &&
+            widget->width() < widget->sizeHint().width())
+            found += name + " is too narrow";
+        if (!widget->parentWidget()->rect().contains(widget->geometry()))
+            found += name + " leaves its parent";
+        for (const auto* other :
+             widget->parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            if (other != widget && other->isVisible() &&
+                other->geometry().intersects(widget->geometry()))
+                found += name + " overlaps " + other->objectName();
+    }
+    return found;
+}
 
 TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) { EXPECT_EQ(faults, Faults{}); }
 
@@ -183,6 +212,42 @@ TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     EXPECT_TRUE(list.accessibleDescription().contains("No device connected"));
     pane.appDidNotAnswer();
     EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
+}
+
+TEST_F(Layout, clipsAndOverlapsNothing) {
+    struct Case {
+        double points;
+        QSize size;
+        Qt::LayoutDirection direction;
+    };
+    const QFont before = QApplication::font();
+    loadWithAgent({{"UsePushover", true}, {"PushUserId", "u"}});
+    const Message invalid(message::pushValidationFinished, Dictionary{{"code", 1}});
+    agentSends(invalid);
+    for (const bool present : {true, false}) {
+        if (!present)
+            pane.appDidNotAnswer();
+        for (const Case& c : std::vector<Case>{{10, {480, 400}, Qt::LeftToRight},
+                                               {10, {680, 640}, Qt::RightToLeft},
+                                               {10, {1600, 900}, Qt::LeftToRight},
+                                               {18, {640, 420}, Qt::RightToLeft},
+                                               {18, {1024, 600}, Qt::LeftToRight}}) {
+            QFont font = before;
+            font.setPointSizeF(c.points);
+            QApplication::setFont(font);
+            view.setLayoutDirection(c.direction);
+            view.resize(c.size);
+            view.show();
+            EXPECT_EQ(view.size(), c.size) << c.points << " pt";
+            for (int page = 0; page < 5; ++page) {
+                widget<QTabWidget>("tabView").setCurrentIndex(page);
+                QApplication::processEvents();
+                EXPECT_EQ(fromQt(misfits(view).join("; ")), "")
+                    << c.points << " pt, " << c.size.width() << " wide, page " << page;
+            }
+        }
+    }
+    QApplication::setFont(before);
 }
 
 } // namespace
