@@ -74,10 +74,13 @@ TEST_F(Host, everyControlSendsWhatTheTableSays) {
             host.click(control);
         else
             host.type(static_cast<NSTextField*>(control), c.typed);
-        // Nothing sent is known by what comes after it.
-        agent.send(Message(message::deviceConnected));
-        if (!c.sent.empty())
-            EXPECT_TRUE(runUntil([&] { return !agent.heard.empty(); }, 5)) << c.outlet;
+        // What it sends comes before what another control sends.
+        host.click(host.outlet("viewLogButton"));
+        EXPECT_TRUE(runUntil([&] {
+            return std::ranges::count(agent.heard, message::viewLog, &Message::name) ==
+                   (c.sent == message::viewLog ? 2 : 1);
+        })) << c.outlet;
+        agent.heard.pop_back();
         std::string all;
         for (const Message& sent : agent.heard)
             all += (all.empty() ? "" : "; ") + described(sent);
@@ -126,8 +129,9 @@ TEST_F(Host, anAgentThatEndsGreysThePaneAndItsReturnBringsTheSettingsBack) {
 TEST_F(Host, goesOnWhenTheNotificationServerIsKilledUnderLoad) {
     for (int count = 0; count < 200; ++count) {
         agent.send(Message(message::savedPrefs, Dictionary{{"ShutdownDelay", count}}));
-        if (count == 100)
+        if (count == 100) {
             ASSERT_TRUE(test::killNotificationServer());
+        }
     }
     Dictionary last = settingsOfCases();
     last.setObject("LaunchAtLogin", true);
