@@ -112,6 +112,8 @@ QSize Column::sizeHint() const {
     return {width, heightForWidth(width)};
 }
 
+bool Column::hasHeightForWidth() const { return layout() && layout()->hasHeightForWidth(); }
+
 int Column::heightForWidth(int width) const {
     if (!layout())
         return -1;
@@ -195,7 +197,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
 // Row
 
 Row::Row(QWidget* parent) : QWidget(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
@@ -453,7 +455,7 @@ void BannerRow::paintEvent(QPaintEvent* /*event*/) {
 // Flow
 
 Flow::Flow(QWidget* parent) : QWidget(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
@@ -480,7 +482,15 @@ int Flow::arrange(int width, bool apply) const {
         height = 0;
     };
     forEachChild(*this, [&](QWidget* child) {
-        const int wish = std::min(wishOf(*child).width(), width);
+        int wish = std::min(wishOf(*child).width(), width);
+        // A line that may be shortened makes room for what follows it.
+        if (const auto* label = qobject_cast<const TextLabel*>(child); label && label->isElided()) {
+            int others = 0;
+            forEachChild(*this, [&](const QWidget* other) {
+                others += other == child ? 0 : wishOf(*other).width() + gap;
+            });
+            wish = std::min(wish, std::max(width - others, child->minimumSizeHint().width()));
+        }
         if (x > 0 && x + wish > width) {
             endLine();
             y += textGap;
@@ -539,7 +549,7 @@ void Columns::resizeEvent(QResizeEvent* event) {
 // CheckBox
 
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] bool hasHeightForWidth() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
     /// Above and below the layout.
     void setVerticalMargins(int top, int bottom);
