@@ -31,11 +31,12 @@ inline constexpr std::array controlCases{
     ControlCase{"shutdownDelayText", "75", "ZVPrefsChanged prefKey=ShutdownDelay prefObj=75"},
     ControlCase{"toggleMinSec", "", ""},
     ControlCase{"shutdownDelayText", "1.5", "ZVPrefsChanged prefKey=ShutdownDelay prefObj=90"},
+    ControlCase{"toggleMinSec", "", ""},
     ControlCase{"showFailureNotifi", "", "ZVPrefsChanged prefKey=ShowFailNotifi prefObj=1"},
     ControlCase{"checkForUpdates", "", "ZVPrefsChanged prefKey=SUEnableAutomaticChecks prefObj=1"},
     ControlCase{"checkForUpdatesNow", "", "ZVCheckForUpdates"},
     ControlCase{"viewLogButton", "", "ZVViewLog"},
-    ControlCase{"email", "a@b.cc", "ZVPrefsChanged prefKey=EmailAddress prefObj=a@b.cc"},
+    ControlCase{"email", "c@d.ee", "ZVPrefsChanged prefKey=EmailAddress prefObj=c@d.ee"},
     ControlCase{"sendEmail", "", "ZVPrefsChanged prefKey=UseEmailNotifi prefObj=0"},
     ControlCase{"pushUserName", "user", "ZVPrefsChanged prefKey=PushUserId prefObj=user"},
     ControlCase{"pushDeviceName", "phone", "ZVPrefsChanged prefKey=PushDeviceId prefObj=phone"},
@@ -45,8 +46,9 @@ inline constexpr std::array controlCases{
 };
 
 inline Dictionary settingsOfCases() {
-    return {{"ShowStatusIcon", true}, {"UseEmailNotifi", true}, {"UsePushover", true},
-            {"PushUserId", "u"},      {"UseScripts", true},     {"ShutdownDelay", 30}};
+    return {{"ShowStatusIcon", true}, {"UseEmailNotifi", true}, {"EmailAddress", "a@b.cc"},
+            {"UsePushover", true},    {"PushUserId", "u"},      {"UseScripts", true},
+            {"ShutdownDelay", 30}};
 }
 
 /// A message in one line; a boolean is shown as the number that some transports make of it.

@@ -7,6 +7,10 @@
 
 #include "protocol/Messages.h"
 
+#include <cstdlib>
+#include <string>
+#include <sys/stat.h>
+
 namespace zarvil::cocoa::test {
 void hear(PlayedAgent& agent, NSNotification* notification);
 }
@@ -92,6 +96,8 @@ Ref<NSPreferencePane> MiniHost::newPane(NSString* bundlePath) {
 }
 
 MiniHost::MiniHost(NSPreferencePane* pane) : pane_(pane) {
+    // Every home folder of the system has one.
+    ::mkdir((std::string(std::getenv("HOME")) + "/Library").c_str(), S_IRWXU);
     NSView* view = [pane loadMainView];
     [pane willSelect];
     if (view) {
