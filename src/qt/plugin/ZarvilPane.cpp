@@ -11,6 +11,7 @@
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
+#include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/SymbolWidget.h"
 
@@ -65,6 +66,7 @@ struct ZarvilPane::Loaded {
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
           scriptWindow(controller.scriptProgress, *view) {
+        new qt::HelpWindow(*view, platform.platform().strings);
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
             qWarning().noquote() << "Layout:" << QString::fromUtf8(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
