@@ -242,7 +242,7 @@ TEST_F(Layout, clipsAndOverlapsNothing) {
             for (int page = 0; page < 5; ++page) {
                 widget<QTabWidget>("tabView").setCurrentIndex(page);
                 QApplication::processEvents();
-                EXPECT_EQ(fromQt(misfits(view).join("; ")), "")
+                EXPECT_EQ(misfits(view).join("; ").toStdString(), "")
                     << c.points << " pt, " << c.size.width() << " wide, page " << page;
             }
         }
