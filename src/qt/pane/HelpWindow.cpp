@@ -32,40 +32,48 @@ QString inHtml(const HelpPage& page) {
 
 } // namespace
 
+void HelpWindow::offer(QWidget& view, const StringTable& strings) {
+    const auto open = [&view, &strings] {
+        auto* window = view.findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
+        (window ? window : new HelpWindow(view, strings))->present();
+    };
+    connect(new QShortcut(QKeySequence::HelpContents, &view), &QShortcut::activated, &view, open);
+    if (auto* button = view.findChild<QAbstractButton*>(QStringLiteral("HelpButton")))
+        connect(button, &QAbstractButton::clicked, &view, open);
+    for (const auto& [outlet, text] : helpOfControls(strings))
+        if (auto* control = view.findChild<QWidget*>(QString::fromUtf8(outlet)))
+            control->setWhatsThis(escaped(text));
+}
+
 HelpWindow::HelpWindow(QWidget& view, const StringTable& strings)
     : QDialog(&view),
-      view_(view),
       strings_(strings),
       tabs_(view.findChild<QTabWidget*>(QStringLiteral("tabView"))),
       text_(new QTextBrowser(this)) {
     setObjectName("HelpWindow");
     text_->setAccessibleName(tr("Help"));
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(text_);
+    addButtons(view);
+    const int line = theme::lineHeight(*this);
+    resize(firstWidth * line, firstHeight * line);
+    connect(tabs_, &QTabWidget::currentChanged, this, &HelpWindow::tellOfTab);
+    tellOfTab();
+}
+
+void HelpWindow::addButtons(QWidget& view) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     auto* point = buttons->addButton(tr("What Is &This?"), QDialogButtonBox::HelpRole);
     point->setToolTip(tr("Explains the control of the window that you click next"));
-    connect(point, &QPushButton::clicked, this, [this] {
-        view_.window()->activateWindow();
+    connect(point, &QPushButton::clicked, &view, [&view] {
+        view.window()->activateWindow();
         QWhatsThis::enterWhatsThisMode();
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
-    auto* rows = new QVBoxLayout(this);
-    rows->addWidget(text_);
-    rows->addWidget(buttons);
-
-    connect(tabs_, &QTabWidget::currentChanged, this, &HelpWindow::tellOfTab);
-    auto* key = new QShortcut(QKeySequence::HelpContents, &view);
-    connect(key, &QShortcut::activated, this, &HelpWindow::present);
-    if (auto* button = view.findChild<QAbstractButton*>(QStringLiteral("HelpButton")))
-        connect(button, &QAbstractButton::clicked, this, &HelpWindow::present);
-    explainControls();
+    layout()->addWidget(buttons);
 }
 
 void HelpWindow::present() {
-    if (!isVisible()) {
-        const int line = theme::lineHeight(*this);
-        resize(firstWidth * line, firstHeight * line);
-        tellOfTab();
-    }
     show();
     raise();
     activateWindow();
@@ -78,12 +86,6 @@ void HelpWindow::tellOfTab() {
     const HelpPage page = helpOf(static_cast<Tab>(index), kZVScriptingFolder, strings_);
     setWindowTitle(QString::fromStdString(page.title));
     text_->setHtml(inHtml(page));
-}
-
-void HelpWindow::explainControls() const {
-    for (const auto& [outlet, text] : helpOfControls(strings_))
-        if (auto* control = view_.findChild<QWidget*>(QString::fromUtf8(outlet)))
-            control->setWhatsThis(QString::fromStdString(text).toHtmlEscaped());
 }
 
 } // namespace zarvil::qt

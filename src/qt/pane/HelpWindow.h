@@ -15,18 +15,19 @@ class HelpWindow final : public QDialog {
     Q_OBJECT
 
 public:
-    /// Opens with the key for help and with the button "HelpButton" of the view, and gives the
-    /// view's controls their explanations. The view, which owns it, has its tabs in "tabView".
-    HelpWindow(QWidget& view, const StringTable& strings);
+    /// Has the key for help and the view's button "HelpButton" open the window, which is made when
+    /// it is first asked for, and gives the view's controls their explanations. The view owns all
+    /// of it; its tabs are "tabView". The strings must outlive the view.
+    static void offer(QWidget& view, const StringTable& strings);
 
+    HelpWindow(QWidget& view, const StringTable& strings);
     /// Shows the window, or brings it before the user.
     void present();
 
 private:
+    void addButtons(QWidget& view);
     void tellOfTab();
-    void explainControls() const;
 
-    QWidget& view_;
     const StringTable& strings_;
     QTabWidget* tabs_;
     QTextBrowser* text_;
