@@ -43,10 +43,10 @@ constexpr std::array generalHelp{
 };
 
 constexpr std::array alertsHelp{
-    SectionKeys{"E-mail",
+    SectionKeys{"Alerts by e-mail",
                 "Zarvil sends a message to the address when the power fails. Type the whole "
                 "address and press Return; an incomplete one is not stored."},
-    SectionKeys{"Pushover",
+    SectionKeys{"Alerts through Pushover",
                 "Pushover is a service that brings messages to your phone. You need an account "
                 "there; its user ID goes into the first field. With a device ID only that device "
                 "gets the message, otherwise all of yours."},
@@ -77,10 +77,10 @@ constexpr std::array aboutHelp{
     SectionKeys{"The log",
                 "Zarvil writes down what it does and when: power failures, shutdowns and alerts. "
                 "Look there first if something went otherwise than you expected."},
-    SectionKeys{"Updates",
+    SectionKeys{"New versions",
                 "Zarvil looks for new versions itself, at your word or by itself, and tells you "
                 "what it has found."},
-    SectionKeys{"Uninstalling",
+    SectionKeys{"Uninstalling Zarvil",
                 "Removes Zarvil, this pane and the settings, after it has asked you. Your scripts "
                 "stay in the folder %1."},
     SectionKeys{"Administrator rights",
