@@ -11,8 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <map>
 
 namespace zarvil::cocoa {
@@ -192,21 +190,6 @@ TEST(HostLives, tenLivesLeaveNothingBehind) {
     }
     EXPECT_EQ(last, first);
     EXPECT_EQ(first["Zarvil_Preferences"], 0);
-}
-
-TEST(HostLives, aPaneWithoutAMainViewIsHarmless) {
-    // The bundle without its layouts.
-    const std::string info = "/Resources/Info-gnustep.plist";
-    const std::filesystem::path bare = std::string(std::getenv("TEMP")) + "/Bare.prefPane";
-    std::filesystem::create_directories(bare / "Resources");
-    std::filesystem::copy_file(ZARVIL_PANE_BUNDLE + info, bare.string() + info);
-    Class principal = [[NSBundle bundleWithPath:bundlePath] principalClass];
-    const auto pane = Ref<NSPreferencePane>::adopt([[principal alloc]
-        initWithBundle:[NSBundle bundleWithPath:[NSString stringWithUTF8String:bare.c_str()]]]);
-    ASSERT_TRUE(pane.get());
-    const MiniHost host(pane.get());
-    EXPECT_FALSE(host.window());
-    EXPECT_EQ([pane.get() shouldUnselect], NSUnselectNow);
 }
 
 } // namespace
