@@ -166,7 +166,7 @@ struct Bench {
         const Message all(message::allConnectedDevices, Dictionary{{"devices", devices}});
         const auto start = Clock::now();
         agent.send(all);
-        require(runUntil([=] { return rows() == count; }, 300), "all are listed");
+        require(runUntil([this, count] { return rows() == count; }, 300), "all are listed");
         [host.window() display];
         std::printf("%6d devices            %.0f ms from the message to the drawn list\n", count,
                     millisecondsSince(start));
