@@ -163,10 +163,10 @@ struct Bench {
         host.show(list());
         agent.send(Message(message::allDevices, Dictionary{{"devices", Array{}}}));
         require(runUntil([this] { return !tickIn(list()); }), "the list is empty");
-        const Message all(message::allConnectedDevices, Dictionary{{"devices", devices}});
+        const Message connected(message::allConnectedDevices, Dictionary{{"devices", devices}});
         const auto start = Clock::now();
-        agent.send(all);
-        require(runUntil([this, count] { return rows() == count; }, 300), "all are listed");
+        agent.send(connected);
+        require(runUntil([&] { return rows() == count; }, 300), "all are listed");
         [host.window() display];
         std::printf("%6d devices            %.0f ms from the message to the drawn list\n", count,
                     millisecondsSince(start));
