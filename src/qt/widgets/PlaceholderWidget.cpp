@@ -88,6 +88,8 @@ void PlaceholderWidget::describe() {
 bool PlaceholderWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
     if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
         cover();
+    else if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
     return false;
 }
 
@@ -99,10 +101,16 @@ void PlaceholderWidget::showEvent(QShowEvent* event) {
 void PlaceholderWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    // An empty list has no row to show the keyboard on.
+    const bool focused = covered_ && covered_->hasFocus();
+    const double width = focused ? 2 : 1;
     const QColor ground = palette().color(QPalette::Window);
-    painter.setPen(QPen(theme::mixed(ground, theme::mutedText(palette()), 0.45), 1, Qt::DashLine));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
-                            theme::cardRadius);
+    painter.setPen(focused ? QPen(theme::shield(palette()), width)
+                           : QPen(theme::mixed(ground, theme::mutedText(palette()), 0.45), width,
+                                  Qt::DashLine));
+    const double inset = width / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                            theme::cardRadius, theme::cardRadius);
 }
 
 void PlaceholderWidget::changeEvent(QEvent* event) {
