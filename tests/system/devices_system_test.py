@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import SystemTest, wait_until
+from desktop import Atspi, SystemTest, wait_until
 
 UPS = "Back-UPS ES 700|American Power|3B15"
 EATON = "Eaton 5E|EATON|G0A1"
@@ -77,12 +77,18 @@ class Devices(SystemTest):
         self.expect()
         wait_until(lambda: not self.saved(), "both are forgotten")
 
-    def test_a_device_that_the_agent_saves_moves(self):
+    def test_a_device_moves_when_the_agent_or_an_assistive_program_says_so(self):
         self.session.set_devices(UPS, EATON)
         self.start()
         self.expect(connected=(UPS, EATON))
         self.tell(f"save {UPS}")
         self.expect(connected=(EATON,), watched=(UPS,))
+        # What an assistive program does with a row is what the user's own click does.
+        self.pane.press(shown(EATON), "list item")
+        self.expect(watched=(UPS, EATON))
+        wait_until(lambda: self.saved() == ["Back-UPS ES 700", "Eaton 5E"], "both are stored")
+        self.pane.strike("alt+w", "End")
+        wait_until(lambda: self.pane.has(shown(EATON), Atspi.StateType.FOCUSED), "it is told")
 
     def test_the_lists_are_refilled_and_not_doubled(self):
         self.session.set_devices(UPS, EATON, EATON)
