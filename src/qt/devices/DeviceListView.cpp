@@ -43,6 +43,15 @@ void DeviceListView::setModel(zarvil::CollectionView& view) {
     connect(devices_, &DeviceListModel::userDidToggle, this, &DeviceListView::passFocusWhenEmpty);
 }
 
+// Enough for the words in place of the rows as well; what is lower scrolls with the page.
+QSize DeviceListView::minimumSizeHint() const {
+    constexpr int fewestCards = 2;
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const int card = itemDelegate()->sizeHint(option, {}).height();
+    return {QListView::minimumSizeHint().width(), fewestCards * card};
+}
+
 void DeviceListView::reset() {
     accessible_->forgetAll();
     QListView::reset();

@@ -29,6 +29,7 @@ public:
     [[nodiscard]] QString passesFocusTo() const { return passesFocusTo_; }
     void setPassesFocusTo(const QString& list) { passesFocusTo_ = list; }
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
     void reset() override;
 
 protected:

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zarvil::qt {
 
 namespace {
@@ -46,7 +48,15 @@ void PlaceholderWidget::setText(Symbol symbol, const QString& title, const QStri
     symbol_->setSymbol(symbol);
     title_->setText(title);
     words_->setText(words);
+    showSymbolWhereItFits();
     describe();
+}
+
+void PlaceholderWidget::showSymbolWhereItFits() {
+    const int width = std::max(0, this->width() - 2 * margin);
+    const int words = title_->heightForWidth(width) + words_->heightForWidth(width);
+    const int gaps = 2 * margin + 2 * layout()->spacing();
+    symbol_->setHidden(height() < gaps + symbolExtent + words);
 }
 
 void PlaceholderWidget::setVisible(bool visible) {
@@ -96,6 +106,11 @@ bool PlaceholderWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
 void PlaceholderWidget::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     cover();
+}
+
+void PlaceholderWidget::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    showSymbolWhereItFits();
 }
 
 void PlaceholderWidget::paintEvent(QPaintEvent* /*event*/) {
