@@ -1,3 +1,4 @@
+#include "ControlCases.h"
 #include "PaneHarness.h"
 #include "pane/Help.h"
 #include "qt/binding/LockWidget.h"
@@ -131,6 +132,34 @@ TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
         EXPECT_FALSE(shown->toolTip().isEmpty()) << name;
         EXPECT_TRUE(shown->focusPolicy() & Qt::TabFocus) << name;
     });
+}
+
+TEST_F(Layout, everyControlSendsWhatTheTableSays) {
+    load();
+    view.show();
+    for (const ControlCase& c : controlCases) {
+        agentSends(Message(message::savedPrefs, settingsOfCases()));
+        agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+        takeSent();
+        auto& control = widget<QWidget>(std::string(c.outlet).c_str());
+        auto& tabs = widget<QTabWidget>("tabView");
+        for (int page = 0; page < tabs.count(); ++page)
+            if (tabs.widget(page)->isAncestorOf(&control))
+                tabs.setCurrentIndex(page);
+        if (auto* field = qobject_cast<QLineEdit*>(&control)) {
+            field->selectAll();
+            QTest::keyClicks(field, QString::fromUtf8(c.typed));
+            QTest::keyClick(field, Qt::Key_Return);
+        } else if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
+            button->click();
+        } else {
+            QTest::mouseClick(&control, Qt::LeftButton);
+        }
+        std::string all;
+        for (const Message& sent : takeSent())
+            all += (all.empty() ? "" : "; ") + described(sent);
+        EXPECT_EQ(all, c.sent) << c.outlet;
+    }
 }
 
 TEST_F(Layout, helpTellsOfTheTabThatIsShownAndOfControlsThatExist) {
