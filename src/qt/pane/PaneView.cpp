@@ -133,6 +133,7 @@ PaneView::PaneView(QWidget* parent)
     about.ProductIcon->setSymbol(Symbol::Shield);
     // The pages come into being after what stands around them.
     setTabOrder(about.uninstallButton, frame.authView);
+    setTabOrder(frame.authView, frame.HelpButton);
 
     constexpr int above = 16;
     constexpr int between = 12;
