@@ -48,7 +48,7 @@ class Settings(SystemTest):
 class Assistive(SystemTest):
     # What stands around the tabs and on each, with the setting that pressing it changes.
     AROUND = {("Power protection", "check box"): None, ("Quit Zarvil", "push button"): None,
-              ("Choose devices", "link"): None}
+              ("Choose devices", "link"): None, ("Help", "push button"): None}
     CONTROLS = {
         "General": {
             ("Shutdown delay", "text"): None, ("Delay in minutes", "check box"): None,
