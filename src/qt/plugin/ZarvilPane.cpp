@@ -12,6 +12,7 @@
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
 #include "qt/pane/PaneView.h"
+#include "qt/translation/Translation.h"
 #include "qt/widgets/SymbolWidget.h"
 
 #include <QCoreApplication>
@@ -72,6 +73,7 @@ struct ZarvilPane::Loaded {
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
     }
 
+    qt::Translation translation{qt::Translation::Toolkit::Left};
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;

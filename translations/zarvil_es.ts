@@ -1,0 +1,967 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>AboutTab</name>
+    <message>
+        <source>Zarvil</source>
+        <translation>Zarvil</translation>
+    </message>
+    <message>
+        <source>Watches the power devices of this computer and shuts it down in order when the power fails.</source>
+        <translation>Vigila la alimentación de este equipo y lo apaga de forma ordenada si falla la corriente.</translation>
+    </message>
+    <message>
+        <source>Opens the maker&apos;s web site</source>
+        <translation>Abre el sitio web del fabricante</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Asistencia</translation>
+    </message>
+    <message>
+        <source>Opens the support page</source>
+        <translation>Abre la página de asistencia</translation>
+    </message>
+    <message>
+        <source>Send feedback</source>
+        <translation>Enviar comentarios</translation>
+    </message>
+    <message>
+        <source>Writes an e-mail to the makers</source>
+        <translation>Escribe un correo a los autores</translation>
+    </message>
+    <message>
+        <source>Follow us</source>
+        <translation>Síganos</translation>
+    </message>
+    <message>
+        <source>Opens the maker&apos;s page on a social network</source>
+        <translation>Abre la página del fabricante en una red social</translation>
+    </message>
+    <message>
+        <source>Recommend Zarvil</source>
+        <translation>Recomendar Zarvil</translation>
+    </message>
+    <message>
+        <source>Composes a post about Zarvil</source>
+        <translation>Redacta una publicación sobre Zarvil</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Actualizaciones</translation>
+    </message>
+    <message>
+        <source>Check for updates auto&amp;matically</source>
+        <translation>Buscar actuali&amp;zaciones automáticamente</translation>
+    </message>
+    <message>
+        <source>The agent looks for new versions by itself</source>
+        <translation>El agente busca nuevas versiones por sí mismo</translation>
+    </message>
+    <message>
+        <source>Look for a new version now</source>
+        <translation>Buscar una versión nueva ahora</translation>
+    </message>
+    <message>
+        <source>The result is shown by Zarvil.</source>
+        <translation>Zarvil muestra el resultado.</translation>
+    </message>
+    <message>
+        <source>Check for &amp;Updates Now</source>
+        <translation>&amp;Buscar ahora</translation>
+    </message>
+    <message>
+        <source>Asks the agent to look for a new version</source>
+        <translation>Pide al agente que busque una versión nueva</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>Mantenimiento</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>What Zarvil has done and when.</source>
+        <translation>Qué ha hecho Zarvil y cuándo.</translation>
+    </message>
+    <message>
+        <source>View &amp;Log</source>
+        <translation>&amp;Ver el registro</translation>
+    </message>
+    <message>
+        <source>Shows the agent&apos;s log</source>
+        <translation>Muestra el registro del agente</translation>
+    </message>
+    <message>
+        <source>Uninstall Zarvil</source>
+        <translation>Desinstalar Zarvil</translation>
+    </message>
+    <message>
+        <source>Removes Zarvil, this pane and the settings. Your scripts are kept.</source>
+        <translation>Quita Zarvil, este panel y los ajustes. Los scripts se conservan.</translation>
+    </message>
+    <message>
+        <source>Un&amp;install…</source>
+        <translation>Des&amp;instalar…</translation>
+    </message>
+    <message>
+        <source>Asks before anything is removed</source>
+        <translation>Pregunta antes de quitar nada</translation>
+    </message>
+</context>
+<context>
+    <name>AlertsTab</name>
+    <message>
+        <source>E-mail</source>
+        <translation>Correo electrónico</translation>
+    </message>
+    <message>
+        <source>Send an &amp;e-mail when the power fails</source>
+        <translation>Enviar un co&amp;rreo si falla la corriente</translation>
+    </message>
+    <message>
+        <source>The agent sends the message</source>
+        <translation>El agente envía el mensaje</translation>
+    </message>
+    <message>
+        <source>Add&amp;ress</source>
+        <translation>D&amp;irección</translation>
+    </message>
+    <message>
+        <source>Press Return to store the address. Only a complete address is stored.</source>
+        <translation>Pulse Intro para guardar la dirección. Solo se guarda una dirección completa.</translation>
+    </message>
+    <message>
+        <source>name@example.org</source>
+        <translation>nombre@example.org</translation>
+    </message>
+    <message>
+        <source>Pushover</source>
+        <translation>Pushover</translation>
+    </message>
+    <message>
+        <source>What is Pushover?</source>
+        <translation>¿Qué es Pushover?</translation>
+    </message>
+    <message>
+        <source>Opens the Pushover web site</source>
+        <translation>Abre el sitio web de Pushover</translation>
+    </message>
+    <message>
+        <source>Send a &amp;push notification when the power fails</source>
+        <translation>Enviar una notificación &amp;push si falla la corriente</translation>
+    </message>
+    <message>
+        <source>Pushover delivers notifications to your phone</source>
+        <translation>Pushover entrega notificaciones en el teléfono</translation>
+    </message>
+    <message>
+        <source>To your phone, through the Pushover service.</source>
+        <translation>Al teléfono, a través del servicio Pushover.</translation>
+    </message>
+    <message>
+        <source>&amp;User ID</source>
+        <translation>ID de &amp;usuario</translation>
+    </message>
+    <message>
+        <source>Your Pushover user key. Press Return to store it.</source>
+        <translation>Su clave de usuario de Pushover. Pulse Intro para guardarla.</translation>
+    </message>
+    <message>
+        <source>Pushover user ID</source>
+        <translation>ID de usuario de Pushover</translation>
+    </message>
+    <message>
+        <source>De&amp;vice ID</source>
+        <translation>ID del disposi&amp;tivo</translation>
+    </message>
+    <message>
+        <source>Name of one of your devices; leave it empty for all. Press Return to store it.</source>
+        <translation>Nombre de uno de sus dispositivos; déjelo vacío para todos. Pulse Intro para guardarlo.</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation>Todos los dispositivos</translation>
+    </message>
+    <message>
+        <source>Pushover device ID</source>
+        <translation>ID del dispositivo en Pushover</translation>
+    </message>
+    <message>
+        <source>Leave it empty to reach all your devices.</source>
+        <translation>Déjelo vacío para llegar a todos sus dispositivos.</translation>
+    </message>
+    <message>
+        <source>Send a &amp;Test</source>
+        <translation>En&amp;viar una prueba</translation>
+    </message>
+    <message>
+        <source>Sends a test notification and shows whether the IDs are right</source>
+        <translation>Envía una notificación de prueba y muestra si los ID son correctos</translation>
+    </message>
+    <message>
+        <source>Check under way</source>
+        <translation>Comprobación en curso</translation>
+    </message>
+</context>
+<context>
+    <name>Bundle</name>
+    <message>
+        <source>&quot;%1&quot; is not a preference pane: its Contents/Info.json cannot be read.</source>
+        <translation>«%1» no es un panel de preferencias: no se puede leer su Contents/Info.json.</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; is broken: Contents/Info.json is not valid JSON at byte %2 (%3).</source>
+        <translation>El panel de preferencias «%1» está dañado: Contents/Info.json no es JSON válido en el byte %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; is broken: Contents/Info.json does not hold an object.</source>
+        <translation>El panel de preferencias «%1» está dañado: Contents/Info.json no contiene un objeto.</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; is broken: the text &quot;%2&quot; is missing in Contents/Info.json.</source>
+        <translation>El panel de preferencias «%1» está dañado: falta el texto «%2» en Contents/Info.json.</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; does not exist.</source>
+        <translation>El panel de preferencias «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; is broken: its library &quot;%2&quot; is missing.</source>
+        <translation>El panel de preferencias «%1» está dañado: falta su biblioteca «%2».</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; was made for another program: its library offers &quot;%2&quot; instead of &quot;%3&quot;.</source>
+        <translation>El panel de preferencias «%1» se hizo para otro programa: su biblioteca ofrece «%2» en lugar de «%3».</translation>
+    </message>
+    <message>
+        <source>The library of the preference pane &quot;%1&quot; cannot be loaded: %2</source>
+        <translation>No se puede cargar la biblioteca del panel de preferencias «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The preference pane &quot;%1&quot; is broken: its library offers the class &quot;%2&quot; instead of &quot;%3&quot;.</source>
+        <translation>El panel de preferencias «%1» está dañado: su biblioteca ofrece la clase «%2» en lugar de «%3».</translation>
+    </message>
+</context>
+<context>
+    <name>DevicesTab</name>
+    <message>
+        <source>Tick a device to have Zarvil watch it. Untick it to stop.</source>
+        <translation>Marque un dispositivo para que Zarvil lo vigile. Desmárquelo para dejar de hacerlo.</translation>
+    </message>
+    <message>
+        <source>&amp;Connected</source>
+        <translation>C&amp;onectados</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectados</translation>
+    </message>
+    <message>
+        <source>&amp;Watched</source>
+        <translation>&amp;Vigilados</translation>
+    </message>
+    <message>
+        <source>Watched</source>
+        <translation>Vigilados</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralTab</name>
+    <message>
+        <source>Shutdown</source>
+        <translation>Apagado</translation>
+    </message>
+    <message>
+        <source>Shut down a&amp;fter</source>
+        <translation>Apagar &amp;tras</translation>
+    </message>
+    <message>
+        <source>How long to wait after a power failure before shutting down. Press Return to store it.</source>
+        <translation>Cuánto se espera tras un corte de corriente antes de apagar. Pulse Intro para guardarlo.</translation>
+    </message>
+    <message>
+        <source>Shutdown delay</source>
+        <translation>Tiempo hasta el apagado</translation>
+    </message>
+    <message>
+        <source>Shows the delay in minutes or in seconds</source>
+        <translation>Muestra el tiempo en minutos o en segundos</translation>
+    </message>
+    <message>
+        <source>Delay in minutes</source>
+        <translation>Tiempo en minutos</translation>
+    </message>
+    <message>
+        <source>&amp;Quit applications by force</source>
+        <translation>&amp;Forzar el cierre de las aplicaciones</translation>
+    </message>
+    <message>
+        <source>Ends applications that do not quit by themselves; unsaved changes in them are lost</source>
+        <translation>Cierra las aplicaciones que no terminan por sí mismas; sus cambios sin guardar se pierden</translation>
+    </message>
+    <message>
+        <source>Unsaved changes in them are lost.</source>
+        <translation>Sus cambios sin guardar se pierden.</translation>
+    </message>
+    <message>
+        <source>Test the shutdown</source>
+        <translation>Probar el apagado</translation>
+    </message>
+    <message>
+        <source>Test under way</source>
+        <translation>Prueba en curso</translation>
+    </message>
+    <message>
+        <source>&amp;Test Shutdown</source>
+        <translation>&amp;Probar el apagado</translation>
+    </message>
+    <message>
+        <source>Plays the shutdown sequence without shutting down</source>
+        <translation>Reproduce la secuencia de apagado sin apagar</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>&amp;Warn me before shutting down</source>
+        <translation>A&amp;visar antes de apagar</translation>
+    </message>
+    <message>
+        <source>Shows a message with a countdown when the power has failed</source>
+        <translation>Muestra un mensaje con cuenta atrás cuando ha fallado la corriente</translation>
+    </message>
+    <message>
+        <source>A message counts down to the shutdown.</source>
+        <translation>Un mensaje muestra la cuenta atrás hasta el apagado.</translation>
+    </message>
+    <message>
+        <source>The message hides itself</source>
+        <translation>El mensaje se oculta solo</translation>
+    </message>
+    <message>
+        <source>Shown as the agent has it; it is set in the shutdown message itself.</source>
+        <translation>Se muestra tal como lo tiene el agente; se ajusta en el propio mensaje de apagado.</translation>
+    </message>
+    <message>
+        <source>Set in the message itself. The countdown goes on when it is hidden.</source>
+        <translation>Se ajusta en el propio mensaje. La cuenta atrás sigue aunque esté oculto.</translation>
+    </message>
+    <message>
+        <source>&amp;Notify me when the power fails</source>
+        <translation>&amp;Notificar los cortes de corriente</translation>
+    </message>
+    <message>
+        <source>Shows a desktop notification at the moment of a power failure</source>
+        <translation>Muestra una notificación en el momento del corte de corriente</translation>
+    </message>
+    <message>
+        <source>A desktop notification at the moment of the failure.</source>
+        <translation>Una notificación de escritorio en el momento del corte.</translation>
+    </message>
+    <message>
+        <source>Tell me when a device is &amp;connected</source>
+        <translation>Avisar cuando se conecte &amp;un dispositivo</translation>
+    </message>
+    <message>
+        <source>Shows a message when a power device is plugged in</source>
+        <translation>Muestra un mensaje cuando se enchufa un dispositivo de alimentación</translation>
+    </message>
+    <message>
+        <source>The message goes away by itself.</source>
+        <translation>El mensaje desaparece solo.</translation>
+    </message>
+    <message>
+        <source>Startup and status icon</source>
+        <translation>Inicio e icono de estado</translation>
+    </message>
+    <message>
+        <source>&amp;Launch Zarvil at login</source>
+        <translation>&amp;Iniciar Zarvil al iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Starts the agent whenever you log in</source>
+        <translation>Inicia el agente cada vez que inicia sesión</translation>
+    </message>
+    <message>
+        <source>Protection starts as soon as you log in.</source>
+        <translation>La protección empieza en cuanto inicia sesión.</translation>
+    </message>
+    <message>
+        <source>Show Zarvil &amp;in the status bar</source>
+        <translation>&amp;Mostrar Zarvil en la barra de estado</translation>
+    </message>
+    <message>
+        <source>Shows an icon of the agent in the status bar</source>
+        <translation>Muestra un icono del agente en la barra de estado</translation>
+    </message>
+    <message>
+        <source>&amp;Monochrome icon</source>
+        <translation>Icono monoc&amp;romo</translation>
+    </message>
+    <message>
+        <source>Draws the status-bar icon in one color</source>
+        <translation>Dibuja el icono de la barra de estado en un solo color</translation>
+    </message>
+</context>
+<context>
+    <name>Host</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>There is no preference pane in &quot;%1&quot; and none in &quot;%2&quot;.</source>
+        <translation>No hay ningún panel de preferencias en «%1» ni en «%2».</translation>
+    </message>
+    <message>
+        <source>The preferences are open already, but their window does not answer.</source>
+        <translation>Las preferencias ya están abiertas, pero su ventana no responde.</translation>
+    </message>
+</context>
+<context>
+    <name>MainBundle</name>
+    <message numerus="yes">
+        <source>%n devices watched</source>
+        <translation>
+            <numerusform>%n dispositivo vigilado</numerusform>
+            <numerusform>%n dispositivos vigilados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A test is running. Nothing is shut down.</source>
+        <translation>Hay una prueba en curso. No se apaga nada.</translation>
+    </message>
+    <message>
+        <source>Administrator rights: checking</source>
+        <translation>Derechos de administrador: comprobando</translation>
+    </message>
+    <message>
+        <source>Administrator rights: locked</source>
+        <translation>Derechos de administrador: bloqueados</translation>
+    </message>
+    <message>
+        <source>Administrator rights: unlocked</source>
+        <translation>Derechos de administrador: desbloqueados</translation>
+    </message>
+    <message>
+        <source>Can&apos;t execute empty script!</source>
+        <translation>¡No se puede ejecutar un script vacío!</translation>
+    </message>
+    <message>
+        <source>Cannot be changed while the warning hides itself.</source>
+        <translation>No se puede cambiar mientras el aviso se oculte solo.</translation>
+    </message>
+    <message>
+        <source>Connect a power supply with a data cable. It appears here by itself.</source>
+        <translation>Conecte una fuente de alimentación con un cable de datos. Aparecerá aquí por sí sola.</translation>
+    </message>
+    <message>
+        <source>Connection timeout! Check your Internet connection!</source>
+        <translation>¡Se agotó el tiempo de conexión! ¡Compruebe la conexión a Internet!</translation>
+    </message>
+    <message>
+        <source>Delete this script and its file at once. This cannot be undone.</source>
+        <translation>Elimina de inmediato este script y su archivo. No se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Edit the title and the text in place.</source>
+        <translation>Editar el título y el texto aquí mismo.</translation>
+    </message>
+    <message>
+        <source>Edit “%1”</source>
+        <translation>Editar «%1»</translation>
+    </message>
+    <message>
+        <source>Editing. Done saves the title and the text.</source>
+        <translation>Editando. «Hecho» guarda el título y el texto.</translation>
+    </message>
+    <message>
+        <source>Failed with exit status %1: %2</source>
+        <translation>Falló con el estado de salida %1: %2</translation>
+    </message>
+    <message>
+        <source>Invalid settings! Check your User ID and Device ID(if any)</source>
+        <translation>¡Ajustes no válidos! Compruebe el ID de usuario y el ID del dispositivo (si lo hay)</translation>
+    </message>
+    <message>
+        <source>Launch it to see your devices and change the settings.</source>
+        <translation>Inícielo para ver los dispositivos y cambiar los ajustes.</translation>
+    </message>
+    <message>
+        <source>Launching it…</source>
+        <translation>Iniciando…</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Bloqueado</translation>
+    </message>
+    <message>
+        <source>Looking for Zarvil…</source>
+        <translation>Buscando Zarvil…</translation>
+    </message>
+    <message>
+        <source>Minutes from the power failure. Return stores the number.</source>
+        <translation>Minutos desde el corte de corriente. Intro guarda el número.</translation>
+    </message>
+    <message>
+        <source>No device connected</source>
+        <translation>Ningún dispositivo conectado</translation>
+    </message>
+    <message>
+        <source>No device is watched, so a power failure goes unnoticed.</source>
+        <translation>No se vigila ningún dispositivo, así que un corte pasaría inadvertido.</translation>
+    </message>
+    <message>
+        <source>No device watched</source>
+        <translation>Ningún dispositivo vigilado</translation>
+    </message>
+    <message>
+        <source>No devices to show</source>
+        <translation>No hay dispositivos que mostrar</translation>
+    </message>
+    <message>
+        <source>No scripts to show</source>
+        <translation>No hay scripts que mostrar</translation>
+    </message>
+    <message>
+        <source>No scripts yet</source>
+        <translation>Aún no hay scripts</translation>
+    </message>
+    <message>
+        <source>No serial number</source>
+        <translation>Sin número de serie</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>No guardado</translation>
+    </message>
+    <message>
+        <source>Not stored while Zarvil is not running.</source>
+        <translation>No se guarda mientras Zarvil no esté en ejecución.</translation>
+    </message>
+    <message>
+        <source>Nothing happens when the power fails.</source>
+        <translation>Si falla la corriente, no ocurre nada.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Only a number of 0 or more is taken, such as %1. The delay stays as it was.</source>
+        <translation>Solo se acepta un número igual o mayor que 0, como %1. El tiempo sigue como estaba.</translation>
+    </message>
+    <message>
+        <source>Plays the whole sequence without shutting down.</source>
+        <translation>Reproduce toda la secuencia sin apagar.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Remove “%1”</source>
+        <translation>Quitar «%1»</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Run this script once, now. The window waits until it has ended.</source>
+        <translation>Ejecuta este script una vez, ahora. La ventana espera a que termine.</translation>
+    </message>
+    <message>
+        <source>Run “%1”</source>
+        <translation>Ejecutar «%1»</translation>
+    </message>
+    <message>
+        <source>Running…</source>
+        <translation>Ejecutando…</translation>
+    </message>
+    <message>
+        <source>Save the title and the text.</source>
+        <translation>Guardar el título y el texto.</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Guardar «%1»</translation>
+    </message>
+    <message>
+        <source>Script “%1”</source>
+        <translation>Script «%1»</translation>
+    </message>
+    <message>
+        <source>Scripts are off</source>
+        <translation>Los scripts están desactivados</translation>
+    </message>
+    <message>
+        <source>Seconds from the power failure. Return stores the number.</source>
+        <translation>Segundos desde el corte de corriente. Intro guarda el número.</translation>
+    </message>
+    <message>
+        <source>Settings are valid!</source>
+        <translation>¡Los ajustes son válidos!</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stored with Return, once it is complete and ends in two to four letters.</source>
+        <translation>Se guarda con Intro cuando está completa y termina en entre dos y cuatro letras.</translation>
+    </message>
+    <message>
+        <source>Switch the protection on to test it.</source>
+        <translation>Active la protección para probarla.</translation>
+    </message>
+    <message>
+        <source>Text of the script</source>
+        <translation>Texto del script</translation>
+    </message>
+    <message>
+        <source>The operation could not be completed.</source>
+        <translation>No se pudo completar la operación.</translation>
+    </message>
+    <message>
+        <source>The script “%@” is running.</source>
+        <translation>El script «%@» se está ejecutando.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer, so Zarvil cannot be reached.</source>
+        <translation>El bus de sesión no responde, así que no se puede contactar con Zarvil.</translation>
+    </message>
+    <message>
+        <source>The test has ended. Nothing was shut down.</source>
+        <translation>La prueba ha terminado. No se ha apagado nada.</translation>
+    </message>
+    <message>
+        <source>There is a script of this title already.</source>
+        <translation>Ya hay un script con este título.</translation>
+    </message>
+    <message>
+        <source>They are kept. Switch them on to see them.</source>
+        <translation>Se conservan. Actívelos para verlos.</translation>
+    </message>
+    <message>
+        <source>This script is empty. Edit it before you run it.</source>
+        <translation>Este script está vacío. Edítelo antes de ejecutarlo.</translation>
+    </message>
+    <message>
+        <source>This script is too large to be edited here (%1). Its text stays as it is; its title can be changed.</source>
+        <translation>Este script es demasiado grande para editarlo aquí (%1). Su texto queda como está; su título se puede cambiar.</translation>
+    </message>
+    <message>
+        <source>This system has no authority that could unlock it.</source>
+        <translation>Este sistema no tiene ninguna autoridad que pueda desbloquearlo.</translation>
+    </message>
+    <message>
+        <source>Tick a connected device. Until then a power failure goes unnoticed.</source>
+        <translation>Marque un dispositivo conectado. Hasta entonces, un corte pasará inadvertido.</translation>
+    </message>
+    <message>
+        <source>Title of the script</source>
+        <translation>Título del script</translation>
+    </message>
+    <message>
+        <source>Type a title above to create the first one.</source>
+        <translation>Escriba un título arriba para crear el primero.</translation>
+    </message>
+    <message>
+        <source>Unknow error!</source>
+        <translation>¡Error desconocido!</translation>
+    </message>
+    <message>
+        <source>Unlocked</source>
+        <translation>Desbloqueado</translation>
+    </message>
+    <message>
+        <source>Unnamed device</source>
+        <translation>Dispositivo sin nombre</translation>
+    </message>
+    <message>
+        <source>Your devices are listed here while Zarvil runs.</source>
+        <translation>Los dispositivos aparecen aquí mientras Zarvil está en ejecución.</translation>
+    </message>
+    <message>
+        <source>Your scripts are listed here while Zarvil runs.</source>
+        <translation>Los scripts aparecen aquí mientras Zarvil está en ejecución.</translation>
+    </message>
+    <message>
+        <source>Zarvil is not installed.</source>
+        <translation>Zarvil no está instalado.</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>minutos</translation>
+    </message>
+    <message>
+        <source>not needed for any setting here</source>
+        <translation>no hacen falta para ningún ajuste de aquí</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>segundos</translation>
+    </message>
+    <message numerus="yes">
+        <source>shuts down after %n minutes</source>
+        <translation>
+            <numerusform>apaga tras %n minuto</numerusform>
+            <numerusform>apaga tras %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>shuts down after %n seconds</source>
+        <translation>
+            <numerusform>apaga tras %n segundo</numerusform>
+            <numerusform>apaga tras %n segundos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>shuts down at once</source>
+        <translation>apaga de inmediato</translation>
+    </message>
+</context>
+<context>
+    <name>PaneView</name>
+    <message>
+        <source>Zarvil</source>
+        <translation>Zarvil</translation>
+    </message>
+    <message>
+        <source>Protection is on</source>
+        <translation>La protección está activada</translation>
+    </message>
+    <message>
+        <source>Protection is off</source>
+        <translation>La protección está desactivada</translation>
+    </message>
+    <message>
+        <source>Looking for Zarvil</source>
+        <translation>Buscando Zarvil</translation>
+    </message>
+    <message>
+        <source>Choose devices</source>
+        <translation>Elegir dispositivos</translation>
+    </message>
+    <message>
+        <source>Shows the tab where you choose the devices to watch</source>
+        <translation>Muestra la pestaña donde se eligen los dispositivos que vigilar</translation>
+    </message>
+    <message>
+        <source>Switches the power-failure protection on or off</source>
+        <translation>Activa o desactiva la protección frente a cortes de corriente</translation>
+    </message>
+    <message>
+        <source>Power protection</source>
+        <translation>Protección frente a cortes</translation>
+    </message>
+    <message>
+        <source>Launching Zarvil</source>
+        <translation>Iniciando Zarvil</translation>
+    </message>
+    <message>
+        <source>Zarvil is running</source>
+        <translation>Zarvil está en ejecución</translation>
+    </message>
+    <message>
+        <source>Zarvil is not running</source>
+        <translation>Zarvil no está en ejecución</translation>
+    </message>
+    <message>
+        <source>Launch Zarvil</source>
+        <translation>Iniciar Zarvil</translation>
+    </message>
+    <message>
+        <source>Starts or quits the background agent that watches the power</source>
+        <translation>Inicia o cierra el agente que vigila la alimentación en segundo plano</translation>
+    </message>
+    <message>
+        <source>&amp;Devices</source>
+        <translation>&amp;Dispositivos</translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation>&amp;General</translation>
+    </message>
+    <message>
+        <source>&amp;Alerts</source>
+        <translation>&amp;Alertas</translation>
+    </message>
+    <message>
+        <source>&amp;Scripts</source>
+        <translation>&amp;Scripts</translation>
+    </message>
+    <message>
+        <source>A&amp;bout</source>
+        <translation>A&amp;cerca de</translation>
+    </message>
+    <message>
+        <source>Administrator rights</source>
+        <translation>Derechos de administrador</translation>
+    </message>
+    <message>
+        <source>Shows whether this account may administer the computer. No setting of this pane needs the lock to be open.</source>
+        <translation>Muestra si esta cuenta puede administrar el equipo. Ningún ajuste de este panel necesita que el candado esté abierto.</translation>
+    </message>
+</context>
+<context>
+    <name>PolkitAuthorization</name>
+    <message>
+        <source>Administrator rights cannot be checked: the authorization service (polkit) is not available.</source>
+        <translation>No se pueden comprobar los derechos de administrador: el servicio de autorización (polkit) no está disponible.</translation>
+    </message>
+    <message>
+        <source>The authentication was cancelled.</source>
+        <translation>Se canceló la autenticación.</translation>
+    </message>
+    <message>
+        <source>Administrator rights cannot be checked: Zarvil&apos;s policy for the authorization service (polkit) is not installed.</source>
+        <translation>No se pueden comprobar los derechos de administrador: la directiva de Zarvil para el servicio de autorización (polkit) no está instalada.</translation>
+    </message>
+    <message>
+        <source>Administrator rights cannot be checked: the authorization service (polkit) has failed.</source>
+        <translation>No se pueden comprobar los derechos de administrador: el servicio de autorización (polkit) ha fallado.</translation>
+    </message>
+    <message>
+        <source>No authentication agent is running that could ask for an administrator&apos;s password.</source>
+        <translation>No hay en ejecución ningún agente de autenticación que pueda pedir la contraseña de un administrador.</translation>
+    </message>
+    <message>
+        <source>An administrator&apos;s password is needed.</source>
+        <translation>Se necesita la contraseña de un administrador.</translation>
+    </message>
+    <message>
+        <source>The authentication has failed.</source>
+        <translation>La autenticación ha fallado.</translation>
+    </message>
+    <message>
+        <source>You do not have administrator rights.</source>
+        <translation>No tiene derechos de administrador.</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptsTab</name>
+    <message>
+        <source>&amp;Run these scripts when the power fails</source>
+        <translation>&amp;Ejecutar estos scripts si falla la corriente</translation>
+    </message>
+    <message>
+        <source>The agent runs the scripts before the shutdown</source>
+        <translation>El agente ejecuta los scripts antes de apagar</translation>
+    </message>
+    <message>
+        <source>Zarvil runs them before it shuts the computer down.</source>
+        <translation>Zarvil los ejecuta antes de apagar el equipo.</translation>
+    </message>
+    <message>
+        <source>Ne&amp;w script</source>
+        <translation>&amp;Nuevo script</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Title of the new script</source>
+        <translation>Título del nuevo script</translation>
+    </message>
+    <message>
+        <source>Title of the new script; it is also the name of its file</source>
+        <translation>Título del nuevo script; es también el nombre de su archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>C&amp;rear</translation>
+    </message>
+    <message>
+        <source>Creates an empty script of this title</source>
+        <translation>Crea un script vacío con este título</translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <translation>Scripts</translation>
+    </message>
+</context>
+<context>
+    <name>UninstallPanel</name>
+    <message>
+        <source>Uninstall Zarvil</source>
+        <translation>Desinstalar Zarvil</translation>
+    </message>
+    <message>
+        <source>Uninstall Zarvil?</source>
+        <translation>¿Desinstalar Zarvil?</translation>
+    </message>
+    <message>
+        <source>Zarvil quits, and these are removed:</source>
+        <translation>Zarvil se cierra y se quita lo siguiente:</translation>
+    </message>
+    <message>
+        <source>•  the Zarvil application
+•  this pane
+•  the settings of Zarvil</source>
+        <translation>•  la aplicación Zarvil
+•  este panel
+•  los ajustes de Zarvil</translation>
+    </message>
+    <message>
+        <source>Your scripts are kept. This window closes at once, and none of it can be undone.</source>
+        <translation>Los scripts se conservan. Esta ventana se cierra de inmediato y nada de ello se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Uninstall</source>
+        <translation>Desinstalar</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::BusConnection</name>
+    <message>
+        <source>The message bus does not answer</source>
+        <translation>El bus de mensajes no responde</translation>
+    </message>
+    <message>
+        <source>The connection to the message bus was lost</source>
+        <translation>Se perdió la conexión con el bus de mensajes</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::host::HostWindow</name>
+    <message>
+        <source>Preference panes</source>
+        <translation>Paneles de preferencias</translation>
+    </message>
+    <message>
+        <source>Broken pane</source>
+        <translation>Panel dañado</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+</context>
+</TS>
