@@ -55,8 +55,8 @@ TEST_F(AgentAnswers, aTestRunsOnceAndIsReportedWhileItRuns) {
 
 TEST_F(AgentAnswers, savedDevicesKeepEveryKeyOverARestart) {
     Dictionary device = deviceRecord("Gerät \x01 電源", "a\r\nb", "<&\"'>]]>");
-    device.setObject("Further", Dictionary{{"list", Array{1, 2.5, true, Data{std::byte{0}}, ""}},
-                                           {"control \x02 key", Array{}}});
+    device.setObject("Further",
+                     Dictionary{{"list", Array{1, 2.5, true, ""}}, {"control \x02 key", Array{}}});
     const Dictionary twin = deviceRecord("Gerät \x01 電源", "a\r\nb", "<&\"'>]]>");
     answersTo({message::addedSaveItem, Dictionary{{"device", device}}});
     answersTo({message::addedSaveItem, Dictionary{{"device", twin}}});

@@ -1,6 +1,7 @@
 """Uninstalling from an installed tree, and what the pane has opened outside of itself."""
 
 import hashlib
+import json
 import os
 import pathlib
 import signal

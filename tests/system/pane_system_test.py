@@ -30,13 +30,18 @@ class Settings(SystemTest):
         for box, on in shown.items():
             wait_until(lambda: self.pane.checked(box) == on, f"{box} shows {on} again")
 
-    def test_a_delay_is_stored_in_seconds_and_nonsense_as_zero(self):
+    def test_a_delay_is_stored_in_seconds_and_nonsense_is_refused_with_a_reason(self):
         self.start()
         self.pane.choose_tab("General")
-        for typed, seconds in (("75", 75), ("-1", -1), ("letters", 0), ("", 0),
+        refusal = "Only a number of 0 or more is taken, such as 1.5. The delay stays as it was."
+        for typed, seconds in (("75", 75), ("-1", None), ("letters", None), ("76", 76), ("", None),
                                ("9" * 30, 2**63 - 1)):
+            before = self.session.stored("ShutdownDelay")
             self.pane.enter("Shutdown delay", typed)
-            wait_until(lambda: self.session.stored("ShutdownDelay") == seconds, f"{typed} is stored")
+            refused = seconds is None
+            wait_until(lambda: self.pane.showing(refusal) == refused, f"{typed} is judged")
+            wait_until(lambda: self.session.stored("ShutdownDelay") ==
+                       (before if refused else seconds), f"{typed} is stored if it is a delay")
 
 
 class Presence(SystemTest):

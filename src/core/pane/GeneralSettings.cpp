@@ -31,10 +31,7 @@ void Zarvil_Preferences::setUpDelayField() {
         const std::string& separator = platform_.decimalSeparator;
         if (numbers::isUnsignedDecimal(text, separator))
             return std::string();
-        std::string fault = platform_.strings.localizedString(notADelay);
-        if (const auto example = fault.find("%1"); example != std::string::npos)
-            fault.replace(example, 2, "1" + separator + "5");
-        return fault;
+        return platform_.strings.localizedString(notADelay, {"1" + separator + "5"});
     });
 }
 

@@ -7,20 +7,13 @@ namespace zarvil {
 namespace {
 
 constexpr double windowDelay = 1.0; // seconds
-constexpr std::string_view titleMark = "%@";
-
-std::string withTitle(std::string text, std::string_view title) {
-    if (const auto mark = text.find(titleMark); mark != std::string::npos)
-        text.replace(mark, titleMark.size(), title);
-    return text;
-}
 
 } // namespace
 
 void ScriptProgress::run(std::string_view title, std::string_view source, Ended ended) {
     ended_ = std::move(ended);
     hold_ = platform_.handlers.hold();
-    text_.set(withTitle(platform_.strings.localizedString("The script “%@” is running."), title));
+    text_.set(platform_.strings.localizedString("The script “%1” is running.", {title}));
     stopping_.set(false);
     running_.set(true);
     // Not by way of the handlers, which are held.

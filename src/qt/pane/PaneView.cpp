@@ -143,6 +143,7 @@ PaneView::PaneView(QWidget* parent)
     tabs_->setCornerWidget(gap_, Qt::TopLeftCorner);
     // No key stroke switches anything by accident.
     tabs_->tabBar()->setFocus();
+    adaptToFont();
 }
 
 QSize PaneView::sizeHint() const {
@@ -156,9 +157,19 @@ void PaneView::adaptToHeight() {
     bottom_->setVisible(!low);
 }
 
+/// The lists scroll by themselves as long as a few cards stand in sight, then the page does.
+void PaneView::adaptToFont() {
+    constexpr int cards = 3;
+    const int card = 2 * theme::lineHeight(*this) + 4 * theme::unit(*this);
+    for (const char* name : {"connectedDevices", "selectedDevices"})
+        findChild<QWidget*>(name)->setMinimumHeight(cards * card);
+}
+
 bool PaneView::event(QEvent* event) {
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
+        adaptToFont();
         adaptToHeight();
+    }
     return QWidget::event(event);
 }
 

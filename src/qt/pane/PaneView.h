@@ -30,6 +30,7 @@ private:
     class Gap;
 
     void adaptToHeight();
+    void adaptToFont();
 
     Column* top_;
     Column* bottom_;

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -112,6 +113,8 @@ QSize Column::sizeHint() const {
     return {width, heightForWidth(width)};
 }
 
+bool Column::hasHeightForWidth() const { return layout() && layout()->hasHeightForWidth(); }
+
 int Column::heightForWidth(int width) const {
     if (!layout())
         return -1;
@@ -192,22 +195,56 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-// Row
+// Arranger
 
-Row::Row(QWidget* parent) : QWidget(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+class Arranger::Layout final : public QLayout {
+public:
+    explicit Layout(Arranger& arranger) : QLayout(&arranger), arranger_(arranger) {
+        setContentsMargins(0, 0, 0, 0);
+        // The widget says itself how small it may become.
+        setSizeConstraint(QLayout::SetNoConstraint);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return arranger_.sizeHint(); }
+    [[nodiscard]] QSize minimumSize() const override { return arranger_.minimumSizeHint(); }
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override {
+        return arranger_.heightForWidth(width);
+    }
+    void setGeometry(const QRect& place) override {
+        QLayout::setGeometry(place);
+        arranger_.arrangeChildren();
+    }
+
+    // It holds no items: the children are the arranger's own affair.
+    void addItem(QLayoutItem* item) override { delete item; }
+    [[nodiscard]] int count() const override { return 0; }
+    [[nodiscard]] QLayoutItem* itemAt(int /*index*/) const override { return nullptr; }
+    QLayoutItem* takeAt(int /*index*/) override { return nullptr; }
+
+private:
+    Arranger& arranger_;
+};
+
+Arranger::Arranger(QWidget* parent) : QWidget(parent) {
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    new Layout(*this);
 }
+
+// Row
+
+Row::Row(QWidget* parent) : Arranger(parent) {}
 
 void Row::setKind(Kind kind) {
     kind_ = kind;
-    updateGeometry();
+    layout()->invalidate();
 }
 
 void Row::setStartWidth(int width) {
     startWidth_ = width;
-    updateGeometry();
+    layout()->invalidate();
 }
 
 void Row::setFollows(const QString& name) { follows_ = name; }
@@ -350,7 +387,7 @@ int Row::arrange(int width, std::vector<Place>& places) const {
     return y + pad.bottom();
 }
 
-void Row::applyArrangement() {
+void Row::arrangeChildren() {
     std::vector<Place> places;
     arrange(width(), places);
     for (const Place& place : places)
@@ -399,7 +436,7 @@ void Row::greyLabels() {
 bool Row::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::EnabledChange && watched == followed())
         greyLabels();
-    return QWidget::eventFilter(watched, event);
+    return Arranger::eventFilter(watched, event);
 }
 
 bool Row::event(QEvent* event) {
@@ -407,14 +444,8 @@ bool Row::event(QEvent* event) {
         static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
     if (event->type() == QEvent::Polish)
         greyLabels();
-    if (asksForArrangement(*event)) {
-        updateGeometry();
-        applyArrangement();
-    }
-    return QWidget::event(event);
+    return Arranger::event(event);
 }
-
-void Row::resizeEvent(QResizeEvent* /*event*/) { applyArrangement(); }
 
 // BannerRow
 
@@ -424,9 +455,7 @@ void BannerRow::setProminent(bool prominent) {
     if (prominent_ == prominent)
         return;
     prominent_ = prominent;
-    updateGeometry();
-    QEvent again(QEvent::LayoutRequest);
-    QApplication::sendEvent(this, &again);
+    layout()->invalidate();
     update();
 }
 
@@ -452,11 +481,7 @@ void BannerRow::paintEvent(QPaintEvent* /*event*/) {
 
 // Flow
 
-Flow::Flow(QWidget* parent) : QWidget(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
-}
+Flow::Flow(QWidget* parent) : Arranger(parent) {}
 
 int Flow::arrange(int width, bool apply) const {
     const int gap = property("gap").isValid() ? property("gap").toInt() : theme::unit(*this);
@@ -480,7 +505,15 @@ int Flow::arrange(int width, bool apply) const {
         height = 0;
     };
     forEachChild(*this, [&](QWidget* child) {
-        const int wish = std::min(wishOf(*child).width(), width);
+        int wish = std::min(wishOf(*child).width(), width);
+        // A line that may be shortened makes room for what follows it.
+        if (const auto* label = qobject_cast<const TextLabel*>(child); label && label->isElided()) {
+            int others = 0;
+            forEachChild(*this, [&](const QWidget* other) {
+                others += other == child ? 0 : wishOf(*other).width() + gap;
+            });
+            wish = std::min(wish, std::max(width - others, child->minimumSizeHint().width()));
+        }
         if (x > 0 && x + wish > width) {
             endLine();
             y += textGap;
@@ -512,15 +545,7 @@ QSize Flow::minimumSizeHint() const {
     return {width, theme::lineHeight(*this)};
 }
 
-bool Flow::event(QEvent* event) {
-    if (asksForArrangement(*event)) {
-        updateGeometry();
-        arrange(width(), true);
-    }
-    return QWidget::event(event);
-}
-
-void Flow::resizeEvent(QResizeEvent* /*event*/) { arrange(width(), true); }
+void Flow::arrangeChildren() { arrange(width(), true); }
 
 // Columns
 
@@ -539,7 +564,7 @@ void Columns::resizeEvent(QResizeEvent* event) {
 // CheckBox
 
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

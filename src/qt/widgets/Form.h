@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] bool hasHeightForWidth() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
     /// Above and below the layout.
     void setVerticalMargins(int top, int bottom);
@@ -72,11 +72,29 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+/// A widget that arranges its children itself, by width. Qt hears of their changes, also while all
+/// is hidden, through a layout that only passes its questions on.
+class Arranger : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Arranger(QWidget* parent);
+
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+
+protected:
+    /// Gives the children their places within the present size.
+    virtual void arrangeChildren() = 0;
+
+private:
+    class Layout;
+};
+
 /// Lays out its children by what they are told in the dynamic property "place": "start" for a
 /// picture before the text, "label" for a form's label, "end" for controls, which move below the
 /// text where that would become too narrow; all others are stacked as text. Below a check box text
 /// starts where the box's text does.
-class Row : public QWidget {
+class Row : public Arranger {
     Q_OBJECT
     Q_PROPERTY(Kind kind READ kind WRITE setKind)
     Q_PROPERTY(int startWidth READ startWidth WRITE setStartWidth)
@@ -104,13 +122,12 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void arrangeChildren() override;
     [[nodiscard]] virtual QMargins padding() const;
     /// How far pictures stand from the row's edge.
     [[nodiscard]] virtual int pictureInset() const { return padding().left(); }
@@ -133,7 +150,6 @@ private:
     [[nodiscard]] int startSpace(const Parts& parts) const;
     /// Places everything into a width; gives the height.
     int arrange(int width, std::vector<Place>& places) const;
-    void applyArrangement();
     void greyLabels();
 
     Kind kind_ = CardRow;
@@ -160,7 +176,7 @@ private:
 };
 
 /// Sets its children one after the other and wraps where they do not fit.
-class Flow final : public QWidget {
+class Flow final : public Arranger {
     Q_OBJECT
 
 public:
@@ -168,12 +184,10 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
-    bool event(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void arrangeChildren() override;
 
 private:
     int arrange(int width, bool apply) const;

@@ -51,8 +51,7 @@ void MessageButtonWidget::setModel(Button& model) {
 
 QSize MessageButtonWidget::sizeHint() const {
     const int title = fontMetrics().horizontalAdvance(withoutMnemonic(text()));
-    return {std::max(standardSize.width(), title + 2 * titleMargin),
-            std::max(standardSize.height(), fontMetrics().height() + titleMargin / 2)};
+    return {std::max(standardSize.width(), title + 2 * titleMargin), standardSize.height()};
 }
 
 void MessageButtonWidget::paintEvent(QPaintEvent* event) {

@@ -19,7 +19,7 @@ constexpr int chipSymbol = 16;
 TextLabel::TextLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed, QSizePolicy::Label);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum, QSizePolicy::Label);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

@@ -5,6 +5,19 @@ namespace {
 
 class GuidanceTest : public PaneHarness {
 protected:
+    /// As a layout wires them.
+    GuidanceTest() {
+        pane.shutdownDelayText.setAction("setShutdownDelay:");
+        pane.toggleMinSec.setAction("toggleMinutesSeconds:");
+        pane.showShutdownMessage.setAction("toggleShowShutdownMessage:");
+        pane.togglePowerButton.setAction("toggleOnOff:");
+        pane.testSettingsButton.setAction("testShutdown:");
+        for (Control* control : std::initializer_list<Control*>{
+                 &pane.shutdownDelayText, &pane.toggleMinSec, &pane.showShutdownMessage,
+                 &pane.togglePowerButton, &pane.testSettingsButton})
+            control->setTarget(&pane);
+    }
+
     void watch(int count) {
         Array devices;
         for (int index = 0; index < count; ++index)

@@ -238,7 +238,7 @@ TEST_F(ScriptItem, aRunBlocksThePaneAndWhatCameMeanwhileFollowsInOrder) {
 }
 
 TEST_F(ScriptItem, afterASecondAWindowTellsWhichScriptRunsAndCanStopIt) {
-    strings.translations["The script “%@” is running."] = "„%@“ läuft.";
+    strings.translations["The script “%1” is running."] = "„%1“ läuft.";
     scriptRunner.lasting = true;
     const ScriptProgress& progress = pane.scriptProgress;
     item(0)->execute();

@@ -79,7 +79,7 @@ TEST_F(Blocking, aRunningScriptTakesNoInputButStop) {
     loadWithAgent();
     auto* box = view.findChild<QCheckBox*>("forceQuit");
     scriptRunner.lasting = true;
-    handlers.run([this] { pane.scriptProgress.run("a", "sleep 1000", [](const std::string&) {}); });
+    handlers.run([this] { pane.scriptProgress.run("a", "sleep 1000", [](const ScriptError*) {}); });
     EXPECT_TRUE(dialogs().empty());
     QTest::mouseClick(box, Qt::LeftButton);
     QTest::keyClick(box, Qt::Key_Space);

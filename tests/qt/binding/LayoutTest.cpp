@@ -241,8 +241,8 @@ TEST_F(Layout, clipsAndOverlapsNothing) {
             EXPECT_EQ(view.size(), c.size) << c.points << " pt";
             for (int page = 0; page < 5; ++page) {
                 widget<QTabWidget>("tabView").setCurrentIndex(page);
-                QApplication::processEvents();
-                EXPECT_EQ(fromQt(misfits(view).join("; ")), "")
+                static_cast<void>(QTest::qWaitFor([this] { return misfits(view).isEmpty(); }));
+                EXPECT_EQ(misfits(view).join("; ").toStdString(), "")
                     << c.points << " pt, " << c.size.width() << " wide, page " << page;
             }
         }
