@@ -51,7 +51,7 @@ QT_TRANSLATE_NOOP("MainBundle", "Stored with Return, once it is complete and end
 QT_TRANSLATE_NOOP("MainBundle", "Switch the protection on to test it."),
 QT_TRANSLATE_NOOP("MainBundle", "Text of the script"),
 QT_TRANSLATE_NOOP("MainBundle", "The operation could not be completed."),
-QT_TRANSLATE_NOOP("MainBundle", "The script “%@” is running."),
+QT_TRANSLATE_NOOP("MainBundle", "The script “%1” is running."),
 QT_TRANSLATE_NOOP("MainBundle", "The session bus does not answer, so Zarvil cannot be reached."),
 QT_TRANSLATE_NOOP("MainBundle", "The test has ended. Nothing was shut down."),
 QT_TRANSLATE_NOOP("MainBundle", "There is a script of this title already."),

@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>Un&amp;install…</source>
-        <translation>إزالة الت&amp;ثبيت…</translation>
+        <translation>&amp;إزالة التثبيت…</translation>
     </message>
     <message>
         <source>Asks before anything is removed</source>
@@ -254,19 +254,19 @@
     </message>
     <message>
         <source>&amp;Connected</source>
-        <translation>الم&amp;تصلة</translation>
+        <translation>&amp;متصلة</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation>المتصلة</translation>
+        <translation>متصلة</translation>
     </message>
     <message>
         <source>&amp;Watched</source>
-        <translation>الم&amp;راقَبة</translation>
+        <translation>&amp;قيد المراقبة</translation>
     </message>
     <message>
         <source>Watched</source>
-        <translation>المراقَبة</translation>
+        <translation>قيد المراقبة</translation>
     </message>
 </context>
 <context>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>&amp;Test Shutdown</source>
-        <translation>ا&amp;ختبار الإيقاف</translation>
+        <translation>&amp;جرّب الإيقاف</translation>
     </message>
     <message>
         <source>Plays the shutdown sequence without shutting down</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>&amp;Warn me before shutting down</source>
-        <translation>&amp;أنذرني قبل إيقاف التشغيل</translation>
+        <translation>&amp;نبّهني قبل إيقاف التشغيل</translation>
     </message>
     <message>
         <source>Shows a message with a countdown when the power has failed</source>
@@ -641,10 +641,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The script “%@” is running.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -746,6 +742,10 @@
         <source>shuts down at once</source>
         <translation>إيقاف فوري</translation>
     </message>
+    <message>
+        <source>The script “%1” is running.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -803,7 +803,7 @@
     </message>
     <message>
         <source>&amp;Devices</source>
-        <translation>الأ&amp;جهزة</translation>
+        <translation>&amp;أجهزة</translation>
     </message>
     <message>
         <source>&amp;General</source>
@@ -811,11 +811,11 @@
     </message>
     <message>
         <source>&amp;Alerts</source>
-        <translation>الت&amp;نبيهات</translation>
+        <translation>&amp;تنبيهات</translation>
     </message>
     <message>
         <source>&amp;Scripts</source>
-        <translation>ال&amp;سكربتات</translation>
+        <translation>&amp;سكربتات</translation>
     </message>
     <message>
         <source>A&amp;bout</source>
@@ -904,7 +904,7 @@
     </message>
     <message>
         <source>&amp;Create</source>
-        <translation>إن&amp;شاء</translation>
+        <translation>&amp;إنشاء</translation>
     </message>
     <message>
         <source>Creates an empty script of this title</source>

@@ -637,10 +637,6 @@
         <translation>Der Vorgang konnte nicht abgeschlossen werden.</translation>
     </message>
     <message>
-        <source>The script “%@” is running.</source>
-        <translation>Das Skript „%@“ läuft.</translation>
-    </message>
-    <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
         <translation>Der Sitzungsbus antwortet nicht, Zarvil ist daher nicht erreichbar.</translation>
     </message>
@@ -733,6 +729,10 @@
     <message>
         <source>shuts down at once</source>
         <translation>fährt sofort herunter</translation>
+    </message>
+    <message>
+        <source>The script “%1” is running.</source>
+        <translation>Das Skript „%1“ läuft.</translation>
     </message>
 </context>
 <context>

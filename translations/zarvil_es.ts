@@ -637,10 +637,6 @@
         <translation>No se pudo completar la operación.</translation>
     </message>
     <message>
-        <source>The script “%@” is running.</source>
-        <translation>El script «%@» se está ejecutando.</translation>
-    </message>
-    <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
         <translation>El bus de sesión no responde, así que no se puede contactar con Zarvil.</translation>
     </message>
@@ -733,6 +729,10 @@
     <message>
         <source>shuts down at once</source>
         <translation>apaga de inmediato</translation>
+    </message>
+    <message>
+        <source>The script “%1” is running.</source>
+        <translation>El script «%1» se está ejecutando.</translation>
     </message>
 </context>
 <context>

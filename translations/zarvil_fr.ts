@@ -637,10 +637,6 @@
         <translation>L’opération n’a pas pu être terminée.</translation>
     </message>
     <message>
-        <source>The script “%@” is running.</source>
-        <translation>Le script « %@ » est en cours d’exécution.</translation>
-    </message>
-    <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
         <translation>Le bus de session ne répond pas : Zarvil est injoignable.</translation>
     </message>
@@ -733,6 +729,10 @@
     <message>
         <source>shuts down at once</source>
         <translation>arrêt immédiat</translation>
+    </message>
+    <message>
+        <source>The script “%1” is running.</source>
+        <translation>Le script « %1 » est en cours d’exécution.</translation>
     </message>
 </context>
 <context>

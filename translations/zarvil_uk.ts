@@ -638,10 +638,6 @@
         <translation>Не вдалося завершити дію.</translation>
     </message>
     <message>
-        <source>The script “%@” is running.</source>
-        <translation>Виконується скрипт «%@».</translation>
-    </message>
-    <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
         <translation>Шина сеансу не відповідає, тож Zarvil недоступний.</translation>
     </message>
@@ -736,6 +732,10 @@
     <message>
         <source>shuts down at once</source>
         <translation>вимкнення одразу</translation>
+    </message>
+    <message>
+        <source>The script “%1” is running.</source>
+        <translation>Виконується скрипт «%1».</translation>
     </message>
 </context>
 <context>
