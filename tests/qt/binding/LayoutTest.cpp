@@ -1,4 +1,5 @@
 #include "PaneHarness.h"
+#include "qt/adapters/QtStringTable.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/Spinner.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -47,6 +49,28 @@ protected:
     Subscriptions bindings;
     Faults faults = bindOutlets(pane, view, bindings);
 };
+
+/// The texts in a language, in force before anything shows one.
+class Spoken : public testing::WithParamInterface<const char*> {
+protected:
+    Spoken() {
+        const QString file = QStringLiteral("zarvil_") + GetParam();
+        if (!translator_.load(file, ZARVIL_QM_FOLDER))
+            throw std::runtime_error(std::string("no language ") + GetParam());
+        QCoreApplication::installTranslator(&translator_);
+        fake::StringTable::inherited = &table_;
+    }
+    ~Spoken() { fake::StringTable::inherited = nullptr; }
+
+private:
+    QTranslator translator_;
+    QtStringTable table_;
+};
+
+class LayoutIn : public Spoken, public Layout {};
+INSTANTIATE_TEST_SUITE_P(Languages, LayoutIn,
+                         testing::Values("en", "de", "es", "fr", "uk", "ar", "pseudo"),
+                         [](const auto& language) { return std::string(language.param); });
 
 constexpr int generalPage = 1;
 constexpr int alertsPage = 2;
@@ -96,7 +120,7 @@ TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
         EXPECT_EQ(std::ranges::count(found, fault), 1) << fault;
 }
 
-TEST_F(Layout, givesNoMnemonicTwiceOnOnePage) {
+TEST_P(LayoutIn, givesNoMnemonicTwiceOnOnePage) {
     auto& tabs = widget<QTabWidget>("tabView");
     for (int page = 0; page < tabs.count(); ++page) {
         QStringList letters;
@@ -214,7 +238,7 @@ TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
 }
 
-TEST_F(Layout, clipsAndOverlapsNothing) {
+TEST_P(LayoutIn, clipsAndOverlapsNothing) {
     struct Case {
         double points;
         QSize size;
