@@ -84,7 +84,8 @@ QStringList misfits(const QWidget& top) {
         const auto* label = qobject_cast<const TextLabel*>(widget);
         const bool isPart = label || qobject_cast<const QAbstractButton*>(widget) ||
                             qobject_cast<const QLineEdit*>(widget);
-        if (!isPart || !widget->isVisible())
+        // A tab bar that is too narrow scrolls.
+        if (!isPart || !widget->isVisible() || qobject_cast<QTabBar*>(widget->parentWidget()))
             continue;
         const QString name = widget->parentWidget()->objectName() + '/' + widget->objectName();
         if (label && !label->isElided() && label->heightForWidth(label->width()) > label->height())
