@@ -746,6 +746,226 @@
         <source>The script “%1” is running.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Administrator rights</source>
+        <translation>صلاحيات المدير</translation>
+    </message>
+    <message>
+        <source>Alerts by e-mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alerts through Pushover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks first, then removes Zarvil, this pane and the settings. Your scripts are kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choosing devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each script is a file of its own in the folder %1, named after its title with the ending .zvscript. Copy that folder to keep them safe.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends applications that do not quit by themselves, so that none of them can hold the shutdown up. What was not saved in them is lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goes through the shutdown as if the power had failed, and stops before the computer would be shut down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: Alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: Devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: Scripts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If no device appears</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the protection is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the network up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New versions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quitting applications by force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes Zarvil, this pane and the settings, after it has asked you. Your scripts stay in the folder %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows whether the warning hides itself. You choose that in the warning, so it cannot be changed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows whether your account may administer this computer. No setting here needs the lock to be open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starts Zarvil, the program that watches the power, or ends it. While it does not run, nothing is watched and no setting can be changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches the protection. While it is off, Zarvil does nothing when the power fails. The choice takes effect at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The delay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key of your account at Pushover. You find it on Pushover&apos;s page once you have logged in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lock below the tabs shows whether your account may administer this computer. No setting here needs it to be open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of one of your devices at Pushover. Leave it empty, and all of them get the message.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This much time passes between the power failure and the shutdown. Choose seconds or minutes with the switch, type a number and press Return. With 0 the computer is shut down at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trying Pushover out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trying a script out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstalling Zarvil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a test does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What happens when the power fails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What scripts are for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When a watched device reports a power failure, Zarvil warns you, runs your scripts, sends the alerts that you have chosen and, after the delay, shuts the computer down. You choose each of these in the other tabs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where scripts lie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing a script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zarvil goes on running and shows your devices, but does nothing when the power fails. Switch it on with the switch at the top.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zarvil goes through the shutdown as if the power had failed, and stops before the computer would be shut down. The protection must be on for a test.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zarvil looks for new versions itself, at your word or by itself, and tells you what it has found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -827,6 +1047,14 @@
     </message>
     <message>
         <source>Shows whether this account may administer the computer. No setting of this pane needs the lock to be open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explains this tab (F1)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -972,6 +1200,21 @@
     <message>
         <source>Preferences</source>
         <translation>التفضيلات</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::qt::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Is &amp;This?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explains the control of the window that you click next</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -734,6 +734,226 @@
         <source>The script “%1” is running.</source>
         <translation>Das Skript „%1“ läuft.</translation>
     </message>
+    <message>
+        <source>Administrator rights</source>
+        <translation>Administratorrechte</translation>
+    </message>
+    <message>
+        <source>Alerts by e-mail</source>
+        <translation>Benachrichtigung per E-Mail</translation>
+    </message>
+    <message>
+        <source>Alerts through Pushover</source>
+        <translation>Benachrichtigung über Pushover</translation>
+    </message>
+    <message>
+        <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
+        <translation>Eine Benachrichtigung erreicht Sie nur, wenn Router und Modem noch Strom haben. Schließen Sie auch diese an die Stromversorgung an.</translation>
+    </message>
+    <message>
+        <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
+        <translation>Anwendungen, die nach dem Speichern fragen, können das Herunterfahren aufhalten, bis die Batterie leer ist. Zwangsweise werden sie ohne Rückfrage beendet, und nicht Gespeichertes geht verloren.</translation>
+    </message>
+    <message>
+        <source>Asks first, then removes Zarvil, this pane and the settings. Your scripts are kept.</source>
+        <translation>Fragt zuerst nach und entfernt dann Zarvil, diesen Einstellungsbereich und die Einstellungen. Ihre Skripte bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Choosing devices</source>
+        <translation>Geräte auswählen</translation>
+    </message>
+    <message>
+        <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
+        <translation>Schließen Sie eine Stromversorgung mit ihrem Datenkabel an. Sie erscheint unter „Angeschlossen“. Haken Sie sie an, wechselt sie zu „Überwacht“. Entfernen Sie den Haken, überwacht Zarvil sie nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
+        <translation>Geräte werden aufgelistet, während Zarvil läuft. Starten Sie es mit der Schaltfläche über den Reitern. Eine Stromversorgung ohne Datenkabel kann nicht überwacht werden.</translation>
+    </message>
+    <message>
+        <source>Each script is a file of its own in the folder %1, named after its title with the ending .zvscript. Copy that folder to keep them safe.</source>
+        <translation>Jedes Skript ist eine eigene Datei im Ordner %1, benannt nach seinem Titel mit der Endung .zvscript. Kopieren Sie diesen Ordner, um sie zu sichern.</translation>
+    </message>
+    <message>
+        <source>Ends applications that do not quit by themselves, so that none of them can hold the shutdown up. What was not saved in them is lost.</source>
+        <translation>Beendet Anwendungen, die sich nicht selbst beenden, damit keine das Herunterfahren aufhält. Nicht Gespeichertes darin geht verloren.</translation>
+    </message>
+    <message>
+        <source>Goes through the shutdown as if the power had failed, and stops before the computer would be shut down.</source>
+        <translation>Spielt das Herunterfahren durch, als wäre der Strom ausgefallen, und hält an, bevor der Computer heruntergefahren würde.</translation>
+    </message>
+    <message>
+        <source>Help: About</source>
+        <translation>Hilfe: Info</translation>
+    </message>
+    <message>
+        <source>Help: Alerts</source>
+        <translation>Hilfe: Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>Help: Devices</source>
+        <translation>Hilfe: Geräte</translation>
+    </message>
+    <message>
+        <source>Help: General</source>
+        <translation>Hilfe: Allgemein</translation>
+    </message>
+    <message>
+        <source>Help: Scripts</source>
+        <translation>Hilfe: Skripte</translation>
+    </message>
+    <message>
+        <source>If no device appears</source>
+        <translation>Wenn kein Gerät erscheint</translation>
+    </message>
+    <message>
+        <source>If the protection is off</source>
+        <translation>Wenn der Schutz ausgeschaltet ist</translation>
+    </message>
+    <message>
+        <source>Keep the network up</source>
+        <translation>Das Netzwerk in Betrieb halten</translation>
+    </message>
+    <message>
+        <source>New versions</source>
+        <translation>Neue Versionen</translation>
+    </message>
+    <message>
+        <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
+        <translation>Pushover ist ein Dienst, der Nachrichten auf Ihr Telefon bringt. Sie brauchen dort ein Konto; dessen Benutzer-ID gehört in das erste Feld. Mit einer Geräte-ID erhält nur dieses Gerät die Nachricht, sonst alle Ihre Geräte.</translation>
+    </message>
+    <message>
+        <source>Quitting applications by force</source>
+        <translation>Anwendungen zwangsweise beenden</translation>
+    </message>
+    <message>
+        <source>Removes Zarvil, this pane and the settings, after it has asked you. Your scripts stay in the folder %1.</source>
+        <translation>Entfernt nach einer Rückfrage Zarvil, diesen Einstellungsbereich und die Einstellungen. Ihre Skripte bleiben im Ordner %1.</translation>
+    </message>
+    <message>
+        <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
+        <translation>„Ausführen“ startet das Skript sofort, ohne Stromausfall, und tut alles, was darin steht. Schlägt es fehl, werden sein Exit-Status und sein letzter Fehler gezeigt.</translation>
+    </message>
+    <message>
+        <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
+        <translation>„Test senden“ verschickt sofort eine Nachricht und sagt Ihnen, ob sie hinausging. IDs, die Pushover nicht kennt, werden gelöscht und müssen neu eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
+        <translation>Zeigt die Verzögerung in Minuten oder in Sekunden an. Die Verzögerung selbst bleibt gleich.</translation>
+    </message>
+    <message>
+        <source>Shows whether the warning hides itself. You choose that in the warning, so it cannot be changed here.</source>
+        <translation>Zeigt, ob sich die Warnung selbst ausblendet. Das wählen Sie in der Warnung, deshalb lässt es sich hier nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Shows whether your account may administer this computer. No setting here needs the lock to be open.</source>
+        <translation>Zeigt, ob Ihr Konto diesen Computer verwalten darf. Keine Einstellung hier erfordert ein geöffnetes Schloss.</translation>
+    </message>
+    <message>
+        <source>Starts Zarvil, the program that watches the power, or ends it. While it does not run, nothing is watched and no setting can be changed.</source>
+        <translation>Startet oder beendet Zarvil, das Programm, das die Stromversorgung überwacht. Solange es nicht läuft, wird nichts überwacht, und keine Einstellung lässt sich ändern.</translation>
+    </message>
+    <message>
+        <source>Switches the protection. While it is off, Zarvil does nothing when the power fails. The choice takes effect at once.</source>
+        <translation>Schaltet den Schutz ein oder aus. Solange er ausgeschaltet ist, tut Zarvil bei Stromausfall nichts. Die Wahl gilt sofort.</translation>
+    </message>
+    <message>
+        <source>The delay</source>
+        <translation>Die Verzögerung</translation>
+    </message>
+    <message>
+        <source>The key of your account at Pushover. You find it on Pushover&apos;s page once you have logged in.</source>
+        <translation>Der Schlüssel Ihres Kontos bei Pushover. Sie finden ihn nach der Anmeldung auf der Seite von Pushover.</translation>
+    </message>
+    <message>
+        <source>The lock below the tabs shows whether your account may administer this computer. No setting here needs it to be open.</source>
+        <translation>Das Schloss unter den Reitern zeigt, ob Ihr Konto diesen Computer verwalten darf. Keine Einstellung hier erfordert, dass es geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>The log</source>
+        <translation>Das Protokoll</translation>
+    </message>
+    <message>
+        <source>The name of one of your devices at Pushover. Leave it empty, and all of them get the message.</source>
+        <translation>Der Name eines Ihrer Geräte bei Pushover. Lassen Sie das Feld leer, erhalten alle die Nachricht.</translation>
+    </message>
+    <message>
+        <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
+        <translation>Die Zeit zwischen dem Stromausfall und dem Herunterfahren. Zahlen ab 0 werden mit der Eingabetaste gespeichert; bei allem anderen bleibt der letzte Wert, wie er ist.</translation>
+    </message>
+    <message>
+        <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
+        <translation>Der Titel eines neuen Skripts. Er wird zum Namen der Skriptdatei, daher können zwei Skripte nicht denselben haben.</translation>
+    </message>
+    <message>
+        <source>This much time passes between the power failure and the shutdown. Choose seconds or minutes with the switch, type a number and press Return. With 0 the computer is shut down at once.</source>
+        <translation>So viel Zeit vergeht zwischen dem Stromausfall und dem Herunterfahren. Wählen Sie mit dem Schalter Sekunden oder Minuten, geben Sie eine Zahl ein und drücken Sie die Eingabetaste. Bei 0 wird der Computer sofort heruntergefahren.</translation>
+    </message>
+    <message>
+        <source>Trying Pushover out</source>
+        <translation>Pushover ausprobieren</translation>
+    </message>
+    <message>
+        <source>Trying a script out</source>
+        <translation>Ein Skript ausprobieren</translation>
+    </message>
+    <message>
+        <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
+        <translation>Geben Sie einen Titel ein und drücken Sie „Erstellen“, dann „Bearbeiten“. Ein Text, der mit #! beginnt, wird von dem Programm in dieser Zeile ausgeführt, jeder andere von der Shell. „Fertig“ speichert ihn.</translation>
+    </message>
+    <message>
+        <source>Uninstalling Zarvil</source>
+        <translation>Zarvil deinstallieren</translation>
+    </message>
+    <message>
+        <source>What a test does</source>
+        <translation>Was ein Test tut</translation>
+    </message>
+    <message>
+        <source>What happens when the power fails</source>
+        <translation>Was bei einem Stromausfall geschieht</translation>
+    </message>
+    <message>
+        <source>What scripts are for</source>
+        <translation>Wozu Skripte dienen</translation>
+    </message>
+    <message>
+        <source>When a watched device reports a power failure, Zarvil warns you, runs your scripts, sends the alerts that you have chosen and, after the delay, shuts the computer down. You choose each of these in the other tabs.</source>
+        <translation>Meldet ein überwachtes Gerät einen Stromausfall, warnt Zarvil Sie, führt Ihre Skripte aus, sendet die gewählten Benachrichtigungen und fährt den Computer nach der Verzögerung herunter. All das wählen Sie auf den anderen Seiten.</translation>
+    </message>
+    <message>
+        <source>Where scripts lie</source>
+        <translation>Wo Skripte liegen</translation>
+    </message>
+    <message>
+        <source>Writing a script</source>
+        <translation>Ein Skript schreiben</translation>
+    </message>
+    <message>
+        <source>Zarvil goes on running and shows your devices, but does nothing when the power fails. Switch it on with the switch at the top.</source>
+        <translation>Zarvil läuft weiter und zeigt Ihre Geräte, tut bei Stromausfall aber nichts. Schalten Sie den Schutz mit dem Schalter oben ein.</translation>
+    </message>
+    <message>
+        <source>Zarvil goes through the shutdown as if the power had failed, and stops before the computer would be shut down. The protection must be on for a test.</source>
+        <translation>Zarvil spielt das Herunterfahren durch, als wäre der Strom ausgefallen, und hält an, bevor der Computer heruntergefahren würde. Für einen Test muss der Schutz eingeschaltet sein.</translation>
+    </message>
+    <message>
+        <source>Zarvil looks for new versions itself, at your word or by itself, and tells you what it has found.</source>
+        <translation>Zarvil sucht selbst nach neuen Versionen, auf Ihren Wunsch oder von sich aus, und sagt Ihnen, was es gefunden hat.</translation>
+    </message>
+    <message>
+        <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
+        <translation>Zarvil führt sie bei Stromausfall aus, bevor es den Computer herunterfährt: etwa um Ihre Arbeit zu sichern oder einen Server geordnet anzuhalten.</translation>
+    </message>
+    <message>
+        <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
+        <translation>Zarvil sendet bei Stromausfall eine Nachricht an die Adresse. Geben Sie die ganze Adresse ein und drücken Sie die Eingabetaste; eine unvollständige wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
+        <translation>Zarvil hält fest, was es wann tut: Stromausfälle, Herunterfahren und Benachrichtigungen. Sehen Sie dort zuerst nach, wenn etwas anders lief als erwartet.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -816,6 +1036,14 @@
     <message>
         <source>Shows whether this account may administer the computer. No setting of this pane needs the lock to be open.</source>
         <translation>Zeigt, ob dieses Konto den Computer verwalten darf. Keine Einstellung hier erfordert ein geöffnetes Schloss.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Explains this tab (F1)</source>
+        <translation>Erklärt diese Seite (F1)</translation>
     </message>
 </context>
 <context>
@@ -962,6 +1190,21 @@
     <message>
         <source>Preferences</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::qt::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>What Is &amp;This?</source>
+        <translation>&amp;Was ist das?</translation>
+    </message>
+    <message>
+        <source>Explains the control of the window that you click next</source>
+        <translation>Erklärt das Bedienelement des Fensters, das Sie als Nächstes anklicken</translation>
     </message>
 </context>
 </TS>

@@ -734,6 +734,226 @@
         <source>The script “%1” is running.</source>
         <translation>El script «%1» se está ejecutando.</translation>
     </message>
+    <message>
+        <source>Administrator rights</source>
+        <translation>Derechos de administrador</translation>
+    </message>
+    <message>
+        <source>Alerts by e-mail</source>
+        <translation>Alertas por correo</translation>
+    </message>
+    <message>
+        <source>Alerts through Pushover</source>
+        <translation>Alertas a través de Pushover</translation>
+    </message>
+    <message>
+        <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
+        <translation>Una alerta solo le llega si el router y el módem siguen con corriente, así que conéctelos también a la fuente de alimentación.</translation>
+    </message>
+    <message>
+        <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
+        <translation>Las aplicaciones que preguntan si se debe guardar pueden retrasar el apagado hasta que se agote la batería. Si se fuerza su cierre, terminan sin preguntar y se pierde lo que no se haya guardado.</translation>
+    </message>
+    <message>
+        <source>Asks first, then removes Zarvil, this pane and the settings. Your scripts are kept.</source>
+        <translation>Pregunta primero y luego quita Zarvil, este panel y los ajustes. Los scripts se conservan.</translation>
+    </message>
+    <message>
+        <source>Choosing devices</source>
+        <translation>Elegir los dispositivos</translation>
+    </message>
+    <message>
+        <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
+        <translation>Conecte una fuente de alimentación con su cable de datos. Aparece en «Conectados». Márquela y pasará a «Vigilados». Desmárquela y Zarvil dejará de vigilarla.</translation>
+    </message>
+    <message>
+        <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
+        <translation>Los dispositivos aparecen mientras Zarvil está en ejecución. Inícielo con el botón que hay sobre las pestañas. Una fuente de alimentación sin cable de datos no se puede vigilar.</translation>
+    </message>
+    <message>
+        <source>Each script is a file of its own in the folder %1, named after its title with the ending .zvscript. Copy that folder to keep them safe.</source>
+        <translation>Cada script es un archivo propio en la carpeta %1, con su título como nombre y la extensión .zvscript. Copie esa carpeta para tenerlos a salvo.</translation>
+    </message>
+    <message>
+        <source>Ends applications that do not quit by themselves, so that none of them can hold the shutdown up. What was not saved in them is lost.</source>
+        <translation>Cierra las aplicaciones que no terminan por sí mismas, para que ninguna retrase el apagado. Se pierde lo que no se haya guardado en ellas.</translation>
+    </message>
+    <message>
+        <source>Goes through the shutdown as if the power had failed, and stops before the computer would be shut down.</source>
+        <translation>Recorre el apagado como si hubiera fallado la corriente y se detiene antes de apagar el equipo.</translation>
+    </message>
+    <message>
+        <source>Help: About</source>
+        <translation>Ayuda: Acerca de</translation>
+    </message>
+    <message>
+        <source>Help: Alerts</source>
+        <translation>Ayuda: Alertas</translation>
+    </message>
+    <message>
+        <source>Help: Devices</source>
+        <translation>Ayuda: Dispositivos</translation>
+    </message>
+    <message>
+        <source>Help: General</source>
+        <translation>Ayuda: General</translation>
+    </message>
+    <message>
+        <source>Help: Scripts</source>
+        <translation>Ayuda: Scripts</translation>
+    </message>
+    <message>
+        <source>If no device appears</source>
+        <translation>Si no aparece ningún dispositivo</translation>
+    </message>
+    <message>
+        <source>If the protection is off</source>
+        <translation>Si la protección está desactivada</translation>
+    </message>
+    <message>
+        <source>Keep the network up</source>
+        <translation>Mantener la red en marcha</translation>
+    </message>
+    <message>
+        <source>New versions</source>
+        <translation>Versiones nuevas</translation>
+    </message>
+    <message>
+        <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
+        <translation>Pushover es un servicio que lleva mensajes al teléfono. Necesita una cuenta en él; su ID de usuario va en el primer campo. Con un ID de dispositivo solo ese recibe el mensaje; si no, todos los suyos.</translation>
+    </message>
+    <message>
+        <source>Quitting applications by force</source>
+        <translation>Forzar el cierre de las aplicaciones</translation>
+    </message>
+    <message>
+        <source>Removes Zarvil, this pane and the settings, after it has asked you. Your scripts stay in the folder %1.</source>
+        <translation>Quita Zarvil, este panel y los ajustes tras preguntarle. Los scripts se quedan en la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
+        <translation>«Ejecutar» inicia el script de inmediato, sin corte de corriente, y hace todo lo que dice. Si falla, se muestran su estado de salida y su último error.</translation>
+    </message>
+    <message>
+        <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
+        <translation>«Enviar una prueba» envía un mensaje de inmediato y le dice si ha salido. Los ID que Pushover no conoce se borran y hay que escribirlos de nuevo.</translation>
+    </message>
+    <message>
+        <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
+        <translation>Muestra el tiempo en minutos o en segundos. El tiempo en sí no cambia.</translation>
+    </message>
+    <message>
+        <source>Shows whether the warning hides itself. You choose that in the warning, so it cannot be changed here.</source>
+        <translation>Muestra si el aviso se oculta solo. Eso se elige en el aviso, así que aquí no se puede cambiar.</translation>
+    </message>
+    <message>
+        <source>Shows whether your account may administer this computer. No setting here needs the lock to be open.</source>
+        <translation>Muestra si su cuenta puede administrar este equipo. Ningún ajuste de aquí necesita que el candado esté abierto.</translation>
+    </message>
+    <message>
+        <source>Starts Zarvil, the program that watches the power, or ends it. While it does not run, nothing is watched and no setting can be changed.</source>
+        <translation>Inicia o cierra Zarvil, el programa que vigila la alimentación. Mientras no esté en ejecución, no se vigila nada ni se puede cambiar ningún ajuste.</translation>
+    </message>
+    <message>
+        <source>Switches the protection. While it is off, Zarvil does nothing when the power fails. The choice takes effect at once.</source>
+        <translation>Activa o desactiva la protección. Mientras está desactivada, Zarvil no hace nada si falla la corriente. El cambio surte efecto de inmediato.</translation>
+    </message>
+    <message>
+        <source>The delay</source>
+        <translation>El tiempo de espera</translation>
+    </message>
+    <message>
+        <source>The key of your account at Pushover. You find it on Pushover&apos;s page once you have logged in.</source>
+        <translation>La clave de su cuenta de Pushover. La encontrará en la página de Pushover una vez iniciada la sesión.</translation>
+    </message>
+    <message>
+        <source>The lock below the tabs shows whether your account may administer this computer. No setting here needs it to be open.</source>
+        <translation>El candado bajo las pestañas muestra si su cuenta puede administrar este equipo. Ningún ajuste de aquí necesita que esté abierto.</translation>
+    </message>
+    <message>
+        <source>The log</source>
+        <translation>El registro</translation>
+    </message>
+    <message>
+        <source>The name of one of your devices at Pushover. Leave it empty, and all of them get the message.</source>
+        <translation>El nombre de uno de sus dispositivos en Pushover. Si lo deja vacío, todos reciben el mensaje.</translation>
+    </message>
+    <message>
+        <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
+        <translation>El tiempo entre el corte de corriente y el apagado. Los números iguales o mayores que 0 se guardan con Intro; cualquier otra cosa deja el último valor como está.</translation>
+    </message>
+    <message>
+        <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
+        <translation>El título de un script nuevo. Se convierte en el nombre de su archivo, así que no puede haber dos scripts con el mismo.</translation>
+    </message>
+    <message>
+        <source>This much time passes between the power failure and the shutdown. Choose seconds or minutes with the switch, type a number and press Return. With 0 the computer is shut down at once.</source>
+        <translation>Es el tiempo que pasa entre el corte de corriente y el apagado. Elija segundos o minutos con el interruptor, escriba un número y pulse Intro. Con 0 el equipo se apaga de inmediato.</translation>
+    </message>
+    <message>
+        <source>Trying Pushover out</source>
+        <translation>Probar Pushover</translation>
+    </message>
+    <message>
+        <source>Trying a script out</source>
+        <translation>Probar un script</translation>
+    </message>
+    <message>
+        <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
+        <translation>Escriba un título, pulse «Crear» y luego «Editar». Un texto que empieza por #! lo ejecuta el programa indicado en esa línea; cualquier otro, la shell. «Hecho» lo guarda.</translation>
+    </message>
+    <message>
+        <source>Uninstalling Zarvil</source>
+        <translation>Desinstalar Zarvil</translation>
+    </message>
+    <message>
+        <source>What a test does</source>
+        <translation>Qué hace una prueba</translation>
+    </message>
+    <message>
+        <source>What happens when the power fails</source>
+        <translation>Qué ocurre si falla la corriente</translation>
+    </message>
+    <message>
+        <source>What scripts are for</source>
+        <translation>Para qué sirven los scripts</translation>
+    </message>
+    <message>
+        <source>When a watched device reports a power failure, Zarvil warns you, runs your scripts, sends the alerts that you have chosen and, after the delay, shuts the computer down. You choose each of these in the other tabs.</source>
+        <translation>Cuando un dispositivo vigilado informa de un corte de corriente, Zarvil le avisa, ejecuta los scripts, envía las alertas elegidas y, pasado el tiempo fijado, apaga el equipo. Todo ello se elige en las otras pestañas.</translation>
+    </message>
+    <message>
+        <source>Where scripts lie</source>
+        <translation>Dónde están los scripts</translation>
+    </message>
+    <message>
+        <source>Writing a script</source>
+        <translation>Escribir un script</translation>
+    </message>
+    <message>
+        <source>Zarvil goes on running and shows your devices, but does nothing when the power fails. Switch it on with the switch at the top.</source>
+        <translation>Zarvil sigue en ejecución y muestra los dispositivos, pero no hace nada si falla la corriente. Active la protección con el interruptor de arriba.</translation>
+    </message>
+    <message>
+        <source>Zarvil goes through the shutdown as if the power had failed, and stops before the computer would be shut down. The protection must be on for a test.</source>
+        <translation>Zarvil recorre el apagado como si hubiera fallado la corriente y se detiene antes de apagar el equipo. Para una prueba, la protección debe estar activada.</translation>
+    </message>
+    <message>
+        <source>Zarvil looks for new versions itself, at your word or by itself, and tells you what it has found.</source>
+        <translation>Zarvil busca versiones nuevas, cuando usted lo pide o por sí mismo, y le dice qué ha encontrado.</translation>
+    </message>
+    <message>
+        <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
+        <translation>Zarvil los ejecuta si falla la corriente, antes de apagar el equipo: por ejemplo, para guardar su trabajo o detener un servidor de forma ordenada.</translation>
+    </message>
+    <message>
+        <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
+        <translation>Zarvil envía un mensaje a la dirección si falla la corriente. Escriba la dirección entera y pulse Intro; si está incompleta, no se guarda.</translation>
+    </message>
+    <message>
+        <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
+        <translation>Zarvil anota lo que hace y cuándo: cortes de corriente, apagados y alertas. Mire ahí primero si algo no fue como esperaba.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -816,6 +1036,14 @@
     <message>
         <source>Shows whether this account may administer the computer. No setting of this pane needs the lock to be open.</source>
         <translation>Muestra si esta cuenta puede administrar el equipo. Ningún ajuste de este panel necesita que el candado esté abierto.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Explains this tab (F1)</source>
+        <translation>Explica esta pestaña (F1)</translation>
     </message>
 </context>
 <context>
@@ -962,6 +1190,21 @@
     <message>
         <source>Preferences</source>
         <translation>Preferencias</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::qt::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>What Is &amp;This?</source>
+        <translation>¿&amp;Qué es esto?</translation>
+    </message>
+    <message>
+        <source>Explains the control of the window that you click next</source>
+        <translation>Explica el control de la ventana que pulse a continuación</translation>
     </message>
 </context>
 </TS>

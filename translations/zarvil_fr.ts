@@ -144,7 +144,7 @@
     </message>
     <message>
         <source>What is Pushover?</source>
-        <translation>Qu’est-ce que Pushover ?</translation>
+        <translation>Qu’est-ce que Pushover&#xa0;?</translation>
     </message>
     <message>
         <source>Opens the Pushover web site</source>
@@ -180,7 +180,7 @@
     </message>
     <message>
         <source>Name of one of your devices; leave it empty for all. Press Return to store it.</source>
-        <translation>Nom de l’un de vos appareils ; laissez vide pour tous. Appuyez sur Entrée pour l’enregistrer.</translation>
+        <translation>Nom de l’un de vos appareils&#xa0;; laissez vide pour tous. Appuyez sur Entrée pour l’enregistrer.</translation>
     </message>
     <message>
         <source>All devices</source>
@@ -211,39 +211,39 @@
     <name>Bundle</name>
     <message>
         <source>&quot;%1&quot; is not a preference pane: its Contents/Info.json cannot be read.</source>
-        <translation>« %1 » n’est pas un panneau de préférences : son fichier Contents/Info.json est illisible.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un panneau de préférences&#xa0;: son fichier Contents/Info.json est illisible.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: Contents/Info.json is not valid JSON at byte %2 (%3).</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : Contents/Info.json n’est pas du JSON valide à l’octet %2 (%3).</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: Contents/Info.json n’est pas du JSON valide à l’octet %2 (%3).</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: Contents/Info.json does not hold an object.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : Contents/Info.json ne contient pas d’objet.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: Contents/Info.json ne contient pas d’objet.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: the text &quot;%2&quot; is missing in Contents/Info.json.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : le texte « %2 » manque dans Contents/Info.json.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: le texte «&#xa0;%2&#xa0;» manque dans Contents/Info.json.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; does not exist.</source>
-        <translation>Le panneau de préférences « %1 » n’existe pas.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: its library &quot;%2&quot; is missing.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : sa bibliothèque « %2 » est absente.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: sa bibliothèque «&#xa0;%2&#xa0;» est absente.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; was made for another program: its library offers &quot;%2&quot; instead of &quot;%3&quot;.</source>
-        <translation>Le panneau de préférences « %1 » est destiné à un autre programme : sa bibliothèque offre « %2 » au lieu de « %3 ».</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est destiné à un autre programme&#xa0;: sa bibliothèque offre «&#xa0;%2&#xa0;» au lieu de «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>The library of the preference pane &quot;%1&quot; cannot be loaded: %2</source>
-        <translation>La bibliothèque du panneau de préférences « %1 » ne peut pas être chargée : %2</translation>
+        <translation>La bibliothèque du panneau de préférences «&#xa0;%1&#xa0;» ne peut pas être chargée&#xa0;: %2</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: its library offers the class &quot;%2&quot; instead of &quot;%3&quot;.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : sa bibliothèque offre la classe « %2 » au lieu de « %3 ».</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: sa bibliothèque offre la classe «&#xa0;%2&#xa0;» au lieu de «&#xa0;%3&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>Ends applications that do not quit by themselves; unsaved changes in them are lost</source>
-        <translation>Ferme les applications qui ne quittent pas d’elles-mêmes ; leurs modifications non enregistrées sont perdues</translation>
+        <translation>Ferme les applications qui ne quittent pas d’elles-mêmes&#xa0;; leurs modifications non enregistrées sont perdues</translation>
     </message>
     <message>
         <source>Unsaved changes in them are lost.</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>Shown as the agent has it; it is set in the shutdown message itself.</source>
-        <translation>Affiché tel que l’agent l’a enregistré ; se règle dans le message d’arrêt lui-même.</translation>
+        <translation>Affiché tel que l’agent l’a enregistré&#xa0;; se règle dans le message d’arrêt lui-même.</translation>
     </message>
     <message>
         <source>Set in the message itself. The countdown goes on when it is hidden.</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>There is no preference pane in &quot;%1&quot; and none in &quot;%2&quot;.</source>
-        <translation>Il n’y a aucun panneau de préférences dans « %1 » ni dans « %2 ».</translation>
+        <translation>Il n’y a aucun panneau de préférences dans «&#xa0;%1&#xa0;» ni dans «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>The preferences are open already, but their window does not answer.</source>
@@ -438,19 +438,19 @@
     </message>
     <message>
         <source>Administrator rights: checking</source>
-        <translation>Droits d’administrateur : vérification</translation>
+        <translation>Droits d’administrateur&#xa0;: vérification</translation>
     </message>
     <message>
         <source>Administrator rights: locked</source>
-        <translation>Droits d’administrateur : verrouillés</translation>
+        <translation>Droits d’administrateur&#xa0;: verrouillés</translation>
     </message>
     <message>
         <source>Administrator rights: unlocked</source>
-        <translation>Droits d’administrateur : déverrouillés</translation>
+        <translation>Droits d’administrateur&#xa0;: déverrouillés</translation>
     </message>
     <message>
         <source>Can&apos;t execute empty script!</source>
-        <translation>Impossible d’exécuter un script vide !</translation>
+        <translation>Impossible d’exécuter un script vide&#xa0;!</translation>
     </message>
     <message>
         <source>Cannot be changed while the warning hides itself.</source>
@@ -462,7 +462,7 @@
     </message>
     <message>
         <source>Connection timeout! Check your Internet connection!</source>
-        <translation>Délai de connexion dépassé ! Vérifiez votre connexion Internet !</translation>
+        <translation>Délai de connexion dépassé&#xa0;! Vérifiez votre connexion Internet&#xa0;!</translation>
     </message>
     <message>
         <source>Delete this script and its file at once. This cannot be undone.</source>
@@ -482,19 +482,19 @@
     </message>
     <message>
         <source>Edit “%1”</source>
-        <translation>Modifier « %1 »</translation>
+        <translation>Modifier «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Editing. Done saves the title and the text.</source>
-        <translation>Modification en cours. « Terminé » enregistre le titre et le texte.</translation>
+        <translation>Modification en cours. «&#xa0;Terminé&#xa0;» enregistre le titre et le texte.</translation>
     </message>
     <message>
         <source>Failed with exit status %1: %2</source>
-        <translation>Échec avec le code de sortie %1 : %2</translation>
+        <translation>Échec avec le code de sortie %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Invalid settings! Check your User ID and Device ID(if any)</source>
-        <translation>Réglages non valides ! Vérifiez l’ID utilisateur et l’ID de l’appareil (s’il y en a un)</translation>
+        <translation>Réglages non valides&#xa0;! Vérifiez l’ID utilisateur et l’ID de l’appareil (s’il y en a un)</translation>
     </message>
     <message>
         <source>Launch it to see your devices and change the settings.</source>
@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>No device is watched, so a power failure goes unnoticed.</source>
-        <translation>Aucun appareil n’est surveillé : une coupure passerait inaperçue.</translation>
+        <translation>Aucun appareil n’est surveillé&#xa0;: une coupure passerait inaperçue.</translation>
     </message>
     <message>
         <source>No device watched</source>
@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Remove “%1”</source>
-        <translation>Supprimer « %1 »</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Run</source>
@@ -586,7 +586,7 @@
     </message>
     <message>
         <source>Run “%1”</source>
-        <translation>Exécuter « %1 »</translation>
+        <translation>Exécuter «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Running…</source>
@@ -598,11 +598,11 @@
     </message>
     <message>
         <source>Save “%1”</source>
-        <translation>Enregistrer « %1 »</translation>
+        <translation>Enregistrer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Script “%1”</source>
-        <translation>Script « %1 »</translation>
+        <translation>Script «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Scripts are off</source>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>Settings are valid!</source>
-        <translation>Les réglages sont valides !</translation>
+        <translation>Les réglages sont valides&#xa0;!</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
-        <translation>Le bus de session ne répond pas : Zarvil est injoignable.</translation>
+        <translation>Le bus de session ne répond pas&#xa0;: Zarvil est injoignable.</translation>
     </message>
     <message>
         <source>The test has ended. Nothing was shut down.</source>
@@ -658,7 +658,7 @@
     </message>
     <message>
         <source>This script is too large to be edited here (%1). Its text stays as it is; its title can be changed.</source>
-        <translation>Ce script est trop grand pour être modifié ici (%1). Son texte reste tel quel ; son titre peut être modifié.</translation>
+        <translation>Ce script est trop grand pour être modifié ici (%1). Son texte reste tel quel&#xa0;; son titre peut être modifié.</translation>
     </message>
     <message>
         <source>This system has no authority that could unlock it.</source>
@@ -678,7 +678,7 @@
     </message>
     <message>
         <source>Unknow error!</source>
-        <translation>Erreur inconnue !</translation>
+        <translation>Erreur inconnue&#xa0;!</translation>
     </message>
     <message>
         <source>Unlocked</source>
@@ -732,7 +732,227 @@
     </message>
     <message>
         <source>The script “%1” is running.</source>
-        <translation>Le script « %1 » est en cours d’exécution.</translation>
+        <translation>Le script «&#xa0;%1&#xa0;» est en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>Administrator rights</source>
+        <translation>Droits d’administrateur</translation>
+    </message>
+    <message>
+        <source>Alerts by e-mail</source>
+        <translation>Alertes par courriel</translation>
+    </message>
+    <message>
+        <source>Alerts through Pushover</source>
+        <translation>Alertes par Pushover</translation>
+    </message>
+    <message>
+        <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
+        <translation>Une alerte ne vous parvient que si votre routeur et votre modem sont encore alimentés : branchez-les aussi sur l’alimentation de secours.</translation>
+    </message>
+    <message>
+        <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
+        <translation>Les applications qui demandent s’il faut enregistrer peuvent retarder l’arrêt jusqu’à l’épuisement de la batterie. La fermeture forcée se fait sans rien demander, et ce qui n’est pas enregistré est perdu.</translation>
+    </message>
+    <message>
+        <source>Asks first, then removes Zarvil, this pane and the settings. Your scripts are kept.</source>
+        <translation>Demande confirmation, puis supprime Zarvil, ce panneau et les réglages. Vos scripts sont conservés.</translation>
+    </message>
+    <message>
+        <source>Choosing devices</source>
+        <translation>Choisir les appareils</translation>
+    </message>
+    <message>
+        <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
+        <translation>Branchez une alimentation avec son câble de données. Elle apparaît sous « Connectés ». Cochez-la : elle passe sous « Surveillés ». Décochez-la : Zarvil ne la surveille plus.</translation>
+    </message>
+    <message>
+        <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
+        <translation>Les appareils sont affichés quand Zarvil est lancé. Lancez-le avec le bouton au-dessus des onglets. Une alimentation sans câble de données ne peut pas être surveillée.</translation>
+    </message>
+    <message>
+        <source>Each script is a file of its own in the folder %1, named after its title with the ending .zvscript. Copy that folder to keep them safe.</source>
+        <translation>Chaque script est un fichier distinct dans le dossier %1, qui porte son titre et l’extension .zvscript. Copiez ce dossier pour les sauvegarder.</translation>
+    </message>
+    <message>
+        <source>Ends applications that do not quit by themselves, so that none of them can hold the shutdown up. What was not saved in them is lost.</source>
+        <translation>Ferme les applications qui ne quittent pas d’elles-mêmes, pour qu’aucune ne retarde l’arrêt. Ce qui n’y est pas enregistré est perdu.</translation>
+    </message>
+    <message>
+        <source>Goes through the shutdown as if the power had failed, and stops before the computer would be shut down.</source>
+        <translation>Déroule l’arrêt comme si le courant était coupé et s’interrompt avant d’éteindre l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>Help: About</source>
+        <translation>Aide : À propos</translation>
+    </message>
+    <message>
+        <source>Help: Alerts</source>
+        <translation>Aide : Alertes</translation>
+    </message>
+    <message>
+        <source>Help: Devices</source>
+        <translation>Aide : Appareils</translation>
+    </message>
+    <message>
+        <source>Help: General</source>
+        <translation>Aide : Général</translation>
+    </message>
+    <message>
+        <source>Help: Scripts</source>
+        <translation>Aide : Scripts</translation>
+    </message>
+    <message>
+        <source>If no device appears</source>
+        <translation>Si aucun appareil n’apparaît</translation>
+    </message>
+    <message>
+        <source>If the protection is off</source>
+        <translation>Si la protection est désactivée</translation>
+    </message>
+    <message>
+        <source>Keep the network up</source>
+        <translation>Garder le réseau en service</translation>
+    </message>
+    <message>
+        <source>New versions</source>
+        <translation>Nouvelles versions</translation>
+    </message>
+    <message>
+        <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
+        <translation>Pushover est un service qui transmet des messages à votre téléphone. Il vous faut y avoir un compte ; son ID utilisateur va dans le premier champ. Avec un ID d’appareil, seul celui-ci reçoit le message ; sinon, tous les vôtres.</translation>
+    </message>
+    <message>
+        <source>Quitting applications by force</source>
+        <translation>Forcer la fermeture des applications</translation>
+    </message>
+    <message>
+        <source>Removes Zarvil, this pane and the settings, after it has asked you. Your scripts stay in the folder %1.</source>
+        <translation>Supprime Zarvil, ce panneau et les réglages, après confirmation. Vos scripts restent dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
+        <translation>« Exécuter » lance le script aussitôt, sans coupure de courant, et fait tout ce qu’il contient. S’il échoue, son code de sortie et sa dernière erreur sont affichés.</translation>
+    </message>
+    <message>
+        <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
+        <translation>« Envoyer un test » envoie aussitôt un message et vous indique s’il est parti. Les ID que Pushover ne connaît pas sont effacés et doivent être saisis de nouveau.</translation>
+    </message>
+    <message>
+        <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
+        <translation>Affiche le délai en minutes ou en secondes. Le délai lui-même reste le même.</translation>
+    </message>
+    <message>
+        <source>Shows whether the warning hides itself. You choose that in the warning, so it cannot be changed here.</source>
+        <translation>Indique si l’avertissement se masque de lui-même. Cela se choisit dans l’avertissement et ne peut donc pas être modifié ici.</translation>
+    </message>
+    <message>
+        <source>Shows whether your account may administer this computer. No setting here needs the lock to be open.</source>
+        <translation>Indique si votre compte peut administrer cet ordinateur. Aucun réglage ici n’exige que le verrou soit ouvert.</translation>
+    </message>
+    <message>
+        <source>Starts Zarvil, the program that watches the power, or ends it. While it does not run, nothing is watched and no setting can be changed.</source>
+        <translation>Lance ou ferme Zarvil, le programme qui surveille l’alimentation. Tant qu’il n’est pas lancé, rien n’est surveillé et aucun réglage ne peut être modifié.</translation>
+    </message>
+    <message>
+        <source>Switches the protection. While it is off, Zarvil does nothing when the power fails. The choice takes effect at once.</source>
+        <translation>Active ou désactive la protection. Tant qu’elle est désactivée, Zarvil ne fait rien en cas de coupure de courant. Le choix prend effet aussitôt.</translation>
+    </message>
+    <message>
+        <source>The delay</source>
+        <translation>Le délai</translation>
+    </message>
+    <message>
+        <source>The key of your account at Pushover. You find it on Pushover&apos;s page once you have logged in.</source>
+        <translation>La clé de votre compte Pushover. Vous la trouvez sur la page de Pushover une fois connecté.</translation>
+    </message>
+    <message>
+        <source>The lock below the tabs shows whether your account may administer this computer. No setting here needs it to be open.</source>
+        <translation>Le verrou sous les onglets indique si votre compte peut administrer cet ordinateur. Aucun réglage ici n’exige qu’il soit ouvert.</translation>
+    </message>
+    <message>
+        <source>The log</source>
+        <translation>Le journal</translation>
+    </message>
+    <message>
+        <source>The name of one of your devices at Pushover. Leave it empty, and all of them get the message.</source>
+        <translation>Le nom de l’un de vos appareils chez Pushover. Laissez vide et tous reçoivent le message.</translation>
+    </message>
+    <message>
+        <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
+        <translation>Le temps entre la coupure de courant et l’arrêt. Les nombres supérieurs ou égaux à 0 sont enregistrés par la touche Entrée ; toute autre saisie laisse la dernière valeur inchangée.</translation>
+    </message>
+    <message>
+        <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
+        <translation>Le titre d’un nouveau script. Il devient le nom du fichier, si bien que deux scripts ne peuvent pas porter le même.</translation>
+    </message>
+    <message>
+        <source>This much time passes between the power failure and the shutdown. Choose seconds or minutes with the switch, type a number and press Return. With 0 the computer is shut down at once.</source>
+        <translation>C’est le temps qui s’écoule entre la coupure de courant et l’arrêt. Choisissez secondes ou minutes avec l’interrupteur, saisissez un nombre et appuyez sur Entrée. Avec 0, l’ordinateur s’éteint aussitôt.</translation>
+    </message>
+    <message>
+        <source>Trying Pushover out</source>
+        <translation>Essayer Pushover</translation>
+    </message>
+    <message>
+        <source>Trying a script out</source>
+        <translation>Essayer un script</translation>
+    </message>
+    <message>
+        <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
+        <translation>Saisissez un titre, appuyez sur « Créer », puis sur « Modifier ». Un texte qui commence par #! est exécuté par le programme nommé sur cette ligne, tout autre par le shell. « Terminé » l’enregistre.</translation>
+    </message>
+    <message>
+        <source>Uninstalling Zarvil</source>
+        <translation>Désinstaller Zarvil</translation>
+    </message>
+    <message>
+        <source>What a test does</source>
+        <translation>Ce que fait un test</translation>
+    </message>
+    <message>
+        <source>What happens when the power fails</source>
+        <translation>Ce qui se passe en cas de coupure de courant</translation>
+    </message>
+    <message>
+        <source>What scripts are for</source>
+        <translation>À quoi servent les scripts</translation>
+    </message>
+    <message>
+        <source>When a watched device reports a power failure, Zarvil warns you, runs your scripts, sends the alerts that you have chosen and, after the delay, shuts the computer down. You choose each of these in the other tabs.</source>
+        <translation>Quand un appareil surveillé signale une coupure de courant, Zarvil vous avertit, exécute vos scripts, envoie les alertes choisies et, une fois le délai écoulé, éteint l’ordinateur. Tout cela se règle dans les autres onglets.</translation>
+    </message>
+    <message>
+        <source>Where scripts lie</source>
+        <translation>Où se trouvent les scripts</translation>
+    </message>
+    <message>
+        <source>Writing a script</source>
+        <translation>Écrire un script</translation>
+    </message>
+    <message>
+        <source>Zarvil goes on running and shows your devices, but does nothing when the power fails. Switch it on with the switch at the top.</source>
+        <translation>Zarvil continue de fonctionner et affiche vos appareils, mais ne fait rien en cas de coupure de courant. Activez la protection avec l’interrupteur en haut.</translation>
+    </message>
+    <message>
+        <source>Zarvil goes through the shutdown as if the power had failed, and stops before the computer would be shut down. The protection must be on for a test.</source>
+        <translation>Zarvil déroule l’arrêt comme si le courant était coupé et s’interrompt avant d’éteindre l’ordinateur. La protection doit être activée pour un test.</translation>
+    </message>
+    <message>
+        <source>Zarvil looks for new versions itself, at your word or by itself, and tells you what it has found.</source>
+        <translation>Zarvil recherche lui-même les nouvelles versions, à votre demande ou automatiquement, et vous indique ce qu’il a trouvé.</translation>
+    </message>
+    <message>
+        <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
+        <translation>Zarvil les exécute en cas de coupure de courant, avant d’éteindre l’ordinateur : par exemple pour enregistrer votre travail ou arrêter proprement un serveur.</translation>
+    </message>
+    <message>
+        <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
+        <translation>Zarvil envoie un message à cette adresse en cas de coupure de courant. Saisissez l’adresse entière et appuyez sur Entrée ; une adresse incomplète n’est pas enregistrée.</translation>
+    </message>
+    <message>
+        <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
+        <translation>Zarvil note ce qu’il fait et quand : coupures, arrêts et alertes. Consultez-le d’abord si quelque chose ne s’est pas passé comme prévu.</translation>
     </message>
 </context>
 <context>
@@ -817,12 +1037,20 @@
         <source>Shows whether this account may administer the computer. No setting of this pane needs the lock to be open.</source>
         <translation>Indique si ce compte peut administrer l’ordinateur. Aucun réglage de ce panneau n’exige que le verrou soit ouvert.</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Explains this tab (F1)</source>
+        <translation>Explique cet onglet (F1)</translation>
+    </message>
 </context>
 <context>
     <name>PolkitAuthorization</name>
     <message>
         <source>Administrator rights cannot be checked: the authorization service (polkit) is not available.</source>
-        <translation>Les droits d’administrateur ne peuvent pas être vérifiés : le service d’autorisation (polkit) n’est pas disponible.</translation>
+        <translation>Les droits d’administrateur ne peuvent pas être vérifiés&#xa0;: le service d’autorisation (polkit) n’est pas disponible.</translation>
     </message>
     <message>
         <source>The authentication was cancelled.</source>
@@ -830,11 +1058,11 @@
     </message>
     <message>
         <source>Administrator rights cannot be checked: Zarvil&apos;s policy for the authorization service (polkit) is not installed.</source>
-        <translation>Les droits d’administrateur ne peuvent pas être vérifiés : la règle de Zarvil pour le service d’autorisation (polkit) n’est pas installée.</translation>
+        <translation>Les droits d’administrateur ne peuvent pas être vérifiés&#xa0;: la règle de Zarvil pour le service d’autorisation (polkit) n’est pas installée.</translation>
     </message>
     <message>
         <source>Administrator rights cannot be checked: the authorization service (polkit) has failed.</source>
-        <translation>Les droits d’administrateur ne peuvent pas être vérifiés : le service d’autorisation (polkit) a échoué.</translation>
+        <translation>Les droits d’administrateur ne peuvent pas être vérifiés&#xa0;: le service d’autorisation (polkit) a échoué.</translation>
     </message>
     <message>
         <source>No authentication agent is running that could ask for an administrator&apos;s password.</source>
@@ -888,7 +1116,7 @@
     </message>
     <message>
         <source>Title of the new script; it is also the name of its file</source>
-        <translation>Titre du nouveau script ; c’est aussi le nom de son fichier</translation>
+        <translation>Titre du nouveau script&#xa0;; c’est aussi le nom de son fichier</translation>
     </message>
     <message>
         <source>&amp;Create</source>
@@ -911,11 +1139,11 @@
     </message>
     <message>
         <source>Uninstall Zarvil?</source>
-        <translation>Désinstaller Zarvil ?</translation>
+        <translation>Désinstaller Zarvil&#xa0;?</translation>
     </message>
     <message>
         <source>Zarvil quits, and these are removed:</source>
-        <translation>Zarvil se ferme, et ces éléments sont supprimés :</translation>
+        <translation>Zarvil se ferme, et ces éléments sont supprimés&#xa0;:</translation>
     </message>
     <message>
         <source>•  the Zarvil application
@@ -962,6 +1190,21 @@
     <message>
         <source>Preferences</source>
         <translation>Préférences</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::qt::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>What Is &amp;This?</source>
+        <translation>&amp;Qu’est-ce que c’est ?</translation>
+    </message>
+    <message>
+        <source>Explains the control of the window that you click next</source>
+        <translation>Explique l’élément de la fenêtre sur lequel vous cliquez ensuite</translation>
     </message>
 </context>
 </TS>

@@ -737,6 +737,226 @@
         <source>The script “%1” is running.</source>
         <translation>Виконується скрипт «%1».</translation>
     </message>
+    <message>
+        <source>Administrator rights</source>
+        <translation>Права адміністратора</translation>
+    </message>
+    <message>
+        <source>Alerts by e-mail</source>
+        <translation>Сповіщення електронною поштою</translation>
+    </message>
+    <message>
+        <source>Alerts through Pushover</source>
+        <translation>Сповіщення через Pushover</translation>
+    </message>
+    <message>
+        <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
+        <translation>Сповіщення дійде, лише якщо маршрутизатор і модем ще мають живлення, тож під’єднайте до джерела живлення і їх.</translation>
+    </message>
+    <message>
+        <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
+        <translation>Програми, які запитують про збереження, можуть затримати вимкнення, доки батарея не розрядиться. Примусово їх завершують без запитань, а незбережене втрачається.</translation>
+    </message>
+    <message>
+        <source>Asks first, then removes Zarvil, this pane and the settings. Your scripts are kept.</source>
+        <translation>Спершу запитує, а тоді видаляє Zarvil, цю панель і налаштування. Ваші скрипти залишаться.</translation>
+    </message>
+    <message>
+        <source>Choosing devices</source>
+        <translation>Вибір пристроїв</translation>
+    </message>
+    <message>
+        <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
+        <translation>Під’єднайте джерело живлення його кабелем даних. Воно з’явиться в списку «Під’єднані». Позначте його, і воно перейде до списку «Під наглядом». Зніміть позначку, і Zarvil більше не стежитиме за ним.</translation>
+    </message>
+    <message>
+        <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
+        <translation>Пристрої показано, коли Zarvil запущено. Запустіть його кнопкою над вкладками. За джерелом живлення без кабелю даних стежити неможливо.</translation>
+    </message>
+    <message>
+        <source>Each script is a file of its own in the folder %1, named after its title with the ending .zvscript. Copy that folder to keep them safe.</source>
+        <translation>Кожен скрипт — окремий файл у теці %1, названий за його назвою із закінченням .zvscript. Скопіюйте цю теку, щоб зберегти їх.</translation>
+    </message>
+    <message>
+        <source>Ends applications that do not quit by themselves, so that none of them can hold the shutdown up. What was not saved in them is lost.</source>
+        <translation>Завершує програми, які не закрилися самі, щоб жодна не затримала вимкнення. Незбережене в них втрачається.</translation>
+    </message>
+    <message>
+        <source>Goes through the shutdown as if the power had failed, and stops before the computer would be shut down.</source>
+        <translation>Проходить вимкнення так, ніби живлення зникло, і зупиняється, перш ніж вимкнути комп’ютер.</translation>
+    </message>
+    <message>
+        <source>Help: About</source>
+        <translation>Довідка: Про програму</translation>
+    </message>
+    <message>
+        <source>Help: Alerts</source>
+        <translation>Довідка: Сповіщення</translation>
+    </message>
+    <message>
+        <source>Help: Devices</source>
+        <translation>Довідка: Пристрої</translation>
+    </message>
+    <message>
+        <source>Help: General</source>
+        <translation>Довідка: Загальні</translation>
+    </message>
+    <message>
+        <source>Help: Scripts</source>
+        <translation>Довідка: Скрипти</translation>
+    </message>
+    <message>
+        <source>If no device appears</source>
+        <translation>Якщо пристрою не видно</translation>
+    </message>
+    <message>
+        <source>If the protection is off</source>
+        <translation>Якщо захист вимкнено</translation>
+    </message>
+    <message>
+        <source>Keep the network up</source>
+        <translation>Зберегти роботу мережі</translation>
+    </message>
+    <message>
+        <source>New versions</source>
+        <translation>Нові версії</translation>
+    </message>
+    <message>
+        <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
+        <translation>Pushover — служба, яка доставляє повідомлення на ваш телефон. Потрібен обліковий запис у ній; його ID користувача введіть у перше поле. З ID пристрою повідомлення отримає лише цей пристрій, інакше — усі ваші.</translation>
+    </message>
+    <message>
+        <source>Quitting applications by force</source>
+        <translation>Примусове завершення програм</translation>
+    </message>
+    <message>
+        <source>Removes Zarvil, this pane and the settings, after it has asked you. Your scripts stay in the folder %1.</source>
+        <translation>Видаляє Zarvil, цю панель і налаштування після вашого підтвердження. Ваші скрипти залишаться в теці %1.</translation>
+    </message>
+    <message>
+        <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
+        <translation>«Виконати» одразу запускає скрипт, без зникнення живлення, і робить усе, що в ньому написано. У разі помилки показано код завершення та останнє повідомлення про помилку.</translation>
+    </message>
+    <message>
+        <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
+        <translation>«Надіслати тест» одразу надсилає повідомлення і каже, чи воно пішло. ID, яких Pushover не знає, стираються, і їх треба ввести знову.</translation>
+    </message>
+    <message>
+        <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
+        <translation>Показує затримку в хвилинах або в секундах. Сама затримка не змінюється.</translation>
+    </message>
+    <message>
+        <source>Shows whether the warning hides itself. You choose that in the warning, so it cannot be changed here.</source>
+        <translation>Показує, чи ховається попередження саме. Це вибирають у попередженні, тож тут змінити не можна.</translation>
+    </message>
+    <message>
+        <source>Shows whether your account may administer this computer. No setting here needs the lock to be open.</source>
+        <translation>Показує, чи може ваш обліковий запис керувати цим комп’ютером. Жодне з налаштувань тут не потребує відкритого замка.</translation>
+    </message>
+    <message>
+        <source>Starts Zarvil, the program that watches the power, or ends it. While it does not run, nothing is watched and no setting can be changed.</source>
+        <translation>Запускає або завершує Zarvil — програму, яка стежить за живленням. Поки її не запущено, нагляду немає і жодного налаштування змінити не можна.</translation>
+    </message>
+    <message>
+        <source>Switches the protection. While it is off, Zarvil does nothing when the power fails. The choice takes effect at once.</source>
+        <translation>Вмикає або вимикає захист. Поки його вимкнено, Zarvil нічого не робить, коли зникає живлення. Вибір діє одразу.</translation>
+    </message>
+    <message>
+        <source>The delay</source>
+        <translation>Затримка</translation>
+    </message>
+    <message>
+        <source>The key of your account at Pushover. You find it on Pushover&apos;s page once you have logged in.</source>
+        <translation>Ключ вашого облікового запису Pushover. Його видно на сторінці Pushover після входу.</translation>
+    </message>
+    <message>
+        <source>The lock below the tabs shows whether your account may administer this computer. No setting here needs it to be open.</source>
+        <translation>Замок під вкладками показує, чи може ваш обліковий запис керувати цим комп’ютером. Жодне з налаштувань тут не потребує, щоб його було відкрито.</translation>
+    </message>
+    <message>
+        <source>The log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>The name of one of your devices at Pushover. Leave it empty, and all of them get the message.</source>
+        <translation>Назва одного з ваших пристроїв у Pushover. Залиште порожнім, і повідомлення отримають усі.</translation>
+    </message>
+    <message>
+        <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
+        <translation>Час між зникненням живлення і вимкненням. Числа від 0 зберігаються клавішею Enter; усе інше залишає останнє значення без змін.</translation>
+    </message>
+    <message>
+        <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
+        <translation>Назва нового скрипту. Вона стає іменем його файлу, тож двох скриптів з однаковою назвою бути не може.</translation>
+    </message>
+    <message>
+        <source>This much time passes between the power failure and the shutdown. Choose seconds or minutes with the switch, type a number and press Return. With 0 the computer is shut down at once.</source>
+        <translation>Стільки часу минає між зникненням живлення і вимкненням. Виберіть перемикачем секунди або хвилини, введіть число і натисніть Enter. Якщо 0, комп’ютер вимикається одразу.</translation>
+    </message>
+    <message>
+        <source>Trying Pushover out</source>
+        <translation>Перевірка Pushover</translation>
+    </message>
+    <message>
+        <source>Trying a script out</source>
+        <translation>Перевірка скрипту</translation>
+    </message>
+    <message>
+        <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
+        <translation>Введіть назву, натисніть «Створити», потім «Редагувати». Текст, що починається з #!, виконує програма, названа в цьому рядку, будь-який інший — оболонка. «Готово» зберігає його.</translation>
+    </message>
+    <message>
+        <source>Uninstalling Zarvil</source>
+        <translation>Видалення Zarvil</translation>
+    </message>
+    <message>
+        <source>What a test does</source>
+        <translation>Що робить перевірка</translation>
+    </message>
+    <message>
+        <source>What happens when the power fails</source>
+        <translation>Що відбувається, коли зникає живлення</translation>
+    </message>
+    <message>
+        <source>What scripts are for</source>
+        <translation>Для чого потрібні скрипти</translation>
+    </message>
+    <message>
+        <source>When a watched device reports a power failure, Zarvil warns you, runs your scripts, sends the alerts that you have chosen and, after the delay, shuts the computer down. You choose each of these in the other tabs.</source>
+        <translation>Коли пристрій під наглядом повідомляє про зникнення живлення, Zarvil попереджає вас, виконує ваші скрипти, надсилає вибрані сповіщення і після затримки вимикає комп’ютер. Усе це вибирають на інших вкладках.</translation>
+    </message>
+    <message>
+        <source>Where scripts lie</source>
+        <translation>Де лежать скрипти</translation>
+    </message>
+    <message>
+        <source>Writing a script</source>
+        <translation>Написання скрипту</translation>
+    </message>
+    <message>
+        <source>Zarvil goes on running and shows your devices, but does nothing when the power fails. Switch it on with the switch at the top.</source>
+        <translation>Zarvil працює далі й показує ваші пристрої, але нічого не робить, коли зникає живлення. Увімкніть захист перемикачем угорі.</translation>
+    </message>
+    <message>
+        <source>Zarvil goes through the shutdown as if the power had failed, and stops before the computer would be shut down. The protection must be on for a test.</source>
+        <translation>Zarvil проходить вимкнення так, ніби живлення зникло, і зупиняється, перш ніж вимкнути комп’ютер. Для перевірки захист має бути ввімкнено.</translation>
+    </message>
+    <message>
+        <source>Zarvil looks for new versions itself, at your word or by itself, and tells you what it has found.</source>
+        <translation>Zarvil сам шукає нові версії, на ваш запит або автоматично, і каже, що знайшов.</translation>
+    </message>
+    <message>
+        <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
+        <translation>Zarvil виконує їх, коли зникає живлення, перш ніж вимкнути комп’ютер: наприклад, щоб зберегти вашу роботу або належно зупинити сервер.</translation>
+    </message>
+    <message>
+        <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
+        <translation>Zarvil надсилає повідомлення на цю адресу, коли зникає живлення. Введіть повну адресу й натисніть Enter; неповна не зберігається.</translation>
+    </message>
+    <message>
+        <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
+        <translation>Zarvil записує, що і коли робить: зникнення живлення, вимкнення та сповіщення. Перегляньте журнал насамперед, якщо щось пішло не так, як ви очікували.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -819,6 +1039,14 @@
     <message>
         <source>Shows whether this account may administer the computer. No setting of this pane needs the lock to be open.</source>
         <translation>Показує, чи може цей обліковий запис керувати комп’ютером. Жодне з налаштувань тут не потребує відкритого замка.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Довідка</translation>
+    </message>
+    <message>
+        <source>Explains this tab (F1)</source>
+        <translation>Пояснює цю вкладку (F1)</translation>
     </message>
 </context>
 <context>
@@ -965,6 +1193,21 @@
     <message>
         <source>Preferences</source>
         <translation>Налаштування</translation>
+    </message>
+</context>
+<context>
+    <name>zarvil::qt::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Довідка</translation>
+    </message>
+    <message>
+        <source>What Is &amp;This?</source>
+        <translation>Що &amp;це?</translation>
+    </message>
+    <message>
+        <source>Explains the control of the window that you click next</source>
+        <translation>Пояснює елемент вікна, який ви клацнете далі</translation>
     </message>
 </context>
 </TS>

@@ -65,25 +65,6 @@ class Devices(SystemTest):
         self.expect(connected=(UPS, EATON))
         wait_until(lambda: not self.saved(), "it is forgotten")
 
-    def test_unticking_what_is_gone_or_has_no_serial_number_ends_its_row(self):
-        self.start()
-        self.tell(f"plug {NAMELESS}")
-        self.tell(f"save {NAMELESS}")
-        self.tell(f"save {UPS}")
-        self.expect(watched=(NAMELESS, UPS))
-        self.toggle("alt+w", 1)
-        self.expect(watched=(NAMELESS,))
-        self.toggle("alt+w", 0)
-        self.expect()
-        wait_until(lambda: not self.saved(), "both are forgotten")
-
-    def test_a_device_that_the_agent_saves_moves(self):
-        self.session.set_devices(UPS, EATON)
-        self.start()
-        self.expect(connected=(UPS, EATON))
-        self.tell(f"save {UPS}")
-        self.expect(connected=(EATON,), watched=(UPS,))
-
     def test_the_lists_are_refilled_and_not_doubled(self):
         self.session.set_devices(UPS, EATON, EATON)
         self.start()

@@ -3,13 +3,19 @@
 #import "cocoa/adapters/CocoaModalLoop.h"
 #import "cocoa/binding/Dimming.h"
 #import "cocoa/controls/KXButtonCell.h"
+#import "cocoa/controls/ZVBannerView.h"
+#import "cocoa/controls/ZVPlaceholderView.h"
+#import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Ref.h"
 
+#include "interface/Banner.h"
 #include "interface/Button.h"
 #include "interface/Panel.h"
+#include "interface/Placeholder.h"
 #include "interface/ProgressIndicator.h"
+#include "interface/Symbol.h"
 #include "interface/TextField.h"
 
 /// Keeps a panel from closing and tells that the user wished it.
@@ -176,6 +182,21 @@ Operated bindField(TextField& model, NSTextField* view, Subscriptions& kept) {
     };
 }
 
+void bindFault(TextField& model, NSTextField* label, Subscriptions& kept) {
+    const Ref<NSTextField> shared(label);
+    kept.push_back(model.faultProperty().observe([shared](const std::string& fault, Transition) {
+        [shared.get() setStringValue:toCocoa(fault)];
+        [shared.get() setHidden:fault.empty()];
+    }));
+}
+
+void bindPlaceholder(Placeholder& model, ZVPlaceholderView* view, Subscriptions& kept) {
+    bindView(model, view, kept);
+    const Ref<ZVPlaceholderView> shared(view);
+    kept.push_back(model.textProperty().observe(
+        [shared](const Placeholder::Text& text, Transition) { [shared.get() showText:text]; }));
+}
+
 void bindIndicator(ProgressIndicator& model, NSProgressIndicator* view, Subscriptions& kept) {
     bindView(model, view, kept);
     const Ref<NSProgressIndicator> shared(view);
@@ -185,6 +206,20 @@ void bindIndicator(ProgressIndicator& model, NSProgressIndicator* view, Subscrip
         else
             [shared.get() stopAnimation:nil];
     }));
+}
+
+void bindSymbol(SymbolView& model, ZVSymbolView* view, Subscriptions& kept) {
+    bindView(model, view, kept);
+    const Ref<ZVSymbolView> shared(view);
+    kept.push_back(model.symbolProperty().observe(
+        [shared](Symbol symbol, Transition) { [shared.get() showSymbol:symbol]; }));
+}
+
+void bindBanner(Banner& model, ZVBannerView* view, Subscriptions& kept) {
+    bindView(model, view, kept);
+    const Ref<ZVBannerView> shared(view);
+    kept.push_back(model.prominentProperty().observe(
+        [shared](bool prominent, Transition) { [shared.get() setProminent:prominent]; }));
 }
 
 void bindPanel(Panel& model, NSWindow* window, CocoaModalLoop& modal,

@@ -1,10 +1,38 @@
 #import "cocoa/binding/OutletBinder.h"
 
 #import "cocoa/adapters/CocoaPlatform.h"
+#import "cocoa/controls/ZVBannerView.h"
+#import "cocoa/controls/ZVItemCollectionView.h"
+#import "cocoa/controls/ZVPlaceholderView.h"
+#import "cocoa/controls/ZVSymbolView.h"
+#import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Guard.h"
+#import "cocoa/support/Ref.h"
 
 #include "pane/Zarvil_Preferences.h"
+
+/// Makes a call when the user has chosen a page.
+@interface ZVTabObserver : NSObject {
+@public
+    ZVCall* chosen;
+}
+@end
+
+@implementation ZVTabObserver
+
+- (void)dealloc {
+    [chosen release];
+    [super dealloc];
+}
+
+- (void)tabView:(NSTabView*)tabs didSelectTabViewItem:(NSTabViewItem*)page {
+    (void)tabs;
+    (void)page;
+    [chosen run];
+}
+
+@end
 
 namespace zarvil::cocoa {
 
@@ -25,7 +53,11 @@ public:
     void operator()(std::string_view name, Button& model) {
         if (NSButton* view = findAs<NSButton>(name)) {
             adoptAction(model, view);
-            controls_[view] = bindButton(model, view, kept_);
+            const auto operated = bindButton(model, view, kept_);
+            if ([view action])
+                controls_[view] = operated;
+            else
+                callDirectly(view, operated);
         }
     }
 
@@ -34,10 +66,15 @@ public:
         if (!view)
             return;
         adoptAction(model, view);
-        if ([view isEditable])
-            controls_[view] = bindField(model, view, kept_);
-        else
+        if (![view isEditable]) {
             bindLabel(model, view, kept_);
+            return;
+        }
+        controls_[view] = bindField(model, view, kept_);
+        const std::string fault = std::string(name) + "Fault";
+        if ([owner_ respondsToSelector:NSSelectorFromString(toCocoa(fault))])
+            if (NSTextField* label = findAs<NSTextField>(fault))
+                bindFault(model, label, kept_);
     }
 
     void operator()(std::string_view name, ProgressIndicator& model) {
@@ -65,12 +102,79 @@ public:
                 [pane] { pane->performAction("uninstallSheetFinished:", nullptr); }, kept_);
     }
 
+    void operator()(std::string_view name, CollectionView& model) {
+        NSCollectionView* view = findAs<NSCollectionView>(name);
+        if (!view)
+            return;
+        bindView(model, view, kept_);
+        if (![view isKindOfClass:[ZVItemCollectionView class]]) {
+            mismatch(name);
+            return;
+        }
+        const Ref<ZVItemCollectionView> shared(static_cast<ZVItemCollectionView*>(view));
+        showRows(shared.get(), &model);
+        kept_.push_back(Subscription([shared] { showRows(shared.get(), nullptr); }));
+    }
+
+    void operator()(std::string_view name, SymbolView& model) {
+        if (ZVSymbolView* view = findAs<ZVSymbolView>(name))
+            bindSymbol(model, view, kept_);
+    }
+
+    void operator()(std::string_view name, Banner& model) {
+        if (ZVBannerView* view = findAs<ZVBannerView>(name))
+            bindBanner(model, view, kept_);
+    }
+
+    void operator()(std::string_view name, Placeholder& model) {
+        if (ZVPlaceholderView* view = findAs<ZVPlaceholderView>(name))
+            bindPlaceholder(model, view, kept_);
+    }
+
     void operator()(std::string_view name, View& model) {
         if (NSView* view = findAs<NSView>(name))
             bindView(model, view, kept_);
     }
 
+    /// The pages stand in the order of `Tab`.
+    void bindTabs() {
+        NSTabView* tabs = findAs<NSTabView>("tabView");
+        if (!tabs)
+            return;
+        Guidance* guidance = &pane_.guidance;
+        const auto observer = Ref<ZVTabObserver>::adopt([[ZVTabObserver alloc] init]);
+        const auto choose = [=] {
+            const NSInteger index = [tabs indexOfTabViewItem:[tabs selectedTabViewItem]];
+            guidance->selectTab(static_cast<Tab>(index));
+        };
+        observer.get()->chosen = [[ZVCall callWithFunction:choose] retain];
+        [tabs setDelegate:static_cast<id>(observer.get())];
+        const Ref<NSTabView> shared(tabs);
+        kept_.push_back(pane_.guidance.selectedTabProperty().observe([=](Tab tab, Transition) {
+            const auto index = static_cast<NSInteger>(tab);
+            if (index < [shared.get() numberOfTabViewItems])
+                [shared.get() selectTabViewItemAtIndex:index];
+        }));
+        // Shares the observer, which the tabs do not.
+        kept_.push_back(Subscription([=] {
+            if (observer.get())
+                [shared.get() setDelegate:nil];
+        }));
+    }
+
 private:
+    /// For a control whose action is none of the pane's.
+    void callDirectly(NSButton* view, const Operated& operated) {
+        const auto call = Ref<ZVCall>([ZVCall callWithFunction:operated]);
+        [view setTarget:call.get()];
+        [view setAction:@selector(run:)];
+        const Ref<NSButton> shared(view);
+        kept_.push_back(Subscription([=] {
+            if ([shared.get() target] == call.get())
+                [shared.get() setTarget:nil];
+        }));
+    }
+
     template <typename Class>
     Class* findAs(std::string_view name) {
         // An owner without such a key raises.
@@ -110,7 +214,10 @@ private:
 Faults bindOutlets(Zarvil_Preferences& pane, NSObject* owner, CocoaPlatform& platform,
                    OperatedControls& controls, Subscriptions& kept) {
     Faults faults;
-    visitOutlets(pane, Binder(pane, owner, platform, controls, kept, faults));
+    Binder binder(pane, owner, platform, controls, kept, faults);
+    visitOutlets(pane, binder);
+    visitGuidance(pane.guidance, binder);
+    binder.bindTabs();
     return faults;
 }
 

@@ -1,5 +1,6 @@
 #import "cocoa/controls/ZVURLButton.h"
 
+#import "cocoa/controls/Hyperlink.h"
 #import "cocoa/controls/PointerArea.h"
 
 #include "interface/TrackingArea.h"
@@ -17,6 +18,17 @@ constexpr unsigned options =
     if ((self = [super initWithCoder:coder]))
         [self setupTracking];
     return self;
+}
+
+// A title of the layout's looks like a link too.
+- (void)awakeFromNib {
+    [self setTitle:[self title]];
+}
+
+- (void)setTitle:(NSString*)title {
+    [super setTitle:title];
+    if ([title length] != 0)
+        [self setAttributedTitle:[NSAttributedString hyperlinkFromString:title withURL:nil]];
 }
 
 - (void)setupTracking {

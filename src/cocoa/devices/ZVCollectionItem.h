@@ -1,6 +1,6 @@
 #pragma once
 
-#import <AppKit/AppKit.h>
+#import "cocoa/controls/ZVItemCollectionView.h"
 
 #include <memory>
 
@@ -13,17 +13,22 @@ struct DeviceItemParts;
 }
 } // namespace zarvil
 
-/// Shows one device record with a check box: ticked means saved for watching.
-@interface ZVCollectionItem : NSCollectionViewItem {
+/// Shows one device record with a check box: ticked means saved for watching. Until it shows a
+/// model it does nothing.
+@interface ZVCollectionItem : ZVRowItem {
     std::unique_ptr<zarvil::cocoa::DeviceItemParts> _parts;
     ZVCollectionNoteView* note;
+    NSButton* check;
+    NSTextField* nameLabel;
+    NSTextField* detailLabel;
 }
-/// Shows a model, of which this item takes a share.
-- (void)showItem:(const std::shared_ptr<zarvil::ZVCollectionItem>&)item;
-/// 0 not saved, 1 saved; the check box is bound to it.
+/// 0 not saved, 1 saved; the check box follows it.
 @property NSUInteger state;
 /// The card that the item stands on.
 @property(retain) IBOutlet ZVCollectionNoteView* note;
+@property(retain) IBOutlet NSButton* check;
+@property(retain) IBOutlet NSTextField* nameLabel;
+@property(retain) IBOutlet NSTextField* detailLabel;
 /// The check box's action.
 - (IBAction)toggleSelectDevice:(id)sender;
 @end

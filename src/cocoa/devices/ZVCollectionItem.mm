@@ -1,14 +1,16 @@
 #import "cocoa/devices/ZVCollectionItem.h"
 
 #import "cocoa/controls/ZVCollectionNoteView.h"
+#import "cocoa/support/Convert.h"
 
 #include "devices/ZVCollectionItem.h"
+
+using zarvil::cocoa::toCocoa;
 
 namespace zarvil::cocoa {
 
 struct DeviceItemParts {
-    std::shared_ptr<zarvil::ZVCollectionItem> item = std::make_shared<zarvil::ZVCollectionItem>();
-    Subscription state;
+    std::shared_ptr<zarvil::ZVCollectionItem> item;
 };
 
 } // namespace zarvil::cocoa
@@ -16,43 +18,56 @@ struct DeviceItemParts {
 @implementation ZVCollectionItem
 
 @synthesize note;
-
-- (zarvil::ZVCollectionItem&)item {
-    if (!_parts)
-        _parts = std::make_unique<zarvil::cocoa::DeviceItemParts>();
-    return *_parts->item;
-}
+@synthesize check;
+@synthesize nameLabel;
+@synthesize detailLabel;
 
 - (void)dealloc {
     [note release];
+    [check release];
+    [nameLabel release];
+    [detailLabel release];
     [super dealloc];
 }
 
-- (void)showItem:(const std::shared_ptr<zarvil::ZVCollectionItem>&)item {
-    (void)[self item];
-    _parts->item = item;
-    // What is bound to the state hears of each change.
-    ZVCollectionItem* shown = self;
-    _parts->state = item->stateProperty().observe([shown](unsigned long, zarvil::Transition) {
-        [shown willChangeValueForKey:@"state"];
-        [shown didChangeValueForKey:@"state"];
-    });
+/// A share of the model, which may leave its list during one of its operations; may be null.
+- (std::shared_ptr<zarvil::ZVCollectionItem>)model {
+    return _parts ? _parts->item : nullptr;
+}
+
+- (void)showRow:(const std::shared_ptr<zarvil::CollectionViewItem>&)row {
+    _parts = std::make_unique<zarvil::cocoa::DeviceItemParts>();
+    _parts->item = std::dynamic_pointer_cast<zarvil::ZVCollectionItem>(row);
+    [self rowDidChange];
+}
+
+- (void)rowDidChange {
+    const auto model = [self model];
+    if (!model)
+        return;
+    [self willChangeValueForKey:@"state"];
+    [check setState:model->state() != 0 ? NSOnState : NSOffState];
+    [self didChangeValueForKey:@"state"];
+    [nameLabel setStringValue:toCocoa(model->name())];
+    [detailLabel setStringValue:toCocoa(model->detail())];
+    [[self view] setToolTip:toCocoa(model->toolTip())];
 }
 
 - (NSUInteger)state {
-    return [self item].state();
+    const auto model = [self model];
+    return model ? model->state() : 0;
 }
 
 - (void)setState:(NSUInteger)state {
-    [self item].setState(state);
+    if (const auto model = [self model])
+        model->setState(state);
 }
 
 - (IBAction)toggleSelectDevice:(id)sender {
-    (void)[self item];
     // The item may leave its list, and this object its view, during the call.
-    const auto item = _parts->item;
     [[self retain] autorelease];
-    item->userDidSetState([sender state] == NSOnState ? 1 : 0);
+    if (const auto model = [self model])
+        model->userDidSetState([sender state] == NSOnState ? 1 : 0);
 }
 
 @end

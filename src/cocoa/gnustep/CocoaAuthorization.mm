@@ -4,18 +4,15 @@
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Ref.h"
 
-/// A button that shows the state of the lock, and beside it why it is so.
+/// A button that shows the state of the lock; why it is so stands beside it in the layout.
 @interface SFAuthorizationView : NSView {
     NSButton* _button;
-    NSTextField* _reason;
 }
 - (NSButton*)button;
-- (void)showTitle:(NSString*)title reason:(NSString*)reason;
 @end
 
 namespace {
 constexpr CGFloat buttonWidth = 90; // points
-constexpr CGFloat gap = 8;
 } // namespace
 
 @implementation SFAuthorizationView
@@ -26,16 +23,7 @@ constexpr CGFloat gap = 8;
         [[[NSButton alloc] initWithFrame:NSMakeRect(0, 0, buttonWidth, size.height)] autorelease];
     [_button setBezelStyle:NSRoundedBezelStyle];
     [_button setAutoresizingMask:NSViewHeightSizable];
-    const CGFloat left = buttonWidth + gap;
-    _reason = [[[NSTextField alloc]
-        initWithFrame:NSMakeRect(left, 0, MAX(0, size.width - left), size.height)] autorelease];
-    [_reason setEditable:NO];
-    [_reason setSelectable:NO];
-    [_reason setBezeled:NO];
-    [_reason setDrawsBackground:NO];
-    [_reason setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
     [self addSubview:_button];
-    [self addSubview:_reason];
 }
 
 - (instancetype)initWithFrame:(NSRect)frame {
@@ -54,11 +42,6 @@ constexpr CGFloat gap = 8;
     return _button;
 }
 
-- (void)showTitle:(NSString*)title reason:(NSString*)reason {
-    [_button setTitle:title];
-    [_reason setStringValue:reason];
-}
-
 @end
 
 namespace zarvil::cocoa {
@@ -73,11 +56,10 @@ struct CocoaAuthorization::Lock {
         [[lock button] setAction:@selector(run:)];
         const auto show = [this] {
             const bool unlocked = model.authorizationState() == authorizationState::unlocked;
-            [view.get() showTitle:toCocoa(strings.localizedString(unlocked ? "Unlocked" : "Locked"))
-                           reason:toCocoa(model.reasonProperty().get())];
+            [[view.get() button]
+                setTitle:toCocoa(strings.localizedString(unlocked ? "Unlocked" : "Locked"))];
         };
         state = model.stateProperty().observe([show](int, Transition) { show(); });
-        reason = model.reasonProperty().observe([show](const std::string&, Transition) { show(); });
     }
     Lock(const Lock&) = delete;
     Lock& operator=(const Lock&) = delete;
@@ -88,7 +70,6 @@ struct CocoaAuthorization::Lock {
     Ref<SFAuthorizationView> view;
     Ref<ZVCall> click;
     Subscription state;
-    Subscription reason;
 };
 
 CocoaAuthorization::CocoaAuthorization(Timers& timers, const StringTable& strings)

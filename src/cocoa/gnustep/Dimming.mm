@@ -11,7 +11,10 @@
 @implementation ZVVeil
 
 - (void)drawRect:(NSRect)dirty {
-    [[[[self window] backgroundColor] colorWithAlphaComponent:1 - opacity] set];
+    // A color of the system's own knows no other opacity.
+    NSColor* ground =
+        [[[self window] backgroundColor] colorUsingColorSpaceName:NSCalibratedRGBColorSpace];
+    [[ground colorWithAlphaComponent:1 - opacity] set];
     NSRectFillUsingOperation(dirty, NSCompositeSourceOver);
 }
 

@@ -5,11 +5,16 @@
 
 #include <memory>
 
+@class ZVBannerView;
+@class ZVPlaceholderView;
+@class ZVSymbolView;
+
 namespace zarvil::cocoa {
 struct LoadedPane;
 }
 
-/// Every outlet, with its class. The array controllers belong to the collection views.
+/// Every outlet, with its class. The array controllers belong to the collection views; what is
+/// named after a field shows its fault.
 #define ZV_OUTLETS(OUTLET)                                                                         \
     OUTLET(NSView, authView)                                                                       \
     OUTLET(NSTabView, tabView)                                                                     \
@@ -57,7 +62,32 @@ struct LoadedPane;
     OUTLET(NSTextField, scriptsTitle)                                                              \
     OUTLET(NSButton, createNewScript)                                                              \
     OUTLET(NSCollectionView, scriptsCollection)                                                    \
-    OUTLET(NSArrayController, scriptsArrayController)
+    OUTLET(NSArrayController, scriptsArrayController)                                              \
+    OUTLET(ZVPlaceholderView, noneConnected)                                                       \
+    OUTLET(ZVPlaceholderView, noneWatched)                                                         \
+    OUTLET(ZVPlaceholderView, devicesUnknown)                                                      \
+    OUTLET(ZVPlaceholderView, noScripts)                                                           \
+    OUTLET(ZVSymbolView, statusSymbol)                                                             \
+    OUTLET(NSProgressIndicator, statusIndicator)                                                   \
+    OUTLET(NSTextField, statusLine)                                                                \
+    OUTLET(NSButton, chooseDevices)                                                                \
+    OUTLET(ZVBannerView, agentRow)                                                                 \
+    OUTLET(ZVSymbolView, agentSymbol)                                                              \
+    OUTLET(NSProgressIndicator, agentIndicator)                                                    \
+    OUTLET(NSTextField, agentHint)                                                                 \
+    OUTLET(ZVSymbolView, lockSymbol)                                                               \
+    OUTLET(NSTextField, lockLine)                                                                  \
+    OUTLET(NSTextField, devicesHint)                                                               \
+    OUTLET(NSTextField, connectedCount)                                                            \
+    OUTLET(NSTextField, watchedCount)                                                              \
+    OUTLET(NSTextField, delayHint)                                                                 \
+    OUTLET(NSTextField, testHint)                                                                  \
+    OUTLET(NSProgressIndicator, testIndicator)                                                     \
+    OUTLET(NSTextField, connectMessageHint)                                                        \
+    OUTLET(NSTextField, emailHint)                                                                 \
+    OUTLET(ZVSymbolView, verdictSymbol)                                                            \
+    OUTLET(NSTextField, shutdownDelayTextFault)                                                    \
+    OUTLET(NSTextField, scriptsTitleFault)
 
 /// Every action of a control, by the first keyword of its selector.
 #define ZV_ACTIONS(ACTION)                                                                         \

@@ -2,7 +2,12 @@
 
 #import "cocoa/adapters/CocoaPlatform.h"
 #import "cocoa/binding/AlertPanel.h"
+#import "cocoa/binding/Localization.h"
 #import "cocoa/binding/OutletBinder.h"
+#import "cocoa/binding/ScriptPanel.h"
+#import "cocoa/controls/ZVBannerView.h"
+#import "cocoa/controls/ZVPlaceholderView.h"
+#import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Convert.h"
 
 #include "pane/Zarvil_Preferences.h"
@@ -23,11 +28,15 @@ std::string trialRoot() {
 
 /// In the order of construction: what is below uses what is above.
 struct LoadedPane {
-    explicit LoadedPane(NSObject* owner) : platform(trialRoot()), controller(platform.platform()) {
+    explicit LoadedPane(::Zarvil_Preferences* owner)
+        : platform(trialRoot()), controller(platform.platform()) {
+        localizeTexts([owner mainView], platform.platform().strings);
+        localizeTexts([[owner uninstallModal] contentView], platform.platform().strings);
         for (const std::string& fault :
              bindOutlets(controller, owner, platform, controls, bindings))
             NSLog(@"Zarvil: layout: %@", toCocoa(fault));
         bindings.push_back(presentAlerts(platform.alerts()));
+        bindings.push_back(showScriptProgress(controller.scriptProgress, [owner mainView]));
     }
 
     CocoaPlatform platform;

@@ -1,8 +1,10 @@
 #pragma once
 
-#import <AppKit/AppKit.h>
+#import "cocoa/controls/ZVItemCollectionView.h"
 
 #include <memory>
+
+@class ZVSymbolView;
 
 namespace zarvil {
 class ZVScriptCollectionItem;
@@ -13,14 +15,19 @@ struct ScriptItemParts;
 
 /// Shows one script and lets the user edit, run and delete it. Until it shows a model it does
 /// nothing.
-@interface ZVScriptCollectionItem : NSCollectionViewItem {
+@interface ZVScriptCollectionItem : ZVRowItem {
     std::unique_ptr<zarvil::cocoa::ScriptItemParts> _parts;
     id owner;
     NSTextField* text;
+    NSTextField* titleLabel;
+    NSTextField* textLabel;
+    NSTextField* stateLabel;
+    NSTextField* hintLabel;
+    ZVSymbolView* stateSymbol;
+    NSButton* runButton;
+    NSButton* editButton;
+    NSButton* removeButton;
 }
-/// Shows a model, of which this item takes a share; null shows none.
-- (void)showItem:(const std::shared_ptr<zarvil::ZVScriptCollectionItem>&)item;
-
 - (IBAction)edit:(id)sender;
 - (IBAction)execute:(id)sender;
 - (IBAction)remove:(id)sender;
@@ -32,6 +39,14 @@ struct ScriptItemParts;
 @property(retain) NSMutableDictionary* data;
 @property(assign) IBOutlet id owner;
 @property(assign) IBOutlet NSTextField* text;
+@property(retain) IBOutlet NSTextField* titleLabel;
+@property(retain) IBOutlet NSTextField* textLabel;
+@property(retain) IBOutlet NSTextField* stateLabel;
+@property(retain) IBOutlet NSTextField* hintLabel;
+@property(retain) IBOutlet ZVSymbolView* stateSymbol;
+@property(retain) IBOutlet NSButton* runButton;
+@property(retain) IBOutlet NSButton* editButton;
+@property(retain) IBOutlet NSButton* removeButton;
 /// The edit fields; nil unless editing.
 - (NSTextField*)eTitle;
 - (NSTextField*)eText;
