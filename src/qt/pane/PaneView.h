@@ -36,6 +36,7 @@ private:
     Column* bottom_;
     QTabWidget* tabs_;
     TextLabel* statusLine_;
+    TextLabel* agentHint_;
     Gap* gap_;
     QDialog* uninstallPanel_;
 };
