@@ -1,4 +1,5 @@
 // The texts of the core, for lupdate. Written by tools/translations; not compiled.
+// clang-format off
 QT_TRANSLATE_N_NOOP("MainBundle", "%n devices watched"),
 QT_TRANSLATE_NOOP("MainBundle", "A test is running. Nothing is shut down."),
 QT_TRANSLATE_NOOP("MainBundle", "Administrator rights"),
@@ -11,6 +12,8 @@ QT_TRANSLATE_NOOP("MainBundle", "An alert reaches you only if your router and mo
 QT_TRANSLATE_NOOP("MainBundle", "Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost."),
 QT_TRANSLATE_NOOP("MainBundle", "Asks first, then removes Zarvil, this pane and the settings. Your scripts are kept."),
 QT_TRANSLATE_NOOP("MainBundle", "Can't execute empty script!"),
+QT_TRANSLATE_NOOP("MainBundle", "Cancel"),
+QT_TRANSLATE_NOOP("MainBundle", "Cancel editing “%1”"),
 QT_TRANSLATE_NOOP("MainBundle", "Cannot be changed while the warning hides itself."),
 QT_TRANSLATE_NOOP("MainBundle", "Choosing devices"),
 QT_TRANSLATE_NOOP("MainBundle", "Connect a power supply with a data cable. It appears here by itself."),
@@ -24,6 +27,7 @@ QT_TRANSLATE_NOOP("MainBundle", "Edit"),
 QT_TRANSLATE_NOOP("MainBundle", "Edit the title and the text in place."),
 QT_TRANSLATE_NOOP("MainBundle", "Edit “%1”"),
 QT_TRANSLATE_NOOP("MainBundle", "Editing. Done saves the title and the text."),
+QT_TRANSLATE_NOOP("MainBundle", "End editing without saving. Esc leads here."),
 QT_TRANSLATE_NOOP("MainBundle", "Ends applications that do not quit by themselves, so that none of them can hold the shutdown up. What was not saved in them is lost."),
 QT_TRANSLATE_NOOP("MainBundle", "Failed with exit status %1: %2"),
 QT_TRANSLATE_NOOP("MainBundle", "Goes through the shutdown as if the power had failed, and stops before the computer would be shut down."),

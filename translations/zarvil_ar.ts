@@ -966,6 +966,18 @@
         <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Cancel editing “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End editing without saving. Esc leads here.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -954,6 +954,18 @@
         <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
         <translation>Zarvil hält fest, was es wann tut: Stromausfälle, Herunterfahren und Benachrichtigungen. Sehen Sie dort zuerst nach, wenn etwas anders lief als erwartet.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancel editing “%1”</source>
+        <translation>Bearbeiten von „%1“ abbrechen</translation>
+    </message>
+    <message>
+        <source>End editing without saving. Esc leads here.</source>
+        <translation>Beendet das Bearbeiten, ohne zu speichern. Auch mit Esc.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -954,6 +954,18 @@
         <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
         <translation>Zarvil anota lo que hace y cuándo: cortes de corriente, apagados y alertas. Mire ahí primero si algo no fue como esperaba.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Cancel editing “%1”</source>
+        <translation>Cancelar la edición de «%1»</translation>
+    </message>
+    <message>
+        <source>End editing without saving. Esc leads here.</source>
+        <translation>Termina la edición sin guardar. Esc hace lo mismo.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
-        <translation>Une alerte ne vous parvient que si votre routeur et votre modem sont encore alimentés : branchez-les aussi sur l’alimentation de secours.</translation>
+        <translation>Une alerte ne vous parvient que si votre routeur et votre modem sont encore alimentés&#xa0;: branchez-les aussi sur l’alimentation de secours.</translation>
     </message>
     <message>
         <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
@@ -764,7 +764,7 @@
     </message>
     <message>
         <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
-        <translation>Branchez une alimentation avec son câble de données. Elle apparaît sous « Connectés ». Cochez-la : elle passe sous « Surveillés ». Décochez-la : Zarvil ne la surveille plus.</translation>
+        <translation>Branchez une alimentation avec son câble de données. Elle apparaît sous «&#xa0;Connectés&#xa0;». Cochez-la&#xa0;: elle passe sous «&#xa0;Surveillés&#xa0;». Décochez-la&#xa0;: Zarvil ne la surveille plus.</translation>
     </message>
     <message>
         <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
@@ -784,23 +784,23 @@
     </message>
     <message>
         <source>Help: About</source>
-        <translation>Aide : À propos</translation>
+        <translation>Aide&#xa0;: À propos</translation>
     </message>
     <message>
         <source>Help: Alerts</source>
-        <translation>Aide : Alertes</translation>
+        <translation>Aide&#xa0;: Alertes</translation>
     </message>
     <message>
         <source>Help: Devices</source>
-        <translation>Aide : Appareils</translation>
+        <translation>Aide&#xa0;: Appareils</translation>
     </message>
     <message>
         <source>Help: General</source>
-        <translation>Aide : Général</translation>
+        <translation>Aide&#xa0;: Général</translation>
     </message>
     <message>
         <source>Help: Scripts</source>
-        <translation>Aide : Scripts</translation>
+        <translation>Aide&#xa0;: Scripts</translation>
     </message>
     <message>
         <source>If no device appears</source>
@@ -820,7 +820,7 @@
     </message>
     <message>
         <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
-        <translation>Pushover est un service qui transmet des messages à votre téléphone. Il vous faut y avoir un compte ; son ID utilisateur va dans le premier champ. Avec un ID d’appareil, seul celui-ci reçoit le message ; sinon, tous les vôtres.</translation>
+        <translation>Pushover est un service qui transmet des messages à votre téléphone. Il vous faut y avoir un compte&#xa0;; son ID utilisateur va dans le premier champ. Avec un ID d’appareil, seul celui-ci reçoit le message&#xa0;; sinon, tous les vôtres.</translation>
     </message>
     <message>
         <source>Quitting applications by force</source>
@@ -832,11 +832,11 @@
     </message>
     <message>
         <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
-        <translation>« Exécuter » lance le script aussitôt, sans coupure de courant, et fait tout ce qu’il contient. S’il échoue, son code de sortie et sa dernière erreur sont affichés.</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» lance le script aussitôt, sans coupure de courant, et fait tout ce qu’il contient. S’il échoue, son code de sortie et sa dernière erreur sont affichés.</translation>
     </message>
     <message>
         <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
-        <translation>« Envoyer un test » envoie aussitôt un message et vous indique s’il est parti. Les ID que Pushover ne connaît pas sont effacés et doivent être saisis de nouveau.</translation>
+        <translation>«&#xa0;Envoyer un test&#xa0;» envoie aussitôt un message et vous indique s’il est parti. Les ID que Pushover ne connaît pas sont effacés et doivent être saisis de nouveau.</translation>
     </message>
     <message>
         <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
@@ -880,7 +880,7 @@
     </message>
     <message>
         <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
-        <translation>Le temps entre la coupure de courant et l’arrêt. Les nombres supérieurs ou égaux à 0 sont enregistrés par la touche Entrée ; toute autre saisie laisse la dernière valeur inchangée.</translation>
+        <translation>Le temps entre la coupure de courant et l’arrêt. Les nombres supérieurs ou égaux à 0 sont enregistrés par la touche Entrée&#xa0;; toute autre saisie laisse la dernière valeur inchangée.</translation>
     </message>
     <message>
         <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
@@ -900,7 +900,7 @@
     </message>
     <message>
         <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
-        <translation>Saisissez un titre, appuyez sur « Créer », puis sur « Modifier ». Un texte qui commence par #! est exécuté par le programme nommé sur cette ligne, tout autre par le shell. « Terminé » l’enregistre.</translation>
+        <translation>Saisissez un titre, appuyez sur «&#xa0;Créer&#xa0;», puis sur «&#xa0;Modifier&#xa0;». Un texte qui commence par #! est exécuté par le programme nommé sur cette ligne, tout autre par le shell. «&#xa0;Terminé&#xa0;» l’enregistre.</translation>
     </message>
     <message>
         <source>Uninstalling Zarvil</source>
@@ -944,15 +944,27 @@
     </message>
     <message>
         <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
-        <translation>Zarvil les exécute en cas de coupure de courant, avant d’éteindre l’ordinateur : par exemple pour enregistrer votre travail ou arrêter proprement un serveur.</translation>
+        <translation>Zarvil les exécute en cas de coupure de courant, avant d’éteindre l’ordinateur&#xa0;: par exemple pour enregistrer votre travail ou arrêter proprement un serveur.</translation>
     </message>
     <message>
         <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
-        <translation>Zarvil envoie un message à cette adresse en cas de coupure de courant. Saisissez l’adresse entière et appuyez sur Entrée ; une adresse incomplète n’est pas enregistrée.</translation>
+        <translation>Zarvil envoie un message à cette adresse en cas de coupure de courant. Saisissez l’adresse entière et appuyez sur Entrée&#xa0;; une adresse incomplète n’est pas enregistrée.</translation>
     </message>
     <message>
         <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
-        <translation>Zarvil note ce qu’il fait et quand : coupures, arrêts et alertes. Consultez-le d’abord si quelque chose ne s’est pas passé comme prévu.</translation>
+        <translation>Zarvil note ce qu’il fait et quand&#xa0;: coupures, arrêts et alertes. Consultez-le d’abord si quelque chose ne s’est pas passé comme prévu.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cancel editing “%1”</source>
+        <translation>Annuler la modification de « %1 »</translation>
+    </message>
+    <message>
+        <source>End editing without saving. Esc leads here.</source>
+        <translation>Termine la modification sans enregistrer. Échap fait de même.</translation>
     </message>
 </context>
 <context>
@@ -1200,7 +1212,7 @@
     </message>
     <message>
         <source>What Is &amp;This?</source>
-        <translation>&amp;Qu’est-ce que c’est ?</translation>
+        <translation>&amp;Qu’est-ce que c’est&#xa0;?</translation>
     </message>
     <message>
         <source>Explains the control of the window that you click next</source>

@@ -957,6 +957,18 @@
         <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
         <translation>Zarvil записує, що і коли робить: зникнення живлення, вимкнення та сповіщення. Перегляньте журнал насамперед, якщо щось пішло не так, як ви очікували.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Cancel editing “%1”</source>
+        <translation>Скасувати редагування «%1»</translation>
+    </message>
+    <message>
+        <source>End editing without saving. Esc leads here.</source>
+        <translation>Завершує редагування без збереження. Те саме робить Esc.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
