@@ -122,14 +122,17 @@ public:
     std::vector<Error> presented;
 };
 
-/// Translates only what it is given.
+/// Translates only what it is given, and the rest as `inherited` does.
 class StringTable final : public zarvil::StringTable {
 public:
     std::string localizedString(std::string_view key) const override {
         const auto found = translations.find(std::string(key));
-        return found == translations.end() ? std::string(key) : found->second;
+        if (found != translations.end())
+            return found->second;
+        return inherited ? inherited->localizedString(key) : std::string(key);
     }
 
+    static inline const zarvil::StringTable* inherited = nullptr;
     std::map<std::string, std::string> translations;
 };
 

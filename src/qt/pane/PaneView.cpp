@@ -142,6 +142,7 @@ PaneView::PaneView(QWidget* parent)
     bottom_ = frame.Bottom;
     tabs_ = frame.tabView;
     statusLine_ = frame.statusLine;
+    agentHint_ = frame.agentHint;
     top_->setVerticalMargins(above, between);
     bottom_->setVerticalMargins(aroundLock, aroundLock);
     gap_ = new Gap(tabs_);
@@ -163,6 +164,7 @@ QSize PaneView::sizeHint() const {
 void PaneView::adaptToHeight() {
     const bool low = height() < lowHeight * theme::lineHeight(*this);
     statusLine_->setElided(low);
+    agentHint_->setElided(low);
     bottom_->setVisible(!low);
 }
 

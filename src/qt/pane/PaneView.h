@@ -43,6 +43,7 @@ private:
     QPushButton* launchButton_;
     bool untouched_ = true; ///< neither key nor click has reached the tab bar since the start
     TextLabel* statusLine_;
+    TextLabel* agentHint_;
     Gap* gap_;
     QDialog* uninstallPanel_;
     QPalette completed_; ///< what the pane adds to the desktop's palette
