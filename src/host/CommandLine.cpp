@@ -14,6 +14,10 @@ struct Options {
     QCommandLineOption root{"root", "Put the product's absolute paths under DIR.", "DIR"};
     QCommandLineOption appearance{
         "appearance", "The look: light, dark, or auto, which follows the desktop.", "LOOK"};
+    QCommandLineOption tab{"tab", "Open at the tab of this name, such as \"scripts\".", "NAME"};
+    QCommandLineOption diagnose{
+        "diagnose", "Print what to tell with a report of a fault, without secrets, and exit."};
+    QCommandLineOption service{"service"};
     // Not the parser's own, which offers the toolkit's options too: those are not for here.
     QCommandLineOption help{{"h", "help"}, "Show this help and exit."};
 
@@ -21,7 +25,8 @@ struct Options {
         parser.setApplicationDescription(
             "Shows the preference panes of this computer, or the one whose bundle folder PANE is.\n"
             "A second start brings the window of the first to the front.");
-        parser.addOptions({root, appearance, help});
+        service.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOptions({root, appearance, tab, diagnose, service, help});
         parser.addVersionOption();
         parser.addPositionalArgument("PANE", "The bundle folder of a pane.", "[PANE]");
     }
@@ -40,6 +45,12 @@ std::variant<CommandLine, UsageError> parseCommandLine(const QStringList& argume
         line.wish = CommandLine::Wish::Help;
     else if (parser.isSet("version"))
         line.wish = CommandLine::Wish::Version;
+    else if (parser.isSet(options.diagnose))
+        line.wish = CommandLine::Wish::Diagnose;
+    line.isService = parser.isSet(options.service);
+    line.tab = parser.value(options.tab);
+    if (parser.isSet(options.tab) && line.tab.isEmpty())
+        return UsageError{QStringLiteral("--tab: the name of a tab must not be empty")};
 
     const QStringList panes = parser.positionalArguments();
     if (panes.size() > 1)
@@ -73,6 +84,7 @@ Panes are looked for in
   %1
 
 Environment: ZARVIL_APPEARANCE is the same as --appearance.
+QT_LOGGING_RULES="zarvil.*=true" makes the program tell what it does.
 Exit status: 0 success, 64 wrong usage, 65 broken pane, 66 no pane found,
 69 no display, or no answer from the window of an earlier start.
 )")

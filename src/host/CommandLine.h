@@ -10,10 +10,13 @@
 namespace zarvil::host {
 
 struct CommandLine {
-    enum class Wish { Run, Help, Version };
+    enum class Wish { Run, Help, Version, Diagnose };
     Wish wish = Wish::Run;
     QString bundle; ///< empty to look in the folders of installed panes
     QString root;   ///< absolute; empty for the real product paths
+    QString tab;    ///< to turn to, as its user writes it; empty for the one shown last
+    /// Started by the message bus: the window waits until it is asked for.
+    bool isService = false;
     AppearanceChoice appearance = AppearanceChoice::Auto;
 };
 

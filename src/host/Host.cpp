@@ -1,7 +1,10 @@
 #include "host/Host.h"
 
 #include "bus/BusProbe.h"
+#include "host/Diagnosis.h"
 #include "host/Failure.h"
+#include "host/Log.h"
+#include "host/Tabs.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
 #include "protocol/NonCopyable.h"
@@ -9,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -17,6 +21,8 @@
 #include <utility>
 
 namespace zarvil::host {
+
+Q_LOGGING_CATEGORY(hostLog, "zarvil.host", QtInfoMsg)
 
 namespace {
 
@@ -40,6 +46,18 @@ int failWithoutPanes() {
                     "Host", "There is no preference pane in \"%1\" and none in \"%2\".")
                     .arg(bundleFolders().at(0), bundleFolders().at(1)));
     return exitCode::noPane;
+}
+
+int failUsage(const UsageError& error) {
+    logFailure(error.message);
+    logFailure(QStringLiteral("try --help"));
+    return exitCode::usage;
+}
+
+int failTab(const QString& name, const QStringList& known) {
+    const QString offer = known.isEmpty() ? QStringLiteral("the pane has no named tabs")
+                                          : "there are " + known.join(QLatin1String(", "));
+    return failUsage({QStringLiteral("--tab: there is no tab \"%1\"; %2").arg(name, offer)});
 }
 
 BusOptions sessionBusFor(const SingleInstance& instance) {
@@ -73,12 +91,18 @@ int Host::run() {
     for (const auto& bundle : found)
         if (isBroken(bundle))
             logFailure(std::get<BundleFailure>(bundle).message);
+        else
+            qCDebug(hostLog).noquote() << "Found the pane" << std::get<Bundle>(bundle).path;
     return runWindow(found);
 }
 
 int Host::runWindow(const std::vector<BundleOutcome>& bundles) {
     makeWindow(bundles);
     auto failure = window_->prepare();
+    const QStringList tabs = tabNames(*window_);
+    if (const QString& tab = commandLine_.tab;
+        !failure && !tab.isEmpty() && !tabs.contains(tab, Qt::CaseInsensitive))
+        return failTab(tab, tabs);
     // A bus in health has answered by now, and a second instance shows nothing. Otherwise the
     // window comes up all the same, and goes again if it must.
     constexpr std::chrono::milliseconds answerLimit{25};
@@ -86,13 +110,16 @@ int Host::runWindow(const std::vector<BundleOutcome>& bundles) {
     const Subscription watching = session_.observe([this](BusState state) { busChanged(state); });
     if (!yielding_) {
         if (!failure)
-            failure = window_->open();
+            failure = showAtStart();
         if (failure)
             return fail(*failure);
-        appearance_.follow(session_);
     }
     const int code = QApplication::exec();
     window_.reset();
+    if (failure_)
+        return fail(*failure_);
+    if (code == exitCode::usage)
+        return failTab(commandLine_.tab, tabs);
     if (code == exitCode::unavailable)
         showFailure(QCoreApplication::translate(
             "Host", "The preferences are open already, but their window does not answer."));
@@ -110,12 +137,53 @@ void Host::makeWindow(const std::vector<BundleOutcome>& bundles) {
     });
     QObject::connect(&signals_, &UnixSignals::endRequested, window_.get(),
                      &HostWindow::closeRegardless);
-    QObject::connect(&instance_, &SingleInstance::activated, window_.get(),
-                     &HostWindow::raiseToUser);
+    serveOthers();
+}
+
+void Host::serveOthers() {
+    QObject::connect(&instance_, &SingleInstance::activated, window_.get(), [this] {
+        if (yielding_)
+            return;
+        if ((failure_ = show()))
+            QCoreApplication::exit(exitCodeOf(*failure_));
+    });
+    instance_.setShowTab([this](const QString& name) { return turnToTab(*window_, name); });
+}
+
+std::optional<BundleFailure> Host::showAtStart() {
+    if (!commandLine_.isService) {
+        auto failure = show();
+        if (!failure && !commandLine_.tab.isEmpty())
+            turnToTab(*window_, commandLine_.tab);
+        return failure;
+    }
+    // Whoever had it started says at once what for.
+    constexpr std::chrono::seconds patience{20};
+    QTimer::singleShot(patience, window_.get(), [this] {
+        if (!shown_)
+            window_->closeRegardless();
+    });
+    return std::nullopt;
+}
+
+/// Opens the window, or brings it before the user.
+std::optional<BundleFailure> Host::show() {
+    if (std::exchange(shown_, true)) {
+        window_->raiseToUser();
+        return std::nullopt;
+    }
+    auto failure = window_->open();
+    if (!failure)
+        appearance_.follow(session_);
+    return failure;
 }
 
 /// A window that was opened for want of a bus stays, whoever owns the name once there is one.
 void Host::busChanged(BusState state) {
+    qCDebug(hostLog, "Session bus: %s",
+            state == BusState::Connected    ? "connected"
+            : state == BusState::Connecting ? "connecting"
+                                            : qUtf8Printable(session_.error()));
     if (state == BusState::Connecting || std::exchange(decided_, true))
         return;
     if (session_.connection() && instance_.standing() == SingleInstance::Standing::Second)
@@ -125,9 +193,14 @@ void Host::busChanged(BusState state) {
 void Host::yieldToFirst() {
     yielding_ = true;
     window_->closeRegardless();
-    instance_.raiseFirst(*session_.connection(), [](bool answered) {
-        QCoreApplication::exit(answered ? exitCode::success : exitCode::unavailable);
-    });
+    qCDebug(hostLog, "Another instance runs; it is asked to show itself");
+    instance_.raiseFirst(
+        *session_.connection(), commandLine_.tab, [](SingleInstance::FirstAnswer answer) {
+            using Answer = SingleInstance::FirstAnswer;
+            QCoreApplication::exit(answer == Answer::Shown       ? exitCode::success
+                                   : answer == Answer::NoSuchTab ? exitCode::usage
+                                                                 : exitCode::unavailable);
+        });
 }
 
 namespace {
@@ -137,12 +210,6 @@ QStringList argumentsOf(int argc, char** argv) {
     for (int index = 0; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
     return arguments;
-}
-
-int failUsage(const UsageError& error) {
-    logFailure(error.message);
-    logFailure(QStringLiteral("try --help"));
-    return exitCode::usage;
 }
 
 int print(const QString& text) {
@@ -178,6 +245,15 @@ private:
     std::optional<QByteArray> address_;
 };
 
+/// For the last value before the program's end.
+int endDespiteHangs(int code) {
+    if (BusConnection::anyHangs()) {
+        std::fflush(nullptr);
+        std::_Exit(code);
+    }
+    return code;
+}
+
 int runOnDisplay(const CommandLine& commandLine, char** argv) {
     auto hidden = std::make_optional<HungBusHidden>();
     // Qt is shown the program's name alone: the options are ours.
@@ -188,12 +264,7 @@ int runOnDisplay(const CommandLine& commandLine, char** argv) {
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    const int code = Host(commandLine).run();
-    if (BusConnection::anyHangs()) {
-        std::fflush(nullptr);
-        std::_Exit(code);
-    }
-    return code;
+    return endDespiteHangs(Host(commandLine).run());
 }
 
 } // namespace
@@ -210,6 +281,10 @@ int runHost(int argc, char** argv) {
     }
     if (commandLine.wish == CommandLine::Wish::Version)
         return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
+    if (commandLine.wish == CommandLine::Wish::Diagnose) {
+        QCoreApplication application(argc, argv);
+        return endDespiteHangs(diagnose(commandLine));
+    }
     if (const auto fault = displayFault()) {
         logFailure(*fault);
         return exitCode::unavailable;

@@ -10,6 +10,8 @@
 #include <QSettings>
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace zarvil::host {
 
@@ -36,6 +38,9 @@ private:
     [[nodiscard]] std::vector<BundleOutcome> bundles() const;
     int runWindow(const std::vector<BundleOutcome>& bundles);
     void makeWindow(const std::vector<BundleOutcome>& bundles);
+    void serveOthers();
+    [[nodiscard]] std::optional<BundleFailure> showAtStart();
+    [[nodiscard]] std::optional<BundleFailure> show();
     void busChanged(BusState state);
     void yieldToFirst();
 
@@ -46,8 +51,10 @@ private:
     BusConnection session_;
     UnixSignals signals_;
     std::unique_ptr<HostWindow> window_;
-    bool decided_ = false;  ///< whether this is the first instance; settled once
-    bool yielding_ = false; ///< it is not, and ends
+    std::optional<BundleFailure> failure_; ///< of a window that was asked for over the bus
+    bool decided_ = false;                 ///< whether this is the first instance; settled once
+    bool yielding_ = false;                ///< it is not, and ends
+    bool shown_ = false;                   ///< the window has been opened
 };
 
 /// The whole program, from its arguments to its exit code.

@@ -1,6 +1,7 @@
 #include "host/SingleInstance.h"
 
 #include "bus/BusDaemon.h"
+#include "host/Log.h"
 #include "protocol/BusNames.h"
 
 #include <QDBusMessage>
@@ -16,6 +17,20 @@ constexpr const char* objectPath = "/com/Tessrow/Preferences";
 constexpr const char* interface = "org.freedesktop.Application";
 constexpr int nameLimit = 2000;  // milliseconds
 constexpr int raiseLimit = 1000; // milliseconds
+
+constexpr const char* tokenHint = "activation-token";
+constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
+
+QVariantMap ownHints() {
+    const QString token = qEnvironmentVariable(tokenVariable);
+    return token.isEmpty() ? QVariantMap() : QVariantMap{{tokenHint, token}};
+}
+
+/// Where the toolkit looks for it when a window asks to come to the front.
+void adoptHints(const QVariantMap& hints) {
+    if (const QString token = hints.value(tokenHint).toString(); !token.isEmpty())
+        qputenv(tokenVariable, token.toUtf8());
+}
 
 } // namespace
 
@@ -58,17 +73,45 @@ SingleInstance::Standing SingleInstance::standing() const {
     return shared_->standing;
 }
 
-void SingleInstance::raiseFirst(const QDBusConnection& bus, std::function<void(bool)> report) {
-    auto call = QDBusMessage::createMethodCall(bus::hostName, objectPath, interface, "Activate");
-    call << QVariantMap();
+void SingleInstance::raiseFirst(const QDBusConnection& bus, const QString& tab,
+                                std::function<void(FirstAnswer)> report) {
+    auto call = QDBusMessage::createMethodCall(bus::hostName, objectPath, interface,
+                                               tab.isEmpty() ? "Activate" : "ActivateAction");
+    if (!tab.isEmpty())
+        call << tab << QVariantList();
+    call << ownHints();
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, raiseLimit), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [watcher, report = std::move(report)] {
                 watcher->deleteLater();
-                report(!watcher->isError());
+                if (!watcher->isError())
+                    report(FirstAnswer::Shown);
+                else if (watcher->error().type() == QDBusError::InvalidArgs)
+                    report(FirstAnswer::NoSuchTab);
+                else
+                    report(FirstAnswer::None);
             });
 }
 
-void SingleInstance::Activate(const QVariantMap& /*hints*/) { Q_EMIT activated(); }
+void SingleInstance::Activate(const QVariantMap& hints) {
+    adoptHints(hints);
+    Q_EMIT activated();
+}
+
+void SingleInstance::Open(const QStringList& addresses, const QVariantMap& hints) {
+    if (!addresses.isEmpty())
+        qCWarning(hostLog, "Asked to open files, which the preferences do not do");
+    Activate(hints);
+}
+
+void SingleInstance::ActivateAction(const QString& name, const QVariantList& /*parameters*/,
+                                    const QVariantMap& hints) {
+    Activate(hints);
+    if (showTab_ && showTab_(name))
+        return;
+    qCWarning(hostLog).noquote() << "Asked for the unknown tab" << name;
+    if (calledFromDBus())
+        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("there is no tab of this name"));
+}
 
 } // namespace zarvil::host

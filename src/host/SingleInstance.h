@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QObject>
+#include <QStringList>
 #include <QVariantMap>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -11,8 +14,8 @@ namespace zarvil::host {
 
 /// Sees to it that one host runs in a session: the one that owns the host's name on the bus. Asks
 /// for the name of every new connection, on the connecting thread, so that the main thread waits
-/// for nothing.
-class SingleInstance final : public QObject {
+/// for nothing. To others it is an application of the desktop, whose actions are the tabs.
+class SingleInstance final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 public:
@@ -22,6 +25,10 @@ public:
         Second   ///< another process owns it
     };
 
+    enum class FirstAnswer : std::uint8_t { Shown, NoSuchTab, None };
+    /// Turns to the tab of that name; whether there is one.
+    using ShowTab = std::function<bool(const QString& name)>;
+
     SingleInstance();
     ~SingleInstance() override;
 
@@ -30,13 +37,22 @@ public:
 
     /// By the connection made last. Safe to ask before that connection is announced.
     [[nodiscard]] Standing standing() const;
-    /// Asks the first instance to show itself. Reports once, from the event loop, whether it
-    /// answered within a second: one in health does within milliseconds, and the user waits.
-    void raiseFirst(const QDBusConnection& bus, std::function<void(bool answered)> report);
+    /// Asks the first instance to show itself, at a tab unless its name is empty. Reports once,
+    /// from the event loop, what it answered within a second: one in health does within
+    /// milliseconds, and the user waits.
+    void raiseFirst(const QDBusConnection& bus, const QString& tab,
+                    std::function<void(FirstAnswer)> report);
+    /// What serves an action; it is called after `activated`.
+    void setShowTab(ShowTab showTab) { showTab_ = std::move(showTab); }
 
 public Q_SLOTS:
-    /// Called over the bus by a second instance. The platform's hints are not used.
+    // Called over the bus by a second instance, a launcher or a menu of the desktop. Of the hints
+    // the token counts that lets a Wayland window come to the front.
     Q_SCRIPTABLE void Activate(const QVariantMap& hints);
+    /// There is nothing to open: a program that serves no type of file is given none.
+    Q_SCRIPTABLE void Open(const QStringList& addresses, const QVariantMap& hints);
+    Q_SCRIPTABLE void ActivateAction(const QString& name, const QVariantList& parameters,
+                                     const QVariantMap& hints);
 
 Q_SIGNALS:
     void activated();
@@ -44,6 +60,7 @@ Q_SIGNALS:
 private:
     struct Shared;
     std::shared_ptr<Shared> shared_;
+    ShowTab showTab_;
 };
 
 } // namespace zarvil::host

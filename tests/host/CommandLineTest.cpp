@@ -22,6 +22,8 @@ TEST(CommandLineTest, goodOnesAreUnderstood) {
     EXPECT_EQ(parsed({}).wish, CommandLine::Wish::Run);
     EXPECT_EQ(parsed({"-h"}).wish, CommandLine::Wish::Help);
     EXPECT_EQ(parsed({"--version"}).wish, CommandLine::Wish::Version);
+    EXPECT_EQ(parsed({"--diagnose"}).wish, CommandLine::Wish::Diagnose);
+    EXPECT_EQ(parsed({"--tab", "scripts"}).tab, "scripts");
     EXPECT_EQ(parsed({"--root", root + "/."}).root, root);
     EXPECT_EQ(parsed({"a b.prefPane"}).bundle, "a b.prefPane");
     EXPECT_EQ(parsed({"--", "--root"}).bundle, "--root");
@@ -45,6 +47,7 @@ TEST(CommandLineTest, wrongOnesSayWhatIsWrong) {
         {{"--root=" + file.fileName()}, {}, "is not a folder"},
         {{"--appearance", "blue"}, {}, "blue"},
         {{}, "Dark", "ZARVIL_APPEARANCE"},
+        {{"--tab="}, {}, "--tab"},
         {{"one", "two"}, {}, "only one"},
         {{""}, {}, "empty"},
     };

@@ -4,6 +4,7 @@
 #include "host/UnixSignals.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTest>
@@ -181,6 +182,75 @@ TEST_F(HostProcessTest, aSecondStartRaisesTheFirstOrSaysOnceThatItHangs) {
     ::kill(static_cast<pid_t>(first->processId()), SIGCONT);
     first->terminate();
     EXPECT_TRUE(first->waitForFinished(limit));
+}
+
+TEST_F(HostProcessTest, aTabIsReachedByNameFromTheCommandLineAndFromTheDesktop) {
+    PrivateBus bus;
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    const QString pane = makeBundle("Tabbed");
+    const auto unknown = run({"--tab", "none", pane});
+    EXPECT_EQ(unknown.code, 64);
+    EXPECT_TRUE(unknown.err.contains("first, second, third")) << unknown.err.toStdString();
+    EXPECT_FALSE(calls().contains("Tabbed: willSelect"));
+
+    // Started by the bus, it shows nothing until it is asked to.
+    const auto first = start({"--service", pane});
+    auto watcher = bus.connect("watcher");
+    const auto ask = [&](const char* method, const QVariantList& arguments) {
+        auto call =
+            QDBusMessage::createMethodCall("com.Tessrow.Preferences", "/com/Tessrow/Preferences",
+                                           "org.freedesktop.Application", method);
+        call.setArguments(arguments);
+        return watcher.call(call, QDBus::Block, limit).errorName();
+    };
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return watcher.interface()->isServiceRegistered("com.Tessrow.Preferences").value(); },
+        limit));
+    EXPECT_FALSE(calls().contains("Tabbed: willSelect"));
+    const QVariantMap none;
+    EXPECT_EQ(ask("ActivateAction", {"second", QVariantList(), none}), "");
+    EXPECT_TRUE(isCalled("Tabbed: SecondTab"));
+    EXPECT_EQ(ask("ActivateAction", {"fourth", QVariantList(), none}),
+              "org.freedesktop.DBus.Error.InvalidArgs");
+    EXPECT_EQ(ask("Open", {QStringList("file:///nothing"), none}), "");
+    EXPECT_EQ(run({"--tab", "Third", pane}).code, 0);
+    EXPECT_TRUE(isCalled("Tabbed: ThirdTab"));
+    first->terminate();
+    EXPECT_TRUE(first->waitForFinished(limit));
+    // The tab that the command line names wins over the one shown last.
+    const auto again = start({"--tab", "first", pane});
+    EXPECT_TRUE(isCalled("Tabbed: FirstTab"));
+    again->terminate();
+    EXPECT_TRUE(again->waitForFinished(limit));
+}
+
+TEST_F(HostProcessTest, aDiagnosisTellsWhatRunsAndKeepsSecrets) {
+    PrivateBus bus;
+    environment.insert("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    write("home/Library/Zarvil Scripts/secret title.zvscript", "secret text");
+    makeBundle("A", "home/Library/PreferencePanes");
+    // Without a bus, with one that works and with one that hangs.
+    const struct {
+        QString address;
+        bool hangs;
+        QString says;
+    } cases[] = {{"unix:path=/nonexistent/bus", false, "session bus      none"},
+                 {bus.address(), false, "com.Tessrow.Zarvil is not running"},
+                 {bus.address(), true, "session bus      none"}};
+    for (const auto& row : cases) {
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", row.address);
+        if (row.hangs)
+            bus.freeze();
+        const auto outcome = run({"--diagnose"});
+        EXPECT_EQ(outcome.code, 0);
+        for (const QString& part : {row.says, QStringLiteral("A 1 in ~/Library/PreferencePanes"),
+                                    QStringLiteral("1 in ~/Library/Zarvil Scripts, writable"),
+                                    QStringLiteral("Zarvil.app is not installed")})
+            EXPECT_TRUE(outcome.out.contains(part)) << part.toStdString() << "\nin\n"
+                                                    << outcome.out.toStdString();
+        for (const QString& secret : {QStringLiteral("secret"), path("home"), row.address})
+            EXPECT_FALSE(outcome.out.contains(secret)) << outcome.out.toStdString();
+    }
 }
 
 TEST(UnixSignalsTest, aSignalLeavesTheErrorNumberOfWhatItInterrupts) {

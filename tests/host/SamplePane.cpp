@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTabWidget>
 
 namespace zarvil::sample {
 
@@ -20,9 +21,23 @@ QWidget* SamplePane::mainView() {
         view_ = new SampleView;
         view_->setObjectName(name_);
         view_->setMinimumSize(320, 200);
+        if (name_ == QLatin1String("Tabbed"))
+            makeTabs();
         connect(view_, &SampleView::decided, this, [this](bool leave) { answer_(leave); });
     }
     return view_;
+}
+
+void SamplePane::makeTabs() {
+    auto* tabs = new QTabWidget(view_);
+    for (const char* name : {"FirstTab", "SecondTab", "ThirdTab"}) {
+        auto* page = new QWidget;
+        page->setObjectName(name);
+        tabs->addTab(page, QStringLiteral("Title"));
+    }
+    connect(tabs, &QTabWidget::currentChanged, this, [this, tabs](int index) {
+        log(tabs->widget(index)->objectName() + (view_->isVisible() ? "" : ", hidden"));
+    });
 }
 
 int SamplePane::shouldUnselect() {

@@ -39,6 +39,7 @@ public:
 
 private:
     void log(const QString& call) const;
+    void makeTabs();
 
     QString name_;
     UnselectAnswer answer_;

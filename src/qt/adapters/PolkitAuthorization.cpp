@@ -8,8 +8,8 @@
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusReply>
+#include <QLoggingCategory>
 #include <QMap>
-#include <QtDebug>
 
 #include <utility>
 
@@ -65,6 +65,8 @@ namespace zarvil {
 
 namespace {
 
+Q_LOGGING_CATEGORY(polkitLog, "zarvil.polkit", QtInfoMsg)
+
 constexpr uint allowUserInteraction = 1;
 constexpr int quietLimit = 10'000;        // milliseconds
 constexpr int interactiveLimit = 600'000; // the user looks for a password meanwhile
@@ -93,7 +95,7 @@ QDBusMessage authorityCall(const char* method) {
 }
 
 AuthorizationOutcome outcomeOfError(const QDBusMessage& error) {
-    qWarning().noquote() << "polkit:" << error.errorName() << error.errorMessage();
+    qCWarning(polkitLog).noquote() << "polkit:" << error.errorName() << error.errorMessage();
     const QString prefix = QLatin1String(authority) + ".Error.";
     if (error.errorName() == prefix + "Cancelled")
         return cancelled();

@@ -5,14 +5,17 @@
 
 #include <QFile>
 #include <QLatin1String>
+#include <QLoggingCategory>
 #include <QStandardPaths>
-#include <QtDebug>
 
 #include <utility>
 
 namespace zarvil {
 
-QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings::IniFormat) {
+static Q_LOGGING_CATEGORY(defaultsLog, "zarvil.defaults", QtInfoMsg)
+
+    QtUserDefaults::QtUserDefaults(const QString& path)
+    : settings_(path, QSettings::IniFormat) {
     // The lines are parsed only when they are asked for; their faults must show before a write.
     [[maybe_unused]] const auto keys = settings_.allKeys();
     if (settings_.status() == QSettings::FormatError)
@@ -49,9 +52,10 @@ void QtUserDefaults::reportFailure() {
     if (std::exchange(reported_, true))
         return;
     const bool unreadable = settings_.status() == QSettings::FormatError;
-    qWarning().noquote() << (unreadable ? "Part of the preferences file cannot be read:"
-                                        : "The preferences file cannot be read or written:")
-                         << settings_.fileName();
+    qCWarning(defaultsLog).noquote()
+        << (unreadable ? "Part of the preferences file cannot be read:"
+                       : "The preferences file cannot be read or written:")
+        << settings_.fileName();
 }
 
 } // namespace zarvil

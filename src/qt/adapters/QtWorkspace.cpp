@@ -8,15 +8,17 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QProcess>
 #include <QUrl>
-#include <QtDebug>
 
 #include <chrono>
 
 namespace zarvil {
 
 namespace {
+
+Q_LOGGING_CATEGORY(workspaceLog, "zarvil.workspace", QtInfoMsg)
 
 constexpr int answerLimit = 1000; // milliseconds
 constexpr std::chrono::milliseconds connectLimit{1000};
@@ -45,7 +47,7 @@ bool QtWorkspace::launchApplication(std::string_view path) {
         return activate(identifierOf(bundle));
     const QString executable = executableOf(bundle);
     if (executable.isEmpty()) {
-        qWarning().noquote() << "No executable in the application" << bundle;
+        qCWarning(workspaceLog).noquote() << "No executable in the application" << bundle;
         return false;
     }
     return QProcess::startDetached(executable, {}, QDir::homePath());

@@ -11,18 +11,21 @@
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
+#include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/SymbolWidget.h"
 
 #include <QCoreApplication>
 #include <QDialog>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QPainter>
-#include <QtDebug>
 
 namespace zarvil {
 
 namespace {
+
+Q_LOGGING_CATEGORY(paneLog, "zarvil.pane", QtInfoMsg)
 
 /// Ends processes once the messages that were posted before have left: they leave through a
 /// thread that would end with this process.
@@ -65,8 +68,9 @@ struct ZarvilPane::Loaded {
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
           scriptWindow(controller.scriptProgress, *view) {
+        qt::HelpWindow::offer(*view, platform.platform().strings);
         for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
-            qWarning().noquote() << "Layout:" << QString::fromUtf8(fault);
+            qCWarning(paneLog).noquote() << "Layout:" << QString::fromUtf8(fault);
         // Closing the confirmation panel in any other way than by its buttons cancels.
         QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });

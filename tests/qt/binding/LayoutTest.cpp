@@ -1,8 +1,10 @@
 #include "PaneHarness.h"
+#include "pane/Help.h"
 #include "qt/binding/LockWidget.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/Spinner.h"
 #include "qt/canvas/Convert.h"
+#include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/TextLabel.h"
 
@@ -15,6 +17,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextBrowser>
 
 #include <algorithm>
 
@@ -128,6 +131,23 @@ TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
         EXPECT_FALSE(shown->toolTip().isEmpty()) << name;
         EXPECT_TRUE(shown->focusPolicy() & Qt::TabFocus) << name;
     });
+}
+
+TEST_F(Layout, helpTellsOfTheTabThatIsShownAndOfControlsThatExist) {
+    for (const auto& [outlet, text] : helpOfControls(platform.strings))
+        EXPECT_TRUE(view.findChild<QWidget*>(QString::fromUtf8(outlet))) << outlet;
+    HelpWindow::offer(view, platform.strings);
+    focus(widget<QTabWidget>("tabView"), scriptsPage);
+    QTest::keyClick(&view, Qt::Key_F1);
+    auto& help = widget<HelpWindow>("HelpWindow");
+    EXPECT_TRUE(help.isVisible());
+    EXPECT_TRUE(
+        help.findChild<QTextBrowser*>()->toPlainText().contains("~/Library/Zarvil Scripts"));
+    widget<QTabWidget>("tabView").setCurrentIndex(alertsPage);
+    EXPECT_EQ(help.windowTitle(), "Help: Alerts");
+    help.close();
+    widget<QAbstractButton>("HelpButton").click();
+    EXPECT_TRUE(help.isVisible());
 }
 
 TEST_F(Layout, aFieldSendsOnReturnAndOnLeavingAnEditButNeverTwice) {
