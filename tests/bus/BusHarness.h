@@ -45,8 +45,7 @@ protected:
     /// A connection of somebody else's. Stands until the test's end.
     enum class Owns : bool { Nothing, AgentName };
     [[nodiscard]] QDBusConnection peer(Owns owns = Owns::Nothing) {
-        peers_.push_back(QStringLiteral("peer-%1").arg(peers_.size()));
-        QDBusConnection connection = QDBusConnection::connectToBus(bus.address(), peers_.back());
+        QDBusConnection connection = bus.connect(QStringLiteral("peer-%1").arg(++peers_));
         EXPECT_TRUE(connection.isConnected());
         EXPECT_TRUE(owns == Owns::Nothing || connection.registerService(bus::agentName));
         return connection;
@@ -58,25 +57,11 @@ protected:
         message.setArguments(arguments);
         return message;
     }
-    /// The same, for one receiver alone.
-    static QDBusMessage signalTo(const Center& receiver, std::string_view name,
-                                 const QVariantList& arguments = {}) {
-        QDBusMessage message =
-            QDBusMessage::createTargetedSignal(receiver.bus.connection()->baseService(), bus::path,
-                                               bus::interface, QString::fromUtf8(name));
-        message.setArguments(arguments);
-        return message;
-    }
-
-    ~BusHarness() override {
-        for (const QString& name : peers_)
-            QDBusConnection::disconnectFromBus(name);
-    }
 
     PrivateBus bus;
 
 private:
-    std::vector<QString> peers_;
+    int peers_ = 0;
 };
 
 /// Keeps every message of the given names.

@@ -14,14 +14,16 @@ TEST_F(Sender, whoDoesNotOwnTheAgentsNameChangesNothing) {
     const QDBusConnection spoofer = peer();
     const QDBusConnection agent = peer(Owns::AgentName);
 
-    ASSERT_TRUE(spoofer.send(signal(message::quitPrefs, noInfo)));
-    ASSERT_TRUE(spoofer.send(signalTo(pane, message::quitPrefs, noInfo)));
+    const QString receiver = pane.bus.connection()->baseService();
+    QDBusMessage toPaneAlone = QDBusMessage::createTargetedSignal(
+        receiver, bus::path, bus::interface, QString::fromUtf8(message::quitPrefs));
+    toPaneAlone << QVariantMap();
     QDBusMessage change = QDBusMessage::createTargetedSignal(
-        pane.bus.connection()->baseService(), "/org/freedesktop/DBus", "org.freedesktop.DBus",
-        "NameOwnerChanged");
+        receiver, "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameOwnerChanged");
     change << QString(bus::agentName) << agent.baseService() << spoofer.baseService();
-    ASSERT_TRUE(spoofer.send(change));
-    ASSERT_TRUE(spoofer.send(signal(message::quitPrefs, noInfo)));
+    const QDBusMessage broadcast = signal(message::quitPrefs, noInfo);
+    for (const QDBusMessage& message : {broadcast, toPaneAlone, change, broadcast})
+        ASSERT_TRUE(spoofer.send(message));
     // A round trip, so that all of this has passed the bus before the agent speaks.
     ASSERT_TRUE(spoofer.interface()->isServiceRegistered(bus::agentName));
     ASSERT_TRUE(agent.send(signal(message::pingAnswer, noInfo)));

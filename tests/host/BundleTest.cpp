@@ -35,7 +35,7 @@ TEST_F(BundleTest, aWorkingBundleIsReadAndLoaded) {
     EXPECT_TRUE(std::holds_alternative<std::unique_ptr<PreferencePane>>(loadPane(bundle)));
 }
 
-TEST_F(BundleTest, brokenDescriptionsSayWhatIsWrong) {
+TEST_F(BundleTest, brokenDescriptionsAndLibrariesSayWhatIsWrong) {
     const auto text = [](const QJsonObject& object) { return QJsonDocument(object).toJson(); };
     const auto with = [](const char* key, const QJsonValue& value) {
         auto object = info("Broken");
@@ -43,22 +43,32 @@ TEST_F(BundleTest, brokenDescriptionsSayWhatIsWrong) {
         return object;
     };
     write("outside.so", "outside the bundle");
+    const QString otherPlugin =
+        QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms/libqminimal.so";
+    const QByteArray sample = contentOf(SAMPLE_PANE_LIBRARY);
+    const QByteArray good = text(info("Broken"));
+    using enum BundleFault;
     const struct {
-        QByteArray info;
+        QByteArray info, library;
         BundleFault fault;
         const char* says;
     } cases[] = {
-        {"", BundleFault::BadInfo, "not valid JSON at byte"},
-        {"[1, 2]", BundleFault::BadInfo, "does not hold an object"},
-        {"{}", BundleFault::BadInfo, "\"name\" is missing"},
-        {text(with("identifier", "")), BundleFault::BadInfo, "\"identifier\" is missing"},
-        {text(with("library", "absent.so")), BundleFault::NoLibrary, "\"absent.so\" is missing"},
-        {text(with("library", "../../outside.so")), BundleFault::NoLibrary, "outside.so"},
+        {"", "", BadInfo, "not valid JSON at byte"},
+        {"[1, 2]", "", BadInfo, "does not hold an object"},
+        {"{}", "", BadInfo, "\"name\" is missing"},
+        {text(with("identifier", "")), "", BadInfo, "\"identifier\" is missing"},
+        {text(with("library", "absent.so")), "", NoLibrary, "\"absent.so\" is missing"},
+        {text(with("library", "../../outside.so")), "", NoLibrary, "outside.so"},
+        {good, "not a library", BadLibrary, "cannot be loaded"},
+        {good, sample.left(2000), BadLibrary, "cannot be loaded"},
+        {good, contentOf(otherPlugin), WrongInterface, "made for another program"},
+        {text(with("principalClass", "zarvil::sample::Other")), sample, WrongInterface, ""},
     };
     int number = 0;
     for (const auto& row : cases) {
         const QString bundle = QStringLiteral("%1.prefPane").arg(++number);
         write(bundle + "/Contents/Info.json", row.info);
+        write(bundle + "/Contents/libsample.so", row.library);
         const auto failure = failureOf(path(bundle));
         ASSERT_TRUE(failure) << row.info.toStdString();
         EXPECT_EQ(failure->fault, row.fault) << row.info.toStdString();
@@ -86,36 +96,6 @@ TEST_F(BundleTest, itsOwnWordsAreMadeFitForDisplay) {
     writeInfo("hostile.prefPane", hostile);
     const auto read = readBundle(path("hostile.prefPane"));
     EXPECT_EQ(std::get<Bundle>(read).name, "\uFFFDenap <img src='/dev/zero'>");
-}
-
-TEST_F(BundleTest, librariesThatAreNoPaneAreRefused) {
-    const QString otherPlugin =
-        QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms/libqminimal.so";
-    const QByteArray sample = contentOf(SAMPLE_PANE_LIBRARY);
-    const struct {
-        QByteArray library;
-        BundleFault fault;
-        const char* says;
-    } cases[] = {
-        {"not a library", BundleFault::BadLibrary, "cannot be loaded"},
-        {sample.left(2000), BundleFault::BadLibrary, "cannot be loaded"},
-        {contentOf(otherPlugin), BundleFault::WrongInterface, "made for another program"},
-    };
-    int number = 0;
-    for (const auto& row : cases) {
-        const QString bundle = QStringLiteral("%1.prefPane").arg(++number);
-        writeInfo(bundle, info("Broken"));
-        write(bundle + "/Contents/libsample.so", row.library);
-        const auto failure = failureOf(path(bundle));
-        ASSERT_TRUE(failure) << number;
-        EXPECT_EQ(failure->fault, row.fault) << failure->message.toStdString();
-        EXPECT_TRUE(failure->message.contains(row.says)) << failure->message.toStdString();
-    }
-    makeBundle("Renamed");
-    auto renamed = info("Renamed");
-    renamed["principalClass"] = "zarvil::sample::AnotherPane";
-    writeInfo("panes/Renamed.prefPane", renamed);
-    EXPECT_EQ(failureOf(path("panes/Renamed.prefPane"))->fault, BundleFault::WrongInterface);
 }
 
 TEST_F(BundleTest, theUsersBundlesComeFirstAndShadowTheSystems) {

@@ -1,6 +1,5 @@
 #include "Bundles.h"
 #include "PrivateBus.h"
-#include "PrivateDisplay.h"
 #include "host/UnixSignals.h"
 
 #include <QDBusConnectionInterface>
@@ -48,17 +47,6 @@ protected:
     bool isCalled(const QString& call) const {
         QStringList seen;
         return QTest::qWaitFor([&] { return (seen += calls()).contains(call); }, limit);
-    }
-    /// Waits for a window, whose name a pattern tells, and strikes a key in it.
-    static void strikeIn(const PrivateDisplay& display, const char* name, const char* key) {
-        QString window;
-        ASSERT_TRUE(QTest::qWaitFor(
-            [&] {
-                window = display.xdotool({"search", "--onlyvisible", "--name", name});
-                return !window.isEmpty();
-            },
-            limit));
-        display.xdotool({"windowfocus", "--sync", window, "key", key});
     }
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -109,46 +97,6 @@ TEST_F(HostProcessTest, runsWithoutABusAndEndsCleanlyOnASignal) {
         EXPECT_EQ(calls(), QStringList({"A: shouldUnselect", "A: willUnselect", "A: didUnselect",
                                         "A: gone"}));
     }
-}
-
-TEST_F(HostProcessTest, aBusThatHangsKeepsNeitherTheWindowNorTheEndWaiting) {
-    PrivateBus hung;
-    hung.freeze();
-    const PrivateDisplay display;
-    environment.insert("DBUS_SESSION_BUS_ADDRESS", hung.address());
-    environment.insert("DISPLAY", display.name());
-    makeBundle("A");
-    for (const char* platform : {"offscreen", "xcb"}) {
-        environment.insert("QT_QPA_PLATFORM", platform);
-        const auto process = start({path("panes/A.prefPane")});
-        ASSERT_TRUE(isCalled("A: willSelect")) << platform; // Qt would wait even longer
-        process->terminate();
-        ASSERT_TRUE(process->waitForFinished(limit)) << platform;
-        EXPECT_EQ(process->exitCode(), 0);
-    }
-}
-
-TEST_F(HostProcessTest, startedFromADesktopItShowsItsErrorInAWindow) {
-    const PrivateDisplay display;
-    environment.insert("QT_QPA_PLATFORM", "xcb");
-    environment.insert("DISPLAY", display.name());
-    write("Broken.prefPane/Contents/Info.json", "{");
-    const auto process = start({path("Broken.prefPane")});
-    strikeIn(display, "^Preferences$", "Return");
-    ASSERT_TRUE(process->waitForFinished(limit));
-    EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(process->exitCode(), 65);
-}
-
-TEST_F(HostProcessTest, closingTheWindowWithTheKeyboardEndsIt) {
-    const PrivateDisplay display;
-    environment.insert("QT_QPA_PLATFORM", "xcb");
-    environment.insert("DISPLAY", display.name());
-    const auto process = start({makeBundle("A")});
-    strikeIn(display, "^Title of A$", "ctrl+w");
-    ASSERT_TRUE(process->waitForFinished(limit));
-    EXPECT_EQ(process->exitCode(), 0);
-    EXPECT_EQ(calls().last(), "A: gone");
 }
 
 TEST_F(HostProcessTest, aSecondStartRaisesTheFirstOrSaysOnceThatItHangs) {

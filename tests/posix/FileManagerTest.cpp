@@ -78,7 +78,9 @@ TEST_F(FileManagerTest, listsWhatIsVisibleUnderAnyName) {
 TEST_F(FileManagerTest, bothWaysOfWritingReplaceTheWholeContentAndKeepTheMode) {
     for (const Atomicity atomicity : {direct, atomic}) {
         const auto path = script("x");
-        ASSERT_EQ(files.writeText("a longer first text", path.string(), atomicity), std::nullopt);
+        const std::string first(50 << 20, 'x');
+        ASSERT_EQ(files.writeText(first, path.string(), atomicity), std::nullopt);
+        EXPECT_TRUE(files.readText(path.string()) == first);
         EXPECT_EQ(fs::status(path).permissions(), fs::perms{0600}) << "new: its owner's alone";
         ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
         ASSERT_EQ(files.writeText("short", path.string(), atomicity), std::nullopt);
@@ -169,6 +171,7 @@ TEST_F(FileManagerTest, aNameThatCannotBeWrittenGivesOneSentenceWithPathAndReaso
             EXPECT_THAT(error->description, HasSubstr(name.substr(0, 3)));
         }
     }
+    EXPECT_EQ(files.createDirectory(script("file").string())->code, EEXIST);
     EXPECT_THAT(namesIn(scripts()), ElementsAre("file", "folder"));
 }
 
@@ -232,13 +235,6 @@ TEST_F(FileManagerTest, aFileThatOutgrowsTheLimitLeavesTheOldOneAndNoRemains) {
     }));
     EXPECT_EQ(get(script("x")), "old");
     EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
-}
-
-TEST_F(FileManagerTest, theNextSaveTakesAwayWhatAKilledOneLeftBehind) {
-    put(script(".zarvil-save"), "half wri");
-    ASSERT_EQ(files.writeText("whole", script("x").string(), atomic), std::nullopt);
-    EXPECT_THAT(namesIn(scripts()), ElementsAre("x"));
-    EXPECT_EQ(get(script("x")), "whole");
 }
 
 } // namespace

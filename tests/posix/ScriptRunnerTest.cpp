@@ -8,7 +8,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <future>
-#include <sstream>
+#include <ostream>
 #include <sys/resource.h>
 #include <thread>
 
@@ -70,7 +70,8 @@ protected:
 TEST_F(ScriptRunnerTest, successIsSilentWhateverTheScriptPrints) {
     for (const std::string_view source :
          {"", "exit 0", "echo out; echo err >&2", "#!/bin/sh\ntrue", "#! /bin/sh -e\ntrue",
-          "#!/bin/sh\r\n", "#!\ntrue", "#!", "yes | head -c 1000000", "cat"})
+          "#!/bin/sh\r\n", "#!\ntrue", "#!", "yes | head -c 1000000", "cat",
+          "yes >&2 & exit 0"}) // a background job goes on writing
         EXPECT_FALSE(run(source)) << source;
     EXPECT_THAT(namesIn(scripts()), IsEmpty()) << "the script's copy is left behind";
 }
@@ -89,6 +90,11 @@ TEST_F(ScriptRunnerTest, aFailureCarriesTheStatusAndTheLastLineOfTheErrorOutput)
         {"printf 'last\\n' >&2; head -c 300000 /dev/zero | tr '\\0' '\\n' >&2; exit 1",
          {1, "last", true}},
         {"head -c 300000 /dev/zero | tr '\\0' x >&2; exit 1", {1, std::string(1024, 'x'), true}},
+        {"head -c 200000000 /dev/zero >&2; echo >&2; echo last >&2; exit 7", {7, "last", true}},
+        {"echo noise >&2; kill -KILL $$", {137, "Signal 9 (Killed) ended the script."}},
+        // Who closes the error output is still waited for.
+        {"exec 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 5",
+         {5, "The script failed with exit status 5 and gave no reason."}},
     };
     for (const auto& [source, error] : cases)
         EXPECT_EQ(run(source), error) << source;
@@ -124,11 +130,6 @@ TEST_F(ScriptRunnerTest, whatCannotBeStartedSaysWhyAndNamesTheInterpreter) {
     }
 }
 
-TEST_F(ScriptRunnerTest, aDeathByASignalSaysWhichOne) {
-    EXPECT_EQ(run("echo noise >&2; kill -KILL $$"),
-              (ScriptError{137, "Signal 9 (Killed) ended the script."}));
-}
-
 TEST_F(ScriptRunnerTest, theScriptInheritsNothingOfThisProcess) {
     const int leaky = ::open("/dev/null", O_RDONLY); // inheritable on purpose
     const auto before = namesIn("/proc/self/fd").size();
@@ -144,30 +145,16 @@ TEST_F(ScriptRunnerTest, theScriptInheritsNothingOfThisProcess) {
     EXPECT_THAT(resultOf("grep -E 'Sig(Blk|Ign)' /proc/$$/status | cut -f2 > " + result()),
                 "0000000000000000\n0000000000000000\n");
     EXPECT_EQ(resultOf("pwd > " + result()), std::string(std::getenv("HOME")) + "\n");
+    // It leads a session of its own, without a terminal.
+    EXPECT_EQ(resultOf("read -r all </proc/$$/stat; set -- ${all##*)};"
+                       "echo $(($3 == $$)) $(($4 == $$)) $5 > " +
+                       result()),
+              "1 1 0\n");
 
     ::sigprocmask(SIG_UNBLOCK, &blocked, nullptr);
     std::signal(SIGPIPE, SIG_DFL);
     EXPECT_EQ(namesIn("/proc/self/fd").size(), before);
     ::close(leaky);
-}
-
-TEST_F(ScriptRunnerTest, theScriptLeadsASessionWithoutATerminal) {
-    std::istringstream status(
-        resultOf("read -r all < /proc/$$/stat; echo $$ ${all##*)} > " + result()));
-    long process = 0, parent = 0, group = 0, session = 0, terminal = 0;
-    std::string state;
-    status >> process >> state >> parent >> group >> session >> terminal;
-    EXPECT_EQ(parent, ::getpid());
-    EXPECT_EQ(group, process);
-    EXPECT_EQ(session, process);
-    EXPECT_EQ(terminal, 0);
-}
-
-TEST_F(ScriptRunnerTest, endlessErrorOutputNeitherHangsNorFillsTheMemory) {
-    // A background job goes on writing after the script's own end.
-    EXPECT_FALSE(run("yes 'noise' >&2 & exit 0"));
-    EXPECT_EQ(run("head -c 200000000 /dev/zero >&2; echo >&2; echo last >&2; exit 7"),
-              (ScriptError{7, "last", true}));
 }
 
 TEST_F(ScriptRunnerTest, aBackgroundJobThatHoldsTheErrorOutputIsNotWaitedFor) {
@@ -177,11 +164,6 @@ TEST_F(ScriptRunnerTest, aBackgroundJobThatHoldsTheErrorOutputIsNotWaitedFor) {
     const pid_t job = std::stoi(get(pidFile));
     EXPECT_EQ(::kill(job, 0), 0) << "it goes on living";
     PosixProcessControl().kill(job);
-}
-
-TEST_F(ScriptRunnerTest, aScriptThatClosesItsErrorOutputIsStillWaitedFor) {
-    EXPECT_EQ(run("exec 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 5")->number,
-              5);
 }
 
 TEST_F(ScriptRunnerTest, stoppingEndsTheWholeGroupAndTheCopyGoes) {
@@ -246,36 +228,24 @@ TEST_F(ScriptRunnerTest, aLackOfDescriptorsIsNamedWhereverItShows) {
     }));
 }
 
-TEST(ProcessControlTest, endsTheProcessWithoutDestroyingWhatStillRuns) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        static_cast<void>(std::atexit([] { ::_exit(1); }));
-        PosixProcessControl().exit(42);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 42);
-}
+using ProcessControlTest = PosixHarness;
 
-TEST(ProcessControlTest, killsTheOneProcessItIsGivenAndNoGroup) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+TEST_F(ProcessControlTest, endsOneProcessAtOnceAndNoGroup) {
+    PosixProcessControl control;
+    EXPECT_TRUE(holdsInChild([&] {
+        static_cast<void>(std::atexit([] { ::_exit(1); })); // what still runs is not destroyed
+        control.exit(0);
+        return false;
+    }));
+    EXPECT_TRUE(holdsInChild([&] {
         ::setsid(); // a kill of the whole group would end this child alone
-        PosixProcessControl().kill(0);
-        ::_exit(42);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 42);
-
-    const pid_t victim = ::fork();
-    if (victim == 0) {
-        while (true)
-            ::pause();
-    }
-    PosixProcessControl().kill(victim);
-    ::waitpid(victim, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        control.kill(0);
+        return true;
+    }));
+    EXPECT_FALSE(holdsInChild([&] {
+        control.kill(::getpid());
+        return true;
+    }));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 import os
 import signal
+import subprocess
 import unittest
 
 import desktop
@@ -86,6 +87,30 @@ class Presence(SystemTest):
                                     desktop.BUILD / "bin/Zarvil Preferences.prefPane")
         self.assertEqual(second.wait(desktop.PATIENCE), 0)
         self.assertIsNone(self.host.poll())
+
+    def strike_in(self, host, key):
+        """Strikes a key in a program's window, once that has the keyboard, and waits for its end."""
+        active = ("xdotool", "getactivewindow", "getwindowpid")
+        wait_until(lambda: subprocess.run(active, capture_output=True,
+                                          text=True).stdout.strip() == str(host.pid), "it is active")
+        desktop.Pane.strike(key)
+        return host.wait(desktop.PATIENCE)
+
+    def test_the_keyboard_closes_a_window_and_a_bus_that_hangs_keeps_none_waiting(self):
+        program = desktop.BUILD / "bin/zarvil-preferences"
+        broken = self.session.folder / "Broken.prefPane/Contents"
+        broken.mkdir(parents=True)
+        (broken / "Info.json").write_text("{")
+        failing = self.session.start(program, broken.parent, stderr=subprocess.DEVNULL)
+        self.assertEqual(self.strike_in(failing, "Return"), 65)
+        address = f"unix:path={self.session.folder}/bus"
+        bus = self.session.start("dbus-daemon", "--session", "--nofork", "--print-address",
+                                 f"--address={address}", stdout=subprocess.PIPE)
+        bus.stdout.readline()
+        bus.send_signal(signal.SIGSTOP)
+        host = self.session.start(program, desktop.BUNDLE,
+                                  env=dict(os.environ, DBUS_SESSION_BUS_ADDRESS=address))
+        self.assertEqual(self.strike_in(host, "ctrl+w"), 0)
 
 
 if __name__ == "__main__":

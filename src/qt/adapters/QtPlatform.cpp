@@ -23,7 +23,7 @@ QtPlatform::QtPlatform(Parts parts, MessageBus& session, std::string root)
     : parts_(std::move(parts)),
       workspace_(session),
       platform_{handlers_,       *parts_.messages,
-                timers_,         clock_,
+                timers_,         *parts_.clock,
                 workspace_,      *parts_.files,
                 defaults_,       alerts_,
                 *parts_.scripts, authorization_,

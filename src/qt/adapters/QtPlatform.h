@@ -4,10 +4,8 @@
 #include "platform/AlertQueue.h"
 #include "protocol/NonCopyable.h"
 #include "qt/adapters/PolkitAuthorization.h"
-#include "qt/adapters/QtClock.h"
-#include "qt/adapters/QtModalLoop.h"
+#include "qt/adapters/QtRunLoop.h"
 #include "qt/adapters/QtStringTable.h"
-#include "qt/adapters/QtTimers.h"
 #include "qt/adapters/QtUserDefaults.h"
 #include "qt/adapters/QtWorkspace.h"
 
@@ -22,6 +20,7 @@ public:
     /// The ports that need no Qt, or more of it than the adapters here.
     struct Parts {
         std::unique_ptr<MessageCenter> messages;
+        std::unique_ptr<Clock> clock;
         std::unique_ptr<FileManager> files;
         std::unique_ptr<ScriptRunner> scripts;
         std::unique_ptr<ProcessControl> processes;
@@ -39,7 +38,6 @@ private:
     HandlerQueue handlers_;
     Parts parts_;
     QtTimers timers_;
-    QtClock clock_;
     QtWorkspace workspace_;
     QtUserDefaults defaults_;
     PolkitAuthorization authorization_;

@@ -2,6 +2,7 @@
 
 #include "bus/DBusMessageCenter.h"
 #include "pane/Zarvil_Preferences.h"
+#include "posix/PosixClock.h"
 #include "posix/PosixFileManager.h"
 #include "posix/PosixProcessControl.h"
 #include "posix/PosixScriptRunner.h"
@@ -50,7 +51,8 @@ private:
 QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
     auto messages = std::make_unique<DBusMessageCenter>(session, bus::agentName);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
-    return {std::move(messages), std::make_unique<posix::PosixFileManager>(),
+    return {std::move(messages), std::make_unique<posix::PosixClock>(),
+            std::make_unique<posix::PosixFileManager>(),
             std::make_unique<posix::PosixScriptRunner>([](const std::function<void()>& call) {
                 QMetaObject::invokeMethod(qApp, call, Qt::QueuedConnection);
             }),

@@ -167,14 +167,5 @@ TEST_F(Pushover, savedSettingsEnableTheCheckByThePresenceOfAnId) {
     }
 }
 
-TEST_F(Pushover, aLostAgentEndsTheSpinnerWithoutAVerdict) {
-    start();
-    pane.pushValidate.performClick();
-    time.advance(5);
-    EXPECT_FALSE(pane.pushIndicator.isAnimating());
-    EXPECT_TRUE(pane.pushValidationStatus.isHidden());
-    EXPECT_EQ(enabled(), (Enabled{false, false, false}));
-}
-
 } // namespace
 } // namespace zarvil

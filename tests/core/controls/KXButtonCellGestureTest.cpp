@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace zarvil {
 
 namespace {
@@ -12,8 +14,10 @@ namespace {
 struct Target final : ActionTarget {
     void performAction(std::string_view, Control* sender) override {
         states.push_back(static_cast<Button*>(sender)->state());
+        whenSent();
     }
     std::vector<int> states; ///< at each action
+    std::function<void()> whenSent = [] {};
 };
 
 /// A switch of 60 by 26 points as a front end operates it.
@@ -72,6 +76,50 @@ TEST_F(SwitchGesture, endsInTheStateThatTheGestureTells) {
             const std::vector<int> sent(after == before ? 0 : 1, after);
             EXPECT_EQ(target.states, sent) << gesture.name << " " << before;
         }
+}
+
+TEST_F(SwitchGesture, beginsOnlyOnAnEnabledSwitchAndEndsWithoutOutcomeWhenItIsBrokenOff) {
+    EXPECT_FALSE(loop.press({60, 13})) << "the far edge is outside";
+    button.setEnabled(false);
+    EXPECT_FALSE(loop.press({10, 13}));
+    for (const bool disabled : {true, false}) {
+        button.setEnabled(true);
+        EXPECT_TRUE(loop.press({10, 13}));
+        EXPECT_TRUE(button.cell().isHighlighted());
+        time.advance(1);
+        loop.drag({45, 13});
+        if (disabled)
+            button.setEnabled(false);
+        else
+            loop.cancel();
+        loop.release({45, 13});
+        EXPECT_EQ(button.state(), 0) << "what the cell stored is taken back";
+        EXPECT_FALSE(button.cell().isHighlighted() || loop.isPressed());
+    }
+    EXPECT_TRUE(target.states.empty());
+}
+
+TEST_F(SwitchGesture, ofAnotherCellCountsOnlyInsideAndSurvivesAnActionThatDestroysIt) {
+    auto other = std::make_unique<Button>(ButtonKind::Toggle);
+    other->setFrame({0, 0, 60, 26});
+    other->setTarget(&target);
+    other->setAction("press:");
+    auto press = std::make_unique<MouseLoop>(*other);
+    press->press({10, 13});
+    press->drag({200, 13});
+    EXPECT_FALSE(other->cell().isHighlighted());
+    press->release({200, 13});
+    EXPECT_TRUE(target.states.empty()) << "let go outside";
+    target.whenSent = [&] {
+        press.reset();
+        other.reset();
+    };
+    press->press({10, 13});
+    press->drag({200, 13});
+    press->drag({40, 13});
+    EXPECT_TRUE(other->cell().isHighlighted());
+    press->release({40, 13});
+    EXPECT_EQ(target.states, std::vector{1});
 }
 
 TEST_F(SwitchGesture, lastingJustTheTimeoutIsADrag) {

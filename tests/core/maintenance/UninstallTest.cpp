@@ -32,19 +32,13 @@ TEST_F(Uninstall, removesThreeThingsInOrderAfterAskingTheAgentToQuitAndKillsTheF
     EXPECT_TRUE(files.files.contains(script));
 }
 
-TEST_F(Uninstall, goesOnToTheEndWhenNothingCanBeRemoved) {
+TEST_F(Uninstall, goesOnWhenNothingCanBeRemovedAndEndsItselfWhenNoHostIsListed) {
     files.failing = {agent, bundle};
     files.files.erase(settingsFile);
-    pane.unistall(nullptr);
-    EXPECT_EQ(files.log, removals);
-    EXPECT_TRUE(errors.presented.empty());
-    EXPECT_EQ(processes.log, std::vector<std::string>{"kill 42"});
-}
-
-TEST_F(Uninstall, endsTheProcessWhenTheSessionDoesNotListTheHost) {
     workspace.running.clear();
     pane.unistall(nullptr);
     EXPECT_EQ(files.log, removals);
+    EXPECT_TRUE(errors.presented.empty());
     EXPECT_EQ(processes.log, std::vector<std::string>{"exit 0"});
 }
 

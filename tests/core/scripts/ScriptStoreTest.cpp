@@ -13,10 +13,11 @@ using ScriptStore = ScriptsHarness;
 TEST_F(ScriptStore, aTitleIsTheFileNameWithoutItsLastExtension) {
     for (const std::string_view name : {"a.zvscript", "b.txt", "c.x.zvscript", "d", ".e.zvscript"})
         put(name, name);
+    put("b.txt", "\uFEFFwithout its mark");
     files.folders.insert(pathOf("sub.folder"));
     loadWithScripts();
     EXPECT_THAT(titles(), ElementsAre("a", "b", "c.x", "d", "sub"));
-    EXPECT_EQ(listed(1, script::text), "b.txt");
+    EXPECT_EQ(listed(1, script::text), "without its mark");
     EXPECT_EQ(listed(4, script::text), "");
     EXPECT_THAT(errors.presented, IsEmpty());
 }

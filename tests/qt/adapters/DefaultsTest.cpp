@@ -35,19 +35,6 @@ TEST_F(QtUserDefaultsTest, valuesAreOnDiskAsSoonAsTheyAreSet) {
     EXPECT_FALSE(writer.boolForKey("another"));
 }
 
-TEST_F(QtUserDefaultsTest, editedTextsReadAsTheForgivingReadersDo) {
-    const std::pair<const char*, bool> cases[] = {{"YES", true},  {"-3", true},     {"no", false},
-                                                  {"0", false},   {"maybe", false}, {"", false},
-                                                  {"1, 2", false}};
-    int number = 0;
-    for (const auto& [text, value] : cases) {
-        // A file of its own: one of equal size in the same millisecond would count as unchanged.
-        path = folder.filePath(QStringLiteral("%1.ini").arg(++number));
-        write(QByteArray("[General]\nkey=") + text + "\n");
-        EXPECT_EQ(QtUserDefaults(path).boolForKey("key"), value) << text;
-    }
-}
-
 TEST_F(QtUserDefaultsTest, whatCouldNotBeWrittenGoesWithTheNextWrite) {
     path = folder.filePath("blocked/defaults.ini");
     QFile blocking(folder.filePath("blocked"));

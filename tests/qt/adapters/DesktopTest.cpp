@@ -1,5 +1,5 @@
 #include "interface/Panel.h"
-#include "qt/adapters/QtModalLoop.h"
+#include "qt/adapters/QtRunLoop.h"
 #include "qt/adapters/QtStringTable.h"
 
 #include <QCoreApplication>

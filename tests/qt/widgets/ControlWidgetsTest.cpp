@@ -173,16 +173,6 @@ TEST_F(ControlWidgets, aPanelPausesItsCountdownUnderThePointer) {
     EXPECT_EQ(countdown->log, "pause resume ");
 }
 
-TEST_F(ControlWidgets, aPanelIsDrawnAnewInItsPresentSize) {
-    MessagePanelWidget panel(&window);
-    for (const int height : {160, 240}) {
-        panel.setGeometry(0, 0, 300, height);
-        const QImage image = panel.grab().toImage();
-        EXPECT_EQ(image.pixelColor(150, 39), QColor(Qt::black)) << "the groove";
-        EXPECT_NEAR(image.pixelColor(150, height - 4).red(), 0.2 * 255, 4);
-    }
-}
-
 TEST(NoteCard, standsWhereItIsPaintedAtEveryScale) {
     for (const int scale : {1, 2}) {
         QImage image(300 * scale, 240 * scale, QImage::Format_ARGB32_Premultiplied);

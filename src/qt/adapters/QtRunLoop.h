@@ -1,12 +1,21 @@
 #pragma once
 
 #include "platform/ModalLoop.h"
+#include "platform/Timers.h"
 
 #include <vector>
 
 class QEventLoop;
 
 namespace zarvil {
+
+/// Timers on the event loop of the thread that schedules them, to the millisecond.
+class QtTimers final : public Timers {
+public:
+    /// An interval that is not a number or below a millisecond counts as one millisecond.
+    [[nodiscard]] std::unique_ptr<Timer> schedule(double interval, Repetition repetition,
+                                                  std::function<void()> call) override;
+};
 
 /// Nested event loops. Shows nothing: the panel's binding does. Quitting the application ends all
 /// of them.

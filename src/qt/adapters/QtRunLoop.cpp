@@ -1,5 +1,6 @@
-#include "qt/adapters/QtTimers.h"
+#include "qt/adapters/QtRunLoop.h"
 
+#include <QEventLoop>
 #include <QTimer>
 
 #include <limits>
@@ -41,6 +42,18 @@ private:
 std::unique_ptr<Timer> QtTimers::schedule(double interval, Repetition repetition,
                                           std::function<void()> call) {
     return std::make_unique<QtTimer>(interval, repetition, std::move(call));
+}
+
+void QtModalLoop::runModalForWindow(Panel& /*panel*/) {
+    QEventLoop loop;
+    running_.push_back(&loop);
+    loop.exec();
+    running_.pop_back();
+}
+
+void QtModalLoop::stopModal() {
+    if (!running_.empty())
+        running_.back()->quit();
 }
 
 } // namespace zarvil
