@@ -17,7 +17,9 @@ namespace zarvil::host {
 
 namespace {
 
-QString translated(const char* text) { return QCoreApplication::translate("Bundle", text); }
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Bundle)
+};
 
 BundleFailure failure(BundleFault fault, const QString& path, const QString& message) {
     // It quotes the bundle's own words and path.
@@ -36,8 +38,8 @@ InfoOutcome readInfo(const QString& path) {
     // What is no plain file may never end, or never begin.
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return failure(BundleFault::NotABundle, path,
-                       translated("\"%1\" is not a preference pane: its Contents/Info.json cannot "
-                                  "be read.")
+                       Texts::tr("\"%1\" is not a preference pane: its Contents/Info.json cannot "
+                                 "be read.")
                            .arg(path));
     // A description is a few lines; whatever is longer is none.
     constexpr qint64 longest = 1 << 20;
@@ -45,15 +47,15 @@ InfoOutcome readInfo(const QString& path) {
     const auto document = QJsonDocument::fromJson(file.read(longest), &error);
     if (error.error != QJsonParseError::NoError)
         return failure(BundleFault::BadInfo, path,
-                       translated("The preference pane \"%1\" is broken: Contents/Info.json is not "
-                                  "valid JSON at byte %2 (%3).")
+                       Texts::tr("The preference pane \"%1\" is broken: Contents/Info.json is not "
+                                 "valid JSON at byte %2 (%3).")
                            .arg(path)
                            .arg(error.offset)
                            .arg(error.errorString()));
     if (!document.isObject())
         return failure(BundleFault::BadInfo, path,
-                       translated("The preference pane \"%1\" is broken: Contents/Info.json does "
-                                  "not hold an object.")
+                       Texts::tr("The preference pane \"%1\" is broken: Contents/Info.json does "
+                                 "not hold an object.")
                            .arg(path));
     return document.object();
 }
@@ -62,8 +64,8 @@ std::optional<BundleFailure> checkEntries(const QString& path, const QJsonObject
     for (const char* key : {"name", "identifier", "version", "library", "principalClass"})
         if (info.value(QLatin1String(key)).toString().isEmpty())
             return failure(BundleFault::BadInfo, path,
-                           translated("The preference pane \"%1\" is broken: the text \"%2\" is "
-                                      "missing in Contents/Info.json.")
+                           Texts::tr("The preference pane \"%1\" is broken: the text \"%2\" is "
+                                     "missing in Contents/Info.json.")
                                .arg(path, QLatin1String(key)));
     return std::nullopt;
 }
@@ -81,7 +83,7 @@ BundleOutcome readBundle(const QString& path) {
     const QString folder = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (!QFileInfo::exists(folder))
         return failure(BundleFault::NotFound, folder,
-                       translated("The preference pane \"%1\" does not exist.").arg(folder));
+                       Texts::tr("The preference pane \"%1\" does not exist.").arg(folder));
     const auto read = readInfo(folder);
     if (const auto* broken = std::get_if<BundleFailure>(&read))
         return *broken;
@@ -91,8 +93,8 @@ BundleOutcome readBundle(const QString& path) {
     const QString library = fileWithin(folder, info.value("library").toString());
     if (!QFileInfo(library).isFile())
         return failure(BundleFault::NoLibrary, folder,
-                       translated("The preference pane \"%1\" is broken: its library \"%2\" is "
-                                  "missing.")
+                       Texts::tr("The preference pane \"%1\" is broken: its library \"%2\" is "
+                                 "missing.")
                            .arg(folder, info.value("library").toString()));
     const QString icon = fileWithin(folder, info.value("icon").toString());
     return Bundle{folder,
@@ -135,21 +137,21 @@ PaneOutcome loadPane(const Bundle& bundle) {
     const QString interface = metaData.value("IID").toString();
     if (!interface.isEmpty() && interface != QLatin1String(ZARVIL_PREFERENCE_PANE_IID))
         return failure(BundleFault::WrongInterface, bundle.path,
-                       translated("The preference pane \"%1\" was made for another program: its "
-                                  "library offers \"%2\" instead of \"%3\".")
+                       Texts::tr("The preference pane \"%1\" was made for another program: its "
+                                 "library offers \"%2\" instead of \"%3\".")
                            .arg(bundle.path, interface, ZARVIL_PREFERENCE_PANE_IID));
     QObject* root = loader.instance();
     if (!root)
         return failure(BundleFault::BadLibrary, bundle.path,
-                       translated("The library of the preference pane \"%1\" cannot be loaded: %2")
+                       Texts::tr("The library of the preference pane \"%1\" cannot be loaded: %2")
                            .arg(bundle.path, loader.errorString()));
     auto* pane = qobject_cast<PreferencePane*>(root);
     if (!pane || bundle.principalClass != QLatin1String(root->metaObject()->className())) {
         const QString offered = QLatin1String(root->metaObject()->className());
         delete root;
         return failure(BundleFault::WrongInterface, bundle.path,
-                       translated("The preference pane \"%1\" is broken: its library offers the "
-                                  "class \"%2\" instead of \"%3\".")
+                       Texts::tr("The preference pane \"%1\" is broken: its library offers the "
+                                 "class \"%2\" instead of \"%3\".")
                            .arg(bundle.path, offered, bundle.principalClass));
     }
     return std::unique_ptr<PreferencePane>(pane);

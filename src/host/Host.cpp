@@ -8,6 +8,7 @@
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
 #include "protocol/NonCopyable.h"
+#include "qt/translation/Translation.h"
 
 #include <QApplication>
 #include <QDir>
@@ -260,6 +261,7 @@ int runOnDisplay(const CommandLine& commandLine, char** argv) {
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
     hidden.reset();
+    const qt::Translation translation(qt::Translation::Toolkit::Adopted);
     QApplication::setApplicationVersion(ZARVIL_VERSION);
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);

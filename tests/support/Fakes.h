@@ -29,16 +29,23 @@ public:
 
     void advance(double seconds) {
         const double end = now_ + seconds;
-        while (const auto next = nextDue(end)) {
-            now_ = next->due;
-            if (next->period > 0)
-                next->due += next->period;
-            else
-                next->valid = false;
-            const auto call = next->call;
-            call();
+        while (fireNext(end)) {
         }
         now_ = end;
+    }
+    /// The first timer that is due by then, as one turn of an event loop; false without one.
+    bool fireNext(double end) {
+        const auto next = nextDue(end);
+        if (!next)
+            return false;
+        now_ = next->due;
+        if (next->period > 0)
+            next->due += next->period;
+        else
+            next->valid = false;
+        const auto call = next->call;
+        call();
+        return true;
     }
 
     std::size_t pendingCount() const {
@@ -72,6 +79,7 @@ private:
 
 class Workspace final : public zarvil::Workspace {
 public:
+    bool canLaunchApplication(std::string_view /*path*/) const override { return launches; }
     bool launchApplication(std::string_view path) override {
         launched.emplace_back(path);
         return launches;
@@ -114,14 +122,17 @@ public:
     std::vector<Error> presented;
 };
 
-/// Translates only what it is given.
+/// Translates only what it is given, and the rest as `inherited` does.
 class StringTable final : public zarvil::StringTable {
 public:
     std::string localizedString(std::string_view key) const override {
         const auto found = translations.find(std::string(key));
-        return found == translations.end() ? std::string(key) : found->second;
+        if (found != translations.end())
+            return found->second;
+        return inherited ? inherited->localizedString(key) : std::string(key);
     }
 
+    static inline const zarvil::StringTable* inherited = nullptr;
     std::map<std::string, std::string> translations;
 };
 

@@ -55,7 +55,8 @@ class Session:
         self.processes = []
         os.environ.update(HOME=str(self.home), XDG_CONFIG_HOME=str(self.home / ".config"),
                           XDG_CACHE_HOME=str(self.home / ".cache"),
-                          XDG_DATA_HOME=str(self.home / ".local/share"))
+                          XDG_DATA_HOME=str(self.home / ".local/share"),
+                          LANGUAGE="en", LC_ALL="C.UTF-8")
         self.install_agent()
         # Without a window manager no window has the keyboard, and one that is mapped while the
         # manager starts is managed by nobody.

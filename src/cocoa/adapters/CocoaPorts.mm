@@ -4,9 +4,13 @@
 
 namespace zarvil::cocoa {
 
+// The main bundle is the host's, which need not know of this pane: its own texts stand in for what
+// is not there.
 std::string CocoaStringTable::localizedString(std::string_view key) const {
+    NSBundle* own = [NSBundle bundleForClass:NSClassFromString(@"Zarvil_Preferences")];
+    NSString* text = [own localizedStringForKey:toCocoa(key) value:@"" table:nil];
     return fromCocoa([[NSBundle mainBundle] localizedStringForKey:toCocoa(key)
-                                                            value:@""
+                                                            value:text
                                                             table:nil]);
 }
 

@@ -3,8 +3,8 @@
 #import "cocoa/adapters/CocoaModalLoop.h"
 #import "cocoa/binding/Dimming.h"
 #import "cocoa/controls/KXButtonCell.h"
-#import "cocoa/controls/ZVBannerView.h"
 #import "cocoa/controls/ZVPlaceholderView.h"
+#import "cocoa/controls/ZVRowViews.h"
 #import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"
@@ -200,12 +200,19 @@ void bindPlaceholder(Placeholder& model, ZVPlaceholderView* view, Subscriptions&
 void bindIndicator(ProgressIndicator& model, NSProgressIndicator* view, Subscriptions& kept) {
     bindView(model, view, kept);
     const Ref<NSProgressIndicator> shared(view);
-    kept.push_back(model.animatingProperty().observe([shared](bool animating, Transition) {
+    const ProgressIndicator* indicator = &model;
+    // An idle one is not shown; GNUstep does not hide it by itself.
+    const auto hide = [=] {
+        [shared.get() setHidden:indicator->isHidden() || !indicator->animatingProperty().get()];
+    };
+    kept.push_back(model.animatingProperty().observe([=](bool animating, Transition) {
         if (animating)
             [shared.get() startAnimation:nil];
         else
             [shared.get() stopAnimation:nil];
+        hide();
     }));
+    kept.push_back(model.hiddenProperty().observe([=](bool, Transition) { hide(); }));
 }
 
 void bindSymbol(SymbolView& model, ZVSymbolView* view, Subscriptions& kept) {

@@ -1,9 +1,9 @@
 #import "cocoa/binding/OutletBinder.h"
 
 #import "cocoa/adapters/CocoaPlatform.h"
-#import "cocoa/controls/ZVBannerView.h"
 #import "cocoa/controls/ZVItemCollectionView.h"
 #import "cocoa/controls/ZVPlaceholderView.h"
+#import "cocoa/controls/ZVRowViews.h"
 #import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"

@@ -3,11 +3,11 @@
 #import <AppKit/AppKit.h>
 #import <PreferencePanes/PreferencePanes.h>
 
-#include <memory>
+#import "cocoa/controls/ZVPlaceholderView.h"
+#import "cocoa/controls/ZVRowViews.h"
+#import "cocoa/controls/ZVSymbolView.h"
 
-@class ZVBannerView;
-@class ZVPlaceholderView;
-@class ZVSymbolView;
+#include <memory>
 
 namespace zarvil::cocoa {
 struct LoadedPane;

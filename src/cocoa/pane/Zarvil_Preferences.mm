@@ -5,9 +5,6 @@
 #import "cocoa/binding/Localization.h"
 #import "cocoa/binding/OutletBinder.h"
 #import "cocoa/binding/ScriptPanel.h"
-#import "cocoa/controls/ZVBannerView.h"
-#import "cocoa/controls/ZVPlaceholderView.h"
-#import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Convert.h"
 
 #include "pane/Zarvil_Preferences.h"

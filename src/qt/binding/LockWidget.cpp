@@ -1,5 +1,6 @@
 #include "qt/binding/LockWidget.h"
 
+#include "qt/text/ToolTip.h"
 #include "qt/widgets/SymbolWidget.h"
 #include "qt/widgets/TextLabel.h"
 
@@ -26,7 +27,7 @@ void LockWidget::setReason(const QString& reason) {
     if (designedToolTip_.isEmpty())
         designedToolTip_ = toolTip();
     reason_ = reason;
-    setToolTip(reason.isEmpty() ? designedToolTip_ : reason);
+    setToolTip(reason.isEmpty() ? designedToolTip_ : plainToolTip(reason));
     setAccessibleDescription(reason);
 }
 
@@ -54,6 +55,7 @@ void LockWidget::placeChildren() {
     const QRect picture(focusMargin, (height() - extent) / 2, extent, extent);
     const int left = picture.right() + 1 + gap;
     const QRect text(left, 0, std::max(0, width() - left - focusMargin), height());
+    setAccessibleName(line->text());
     symbol->setGeometry(QStyle::visualRect(layoutDirection(), rect(), picture));
     line->setGeometry(QStyle::visualRect(layoutDirection(), rect(), text));
     line->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -14,6 +14,7 @@
 #include "qt/canvas/Convert.h"
 #include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
+#include "qt/translation/Translation.h"
 #include "qt/widgets/SymbolWidget.h"
 
 #include <QCoreApplication>
@@ -78,6 +79,7 @@ struct ZarvilPane::Loaded {
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
     }
 
+    qt::Translation translation{qt::Translation::Toolkit::Left};
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;

@@ -40,6 +40,8 @@ protected:
 
 private:
     void rowsDidChange(const RowChange& change);
+    void noteFocus();
+    void returnFocus();
     /// Every card to the row that the former one has become; -1 where it went.
     void renumber(const std::function<int(int)>& rowNow);
 
@@ -52,6 +54,7 @@ private:
     [[nodiscard]] int heightOf(int row) const;
     /// In the content's coordinates, from the heights that are known so far.
     [[nodiscard]] int topOf(int row) const;
+    [[nodiscard]] int rowAt(int place) const;
     /// The first one and the one behind the last.
     [[nodiscard]] std::pair<int, int> rowsInSight() const;
     [[nodiscard]] int rowOf(const QWidget* widget) const;
@@ -59,9 +62,10 @@ private:
     void makeSpare(ScriptCard* card);
 
     CollectionView* model_ = nullptr;
-    std::vector<int> heights_; ///< by row; 0 where no card has been seen
+    std::map<int, int> heights_; ///< by row, of the cards that have been seen
     int addedSinceLayout_ = 0;
     int lastAddedRow_ = 0;
+    int focusedRow_ = -1;              ///< of a card that went with the keyboard
     std::map<int, ScriptCard*> cards_; ///< by row
     std::vector<ScriptCard*> spares_;
     QTimer layoutTimer_; ///< gathers the changes of one turn of the event loop

@@ -1,4 +1,4 @@
-#import "cocoa/controls/ZVBannerView.h"
+#import "cocoa/controls/ZVRowViews.h"
 
 @implementation ZVBannerView
 
@@ -36,6 +36,14 @@
 
 - (void)performClick:(id)sender {
     (void)sender;
+}
+
+@end
+
+@implementation ZVHeadingField
+
+- (void)awakeFromNib {
+    [self setFont:[NSFont boldSystemFontOfSize:[[self font] pointSize]]];
 }
 
 @end

@@ -12,3 +12,7 @@
 /// A check box that only shows a state: it takes neither clicks nor keys, but stays legible.
 @interface ZVStateButton : NSButton
 @end
+
+/// A label in the bold system font, which GNUstep's reader of layouts does not know.
+@interface ZVHeadingField : NSTextField
+@end
