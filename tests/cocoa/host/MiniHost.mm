@@ -52,6 +52,9 @@ namespace zarvil::cocoa::test {
 
 namespace {
 
+/// A message is no event, and what it changed is seen at the end of the turn.
+constexpr NSTimeInterval turn = 0.001; // seconds
+
 void handOn(NSEvent* event) {
     if (event)
         [NSApp sendEvent:event];
@@ -83,8 +86,8 @@ NSEvent* mouse(NSEventType type, NSPoint place, NSWindow* window) {
 bool runUntil(const std::function<bool()>& condition, double seconds) {
     NSDate* deadline = [[NSDate alloc] initWithTimeIntervalSinceNow:seconds];
     while (!condition() && [deadline timeIntervalSinceNow] > 0) {
-        const Pool turn;
-        handOn(nextEvent([NSDate dateWithTimeIntervalSinceNow:0.02]));
+        const Pool pool;
+        handOn(nextEvent([NSDate dateWithTimeIntervalSinceNow:turn]));
     }
     [deadline release];
     return condition();
