@@ -4,12 +4,14 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QScrollBar>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <numeric>
 #include <random>
@@ -212,9 +214,8 @@ double microseconds(const Phase& phase, int count, bool isRead) {
     return least / count * 1e6;
 }
 
-void compare(bool isRead) {
-    constexpr int few = 1'000;
-    constexpr int many = 10'000;
+void compare(bool isRead, int many) {
+    const int few = many / 10;
     std::printf("%s\n", isRead ? "Every row read by an assistive program before:" : "Not read:");
     for (const Phase& phase : phases) {
         // The large one first, so that the small one does not pay for what the allocator learns.
@@ -228,15 +229,22 @@ void compare(bool isRead) {
 } // namespace
 } // namespace zarvil
 
-/// With a display, an accessibility bus and QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1, changes are
-/// announced on the way; without a screen nobody listens.
+/// Usage: zarvil-bench-device-list [COUNT]. With a display, an accessibility bus and
+/// QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1, changes are announced on the way; else nobody listens.
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    for (const int count : {100, 1'000, 10'000})
-        zarvil::measure(count);
+    constexpr int usual = 10'000;
+    const int many = argc > 1 ? std::max(10, std::atoi(argv[1])) : usual;
+    for (const int count : {many / 100, many / 10, many})
+        zarvil::measure(std::max(10, count));
+    // The bus answers in its own time.
+    QDeadlineTimer patience(qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON") ? 5000
+                                                                                          : 0);
+    while (!QAccessible::isActive() && !patience.hasExpired())
+        QApplication::processEvents(QEventLoop::AllEvents, 100);
     std::printf("Changes are %s\n", QAccessible::isActive() ? "announced" : "not announced");
     for (const bool isRead : {false, true})
-        zarvil::compare(isRead);
+        zarvil::compare(isRead, many);
 }
