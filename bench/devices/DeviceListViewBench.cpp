@@ -2,6 +2,7 @@
 #include "protocol/Messages.h"
 #include "qt/devices/DeviceListView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -9,7 +10,12 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
+#include <numeric>
+#include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace zarvil {
 namespace {
@@ -106,12 +112,131 @@ void measure(int count) {
     plugAndUnplug(fakes.pane, count);
 }
 
+/// Processor time of this process: others on the machine do not count.
+template <typename Work>
+double seconds(Work&& work) {
+    const std::clock_t start = std::clock();
+    work();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+/// Both lists of a pane, shown.
+struct Lists : PaneOnFakes {
+    Lists() {
+        pane.mainViewDidLoad();
+        pane.appDidAnswer(nullptr);
+        connected.setModel(pane.connectedDevices);
+        saved.setModel(pane.selectedDevices);
+        for (DeviceListView* view : {&connected, &saved}) {
+            view->resize(320, 480);
+            view->show();
+        }
+        QApplication::processEvents();
+    }
+
+    void plug(int count) {
+        for (int number = 0; number < count; ++number)
+            send(&Zarvil_Preferences::deviceConnected, device(number));
+    }
+    void unplug(const std::vector<int>& numbers) {
+        for (const int number : numbers)
+            send(&Zarvil_Preferences::deviceDisconnected, device(number));
+    }
+    void save(int count) {
+        for (int number = 0; number < count; ++number)
+            send(&Zarvil_Preferences::newSavedDevice, {{"device", device(number)}});
+    }
+    void tickAll() {
+        QAbstractItemModel& rows = *connected.model();
+        while (rows.rowCount() > 0)
+            rows.setData(rows.index(rows.rowCount() / 2, 0), Qt::Checked, Qt::CheckStateRole);
+    }
+    /// Reads every row as an assistive program does, so that each has an interface.
+    void read() {
+        for (DeviceListView* view : {&connected, &saved}) {
+            const auto* list = QAccessible::queryAccessibleInterface(view);
+            for (int row = 0; row < list->childCount(); ++row)
+                list->child(row)->text(QAccessible::Name);
+        }
+    }
+
+    DeviceListView connected;
+    DeviceListView saved;
+
+private:
+    void send(void (Zarvil_Preferences::*handler)(const Message*), Dictionary info) {
+        const Message message("from the agent", std::move(info));
+        (pane.*handler)(&message);
+    }
+};
+
+std::vector<int> numbers(int count, bool shuffled) {
+    std::vector<int> all(static_cast<std::size_t>(count));
+    std::iota(all.begin(), all.end(), 0);
+    if (shuffled)
+        std::ranges::shuffle(all, std::mt19937(1)); // NOLINT: the same order in every run
+    return all;
+}
+
+struct Phase {
+    const char* name;
+    bool plugged; ///< the devices are connected before
+    void (*work)(Lists& lists, int count);
+};
+
+constexpr Phase phases[] = {
+    {"connect", false, [](Lists& lists, int count) { lists.plug(count); }},
+    {"save", true, [](Lists& lists, int count) { lists.save(count); }},
+    {"tick", true, [](Lists& lists, int) { lists.tickAll(); }},
+    {"unplug oldest first", true,
+     [](Lists& lists, int count) { lists.unplug(numbers(count, false)); }},
+    {"unplug at random", true, [](Lists& lists, int count) { lists.unplug(numbers(count, true)); }},
+};
+
+/// The least of several runs, for one device.
+double microseconds(const Phase& phase, int count, bool isRead) {
+    constexpr int repetitions = 5;
+    double least = 1e9;
+    for (int repetition = 0; repetition < repetitions; ++repetition) {
+        Lists lists;
+        if (phase.plugged)
+            lists.plug(count);
+        QApplication::processEvents();
+        if (isRead)
+            lists.read();
+        least = std::min(least, seconds([&] {
+                             phase.work(lists, count);
+                             QApplication::processEvents();
+                         }));
+    }
+    return least / count * 1e6;
+}
+
+void compare(bool isRead) {
+    constexpr int few = 1'000;
+    constexpr int many = 10'000;
+    std::printf("%s\n", isRead ? "Every row read by an assistive program before:" : "Not read:");
+    for (const Phase& phase : phases) {
+        // The large one first, so that the small one does not pay for what the allocator learns.
+        const double large = microseconds(phase, many, isRead);
+        const double small = microseconds(phase, few, isRead);
+        std::printf("  %-20s %6.2f us a device at %d, %6.2f us at %d, ratio %.2f\n", phase.name,
+                    small, few, large, many, large / small);
+    }
+}
+
 } // namespace
 } // namespace zarvil
 
+/// With a display, an accessibility bus and QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1, changes are
+/// announced on the way; without a screen nobody listens.
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     for (const int count : {100, 1'000, 10'000})
         zarvil::measure(count);
+    std::printf("Changes are %s\n", QAccessible::isActive() ? "announced" : "not announced");
+    for (const bool isRead : {false, true})
+        zarvil::compare(isRead);
 }

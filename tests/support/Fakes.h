@@ -29,16 +29,23 @@ public:
 
     void advance(double seconds) {
         const double end = now_ + seconds;
-        while (const auto next = nextDue(end)) {
-            now_ = next->due;
-            if (next->period > 0)
-                next->due += next->period;
-            else
-                next->valid = false;
-            const auto call = next->call;
-            call();
+        while (fireNext(end)) {
         }
         now_ = end;
+    }
+    /// The first timer that is due by then, as one turn of an event loop; false without one.
+    bool fireNext(double end) {
+        const auto next = nextDue(end);
+        if (!next)
+            return false;
+        now_ = next->due;
+        if (next->period > 0)
+            next->due += next->period;
+        else
+            next->valid = false;
+        const auto call = next->call;
+        call();
+        return true;
     }
 
     std::size_t pendingCount() const {

@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import SystemTest, wait_until
+from desktop import Atspi, SystemTest, wait_until
 
 UPS = "Back-UPS ES 700|American Power|3B15"
 EATON = "Eaton 5E|EATON|G0A1"
@@ -61,7 +61,10 @@ class Devices(SystemTest):
         self.session.set_devices(EATON, UPS)
         self.restart_agent()
         self.expect(connected=(UPS,), watched=(EATON,))
-        self.toggle("alt+w", 0)
+        self.pane.strike("alt+w")
+        wait_until(lambda: self.pane.has(shown(EATON), Atspi.StateType.FOCUSED), "its row is told")
+        # What an assistive program does with a row is what the user's own click does.
+        self.pane.press(shown(EATON), "list item")
         self.expect(connected=(UPS, EATON))
         wait_until(lambda: not self.saved(), "it is forgotten")
 

@@ -91,6 +91,11 @@ ButtonCaption ZVScriptCollectionItem::editCaption() const {
             aboutThis("Edit “%1”")};
 }
 
+ButtonCaption ZVScriptCollectionItem::cancelCaption() const {
+    return {localized("Cancel"), localized("End editing without saving. Esc leads here."),
+            aboutThis("Cancel editing “%1”")};
+}
+
 ButtonCaption ZVScriptCollectionItem::removeCaption() const {
     return {localized("Remove"),
             localized("Delete this script and its file at once. This cannot be undone."),

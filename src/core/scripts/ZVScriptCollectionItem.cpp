@@ -24,6 +24,22 @@ bool isEmpty(const std::string* text) { return !text || text->empty(); }
 
 } // namespace
 
+void ScriptEditField::userDidEditLines(std::string_view text) {
+    if (!lineEnd_) {
+        const auto end = stringValue().find('\n');
+        const bool returns = end != std::string::npos && end > 0 && stringValue()[end - 1] == '\r';
+        lineEnd_ = returns ? "\r\n" : "\n";
+    }
+    std::string edited;
+    for (const char character : text) {
+        if (character == '\n')
+            edited += *lineEnd_;
+        else
+            edited += character;
+    }
+    userDidEdit(edited);
+}
+
 void ScriptItemView::addSubviews(const Subviews& fields) {
     Subviews all = subviews();
     all.insert(all.end(), fields.begin(), fields.end());
@@ -67,8 +83,10 @@ void ZVScriptCollectionItem::toggleEditing() {
 }
 
 void ZVScriptCollectionItem::beginEditing() {
-    const auto title = std::make_shared<ScriptEditField>(titleFrame, titleFontSize);
-    const auto text = std::make_shared<ScriptEditField>(textFrame, textFontSize);
+    const auto title =
+        std::make_shared<ScriptEditField>(ScriptEditField::Kind::Title, titleFrame, titleFontSize);
+    const auto text =
+        std::make_shared<ScriptEditField>(ScriptEditField::Kind::Text, textFrame, textFontSize);
     if (const std::string* value = stringOfRecord(script::title))
         title->setStringValue(*value);
     if (const std::string* value = stringOfRecord(script::text))
@@ -76,6 +94,31 @@ void ZVScriptCollectionItem::beginEditing() {
     eTitle_ = title.get();
     eText_ = text.get();
     view_.addSubviews({text, title});
+}
+
+void ZVScriptCollectionItem::removeFields() {
+    view_.removeSubview(std::exchange(eTitle_, nullptr));
+    view_.removeSubview(std::exchange(eText_, nullptr));
+}
+
+void ZVScriptCollectionItem::cancelEditing() { runAsHandler(&ZVScriptCollectionItem::cancelNow); }
+
+void ZVScriptCollectionItem::cancelNow() {
+    if (!editing())
+        return;
+    setEditing(false);
+    // A draft that came back and is dropped leaves what the file holds.
+    if (saved_ && data_ && *saved_ == data_->contents())
+        noteFailure(std::nullopt, {});
+    removeFields();
+}
+
+bool ZVScriptCollectionItem::holdsTypedText() const {
+    const auto differs = [this](const ScriptEditField* field, std::string_view key) {
+        const std::string* stored = stringOfRecord(key);
+        return field && field->stringValue() != (stored ? *stored : std::string());
+    };
+    return differs(eTitle_, script::title) || differs(eText_, script::text);
 }
 
 void ZVScriptCollectionItem::filesWillChange() const {
@@ -91,8 +134,7 @@ void ZVScriptCollectionItem::save() {
     validateData();
     const Replacement outcome = writeFile(former);
     noteFailure(outcome.write, std::move(before));
-    view_.removeSubview(std::exchange(eTitle_, nullptr));
-    view_.removeSubview(std::exchange(eText_, nullptr));
+    removeFields();
     if (outcome.removal)
         platform_.errors.presentError(*outcome.removal);
 }

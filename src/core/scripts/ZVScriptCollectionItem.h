@@ -27,21 +27,33 @@ public:
     [[nodiscard]] virtual bool admitsRemoval() = 0;
 };
 
-/// A text field in the system font, for editing within a script's card.
+/// A text field for editing within a script's card.
 class ScriptEditField final : public TextField {
 public:
+    /// Which of the system's fonts: a text of several lines stands in the one of fixed width.
+    enum class Kind : std::uint8_t { Title, Text };
+
     /// Larger texts would stop the window; they are not laid out for editing and stay as they are.
     static constexpr std::size_t largestEditableText = std::size_t{1} << 20; // bytes
 
-    ScriptEditField(Rect frame, double fontSize) : fontSize_(fontSize) { setFrame(frame); }
+    ScriptEditField(Kind kind, Rect frame, double fontSize) : kind_(kind), fontSize_(fontSize) {
+        setFrame(frame);
+    }
+
+    /// Like `userDidEdit`, for an editor whose lines end in a line feed alone: they get the end
+    /// that the first line had before, for its interpreter goes by that one.
+    void userDidEditLines(std::string_view text);
 
     [[nodiscard]] bool isTooLarge() const { return stringValue().size() > largestEditableText; }
 
+    [[nodiscard]] Kind kind() const { return kind_; }
     /// In points of the card.
     [[nodiscard]] double fontSize() const { return fontSize_; }
 
 private:
+    Kind kind_;
     double fontSize_;
+    std::optional<std::string_view> lineEnd_; ///< unknown before the first edit
 };
 
 /// The card that a script item stands on: points from the lower left, y upwards. A layout shows
@@ -104,8 +116,12 @@ public:
     /// Deletes the file and has the owner drop the record.
     void remove(Control* sender = nullptr);
 
+    /// Ends editing and drops what was typed since it began.
+    void cancelEditing();
+
     // Presses of the card's buttons.
     void userDidPressEdit() { edit(); }
+    void userDidPressCancel() { cancelEditing(); }
     void userDidPressRun() { execute(); }
     /// Not the second press of a double click.
     void userDidPressRemove();
@@ -125,6 +141,8 @@ public:
     /// Says for as long as it is so that the script is not saved.
     [[nodiscard]] const Property<ScriptNote>& noteProperty() const { return note_; }
     [[nodiscard]] bool editing() const { return editing_; }
+    /// Cancelling would drop something: a stray key must not do it.
+    [[nodiscard]] bool holdsTypedText() const;
     /// The flag alone; `edit` brings the fields.
     void setEditing(bool editing) { editing_ = editing; }
 
@@ -143,6 +161,7 @@ public:
     [[nodiscard]] std::string cardName() const;
     [[nodiscard]] ButtonCaption runCaption() const;
     [[nodiscard]] ButtonCaption editCaption() const;
+    [[nodiscard]] ButtonCaption cancelCaption() const;
     [[nodiscard]] ButtonCaption removeCaption() const;
     /// What editing means, beside the buttons.
     [[nodiscard]] std::string editingHint() const;
@@ -174,6 +193,8 @@ private:
     void removeNow();
     void filesWillChange() const;
     void beginEditing();
+    void cancelNow();
+    void removeFields();
     void save();
     /// The file's title; null for a script without a file.
     [[nodiscard]] const std::string* titleOfFile() const;

@@ -1,5 +1,6 @@
 #include "qt/binding/LockWidget.h"
 
+#include "qt/text/ToolTip.h"
 #include "qt/widgets/SymbolWidget.h"
 #include "qt/widgets/TextLabel.h"
 
@@ -26,7 +27,7 @@ void LockWidget::setReason(const QString& reason) {
     if (designedToolTip_.isEmpty())
         designedToolTip_ = toolTip();
     reason_ = reason;
-    setToolTip(reason.isEmpty() ? designedToolTip_ : reason);
+    setToolTip(reason.isEmpty() ? designedToolTip_ : plainToolTip(reason));
     setAccessibleDescription(reason);
 }
 

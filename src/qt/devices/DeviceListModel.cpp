@@ -43,6 +43,7 @@ bool DeviceListModel::setData(const QModelIndex& index, const QVariant& value, i
     if (!item)
         return false;
     item->userDidSetState(value.toInt() == Qt::Unchecked ? 0 : 1);
+    Q_EMIT userDidToggle();
     return true;
 }
 

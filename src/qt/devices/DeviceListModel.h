@@ -27,6 +27,10 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+Q_SIGNALS:
+    /// The user ticked or unticked a row, which may have left the list.
+    void userDidToggle();
+
 private:
     void rowsChange(const RowChange& change);
     void rowsWillChange(const RowChange& change);

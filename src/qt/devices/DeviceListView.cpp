@@ -40,11 +40,27 @@ void DeviceListView::setModel(zarvil::CollectionView& view) {
     devices_ = new DeviceListModel(view, this);
     setModel(devices_);
     delete former;
+    connect(devices_, &DeviceListModel::userDidToggle, this, &DeviceListView::passFocusWhenEmpty);
+}
+
+// Enough for the words in place of the rows as well; what is lower scrolls with the page.
+QSize DeviceListView::minimumSizeHint() const {
+    constexpr int fewestCards = 2;
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const int card = itemDelegate()->sizeHint(option, {}).height();
+    return {QListView::minimumSizeHint().width(), fewestCards * card};
 }
 
 void DeviceListView::reset() {
     accessible_->forgetAll();
     QListView::reset();
+}
+
+void DeviceListView::rowsInserted(const QModelIndex& parent, int start, int end) {
+    QListView::rowsInserted(parent, start, end);
+    if (hasFocus())
+        ensureCurrentRow();
 }
 
 void DeviceListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
@@ -68,7 +84,22 @@ void DeviceListView::selectionChanged(const QItemSelection& selected,
 
 void DeviceListView::focusInEvent(QFocusEvent* event) {
     QListView::focusInEvent(event);
+    ensureCurrentRow();
     announceCurrentRow();
+}
+
+// The base does so only in a list that never had one.
+void DeviceListView::ensureCurrentRow() {
+    if (!currentIndex().isValid() && model() && model()->rowCount() > 0)
+        setCurrentIndex(model()->index(0, 0));
+}
+
+void DeviceListView::passFocusWhenEmpty() {
+    if (!hasFocus() || model()->rowCount() > 0)
+        return;
+    auto* other = window()->findChild<DeviceListView*>(passesFocusTo_);
+    if (other && other->model() && other->model()->rowCount() > 0)
+        other->setFocus(Qt::OtherFocusReason);
 }
 
 void DeviceListView::announceCurrentRow() {

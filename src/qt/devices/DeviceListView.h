@@ -15,6 +15,8 @@ class DeviceListModel;
 /// click or with Space. Assistive programs see it through an interface of its own.
 class DeviceListView final : public QListView {
     Q_OBJECT
+    /// Object name of the list that takes the keyboard when the user's tick empties this one.
+    Q_PROPERTY(QString passesFocusTo READ passesFocusTo WRITE setPassesFocusTo)
 
 public:
     explicit DeviceListView(QWidget* parent = nullptr);
@@ -24,10 +26,15 @@ public:
     /// The model; null before it is set.
     [[nodiscard]] const DeviceListModel* devices() const { return devices_; }
 
+    [[nodiscard]] QString passesFocusTo() const { return passesFocusTo_; }
+    void setPassesFocusTo(const QString& list) { passesFocusTo_ = list; }
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
     void reset() override;
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void rowsInserted(const QModelIndex& parent, int start, int end) override;
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected,
@@ -37,9 +44,12 @@ protected:
 private:
     using QListView::setModel;
     void announceCurrentRow();
+    void ensureCurrentRow();
+    void passFocusWhenEmpty();
 
     AccessibleDeviceList* accessible_; ///< belongs to the toolkit's cache
     DeviceListModel* devices_ = nullptr;
+    QString passesFocusTo_;
 };
 
 } // namespace zarvil::qt

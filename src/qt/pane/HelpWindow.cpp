@@ -63,6 +63,8 @@ HelpWindow::HelpWindow(QWidget& view, const StringTable& strings)
 
 void HelpWindow::addButtons(QWidget& view) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    // The style's picture is dark in every theme.
+    buttons->button(QDialogButtonBox::Close)->setIcon({});
     auto* point = buttons->addButton(tr("What Is &This?"), QDialogButtonBox::HelpRole);
     point->setToolTip(tr("Explains the control of the window that you click next"));
     connect(point, &QPushButton::clicked, &view, [&view] {

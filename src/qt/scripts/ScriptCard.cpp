@@ -6,12 +6,15 @@
 
 #include <QEvent>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QStringList>
+#include <QStyle>
 
 #include <algorithm>
+#include <ranges>
 
 namespace zarvil::qt {
 
@@ -72,6 +75,7 @@ ScriptCard::ScriptCard(QWidget* parent)
       text_(makeLabel(this)),
       textCaption_(makeLabel(this)),
       state_(makeLabel(this)),
+      cancel_(addButton(&ZVScriptCollectionItem::userDidPressCancel)),
       run_(addButton(&ZVScriptCollectionItem::userDidPressRun)),
       edit_(addButton(&ZVScriptCollectionItem::userDidPressEdit)),
       remove_(addButton(&ZVScriptCollectionItem::userDidPressRemove)) {
@@ -123,6 +127,7 @@ void ScriptCard::showItem() {
     setAccessibleName(QString::fromUtf8(item_->cardName()));
     title_->setAccessibleName(QString::fromUtf8(item_->shownTitle()));
     hint_->setText(QString::fromUtf8(item_->editingHint()));
+    showCaption(*cancel_, item_->cancelCaption());
     textCaption_->setText(QString::fromUtf8(item_->textFieldName()));
     showCaption(*remove_, item_->removeCaption());
     QStringList lines;
@@ -152,8 +157,10 @@ void ScriptCard::showState() {
 void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     const bool hadFocus = hasFocusWithin();
     const bool wasEditing = isEditing();
-    const bool fieldHadFocus = std::ranges::any_of(
-        editors_, [](const auto& editor) { return editor->widget()->hasFocus(); });
+    const bool losesFocus =
+        cancel_->hasFocus() || std::ranges::any_of(editors_, [](const auto& editor) {
+            return editor->widget()->hasFocus();
+        });
     std::erase_if(editors_, [&fields](const auto& editor) {
         return std::ranges::none_of(
             fields, [&editor](const auto& field) { return field.get() == editor->field(); });
@@ -170,7 +177,7 @@ void ScriptCard::showFields(const ScriptItemView::Subviews& fields) {
     Q_EMIT focusChainChanged();
     if (hadFocus && isEditing() && !wasEditing)
         editors_.back()->widget()->setFocus(Qt::TabFocusReason); // selects the title
-    else if (fieldHadFocus && !isEditing())
+    else if (losesFocus && !isEditing())
         edit_->setFocus(Qt::OtherFocusReason);
 }
 
@@ -179,32 +186,59 @@ bool ScriptCard::hasFocusWithin() const {
     return focused && focused->hasFocus();
 }
 
+void ScriptCard::takeFocus() { edit_->setFocus(Qt::OtherFocusReason); }
+
 std::vector<QWidget*> ScriptCard::focusChain() const {
     std::vector<QWidget*> chain;
     // The last field lies on top and is the first to be filled in.
     for (auto editor = editors_.rbegin(); editor != editors_.rend(); ++editor)
         chain.push_back((*editor)->widget());
-    chain.insert(chain.end(), {run_, edit_, remove_});
+    // Last, for it drops what was typed.
+    chain.insert(chain.end(), {run_, edit_, remove_, cancel_});
     return chain;
 }
 
-int ScriptCard::buttonsWidth() const {
-    int width = -buttonGap;
-    for (const QPushButton* button : buttons())
-        width += theme::buttonSize(*button).width() + buttonGap;
-    return width;
-}
-
-int ScriptCard::buttonHeight() const { return theme::buttonSize(*run_).height(); }
-
 bool ScriptCard::buttonsStandBelow(int width) const {
-    const int room = width - 2 * sidePadding - buttonsWidth() - buttonGap;
+    int room = width - 2 * sidePadding;
+    for (const QPushButton* button : {run_, edit_, remove_})
+        room -= theme::buttonSize(*button).width() + buttonGap;
     return room < theme::charactersWide(*this, fewestTitleCharacters);
 }
 
+/// Beside the title, from the right, or below it, in as many rows as they need. The buttons of
+/// viewing stay where they are while editing.
+std::vector<ScriptCard::Placed> ScriptCard::placedButtons(int width) const {
+    const bool below = buttonsStandBelow(width);
+    const int inner = std::max(0, width - 2 * sidePadding);
+    std::vector<Placed> placed;
+    int across = 0;
+    int top = below ? topPadding + title_->sizeHint().height() + lineGap : topPadding;
+    for (QPushButton* button : {run_, edit_, remove_, cancel_}) {
+        if (button == cancel_ && !isEditing())
+            continue;
+        const QSize size = theme::buttonSize(*button).boundedTo({inner, QWIDGETSIZE_MAX});
+        if (below && across > 0 && across + size.width() > inner) {
+            across = 0;
+            top += size.height() + buttonGap;
+        }
+        placed.push_back({button, {QPoint(sidePadding + across, top), size}});
+        across += size.width() + buttonGap;
+    }
+    if (below)
+        return placed;
+    int right = width - sidePadding;
+    if (isEditing())
+        std::rotate(placed.begin(), placed.end() - 1, placed.end());
+    for (auto& [button, place] : std::views::reverse(placed)) {
+        place.moveRight(right - 1);
+        right = place.left() - buttonGap;
+    }
+    return placed;
+}
+
 int ScriptCard::headerHeight(int width) const {
-    const int line = std::max(buttonHeight(), title_->sizeHint().height());
-    return buttonsStandBelow(width) ? title_->sizeHint().height() + lineGap + line : line;
+    const int buttons = placedButtons(width).back().place.bottom() + 1 - topPadding;
+    return std::max(buttons, title_->sizeHint().height());
 }
 
 int ScriptCard::heightForWidth(int width) const {
@@ -215,30 +249,38 @@ int ScriptCard::heightForWidth(int width) const {
     return header + lineGap + text_->sizeHint().height() + state + bottomPadding;
 }
 
-void ScriptCard::layOut() {
-    const int inner = std::max(0, width() - 2 * sidePadding);
+QRect ScriptCard::mirrored(const QRect& place) const {
+    return QStyle::visualRect(layoutDirection(), rect(), place);
+}
+
+void ScriptCard::layOutHeader() {
+    const std::vector<Placed> placed = placedButtons(width());
+    for (const auto& [button, place] : placed)
+        button->setGeometry(mirrored(place));
     const bool below = buttonsStandBelow(width());
-    const int titleHeight = below ? title_->sizeHint().height() : headerHeight(width());
-    const int titleWidth = below ? inner : std::max(0, inner - buttonsWidth() - buttonGap);
-    title_->setGeometry(sidePadding, topPadding, titleWidth, titleHeight);
-    hint_->setGeometry(title_->geometry());
+    const int right = below ? width() - sidePadding : placed.front().place.left() - buttonGap;
+    const int height = below ? title_->sizeHint().height() : headerHeight(width());
+    const QRect line(sidePadding, topPadding, std::max(0, right - sidePadding), height);
+    for (QLabel* label : {title_, hint_})
+        label->setGeometry(mirrored(line));
     elideTitle();
-    const int bandTop = topPadding + headerHeight(width()) - buttonHeight();
-    int left = below ? sidePadding : sidePadding + titleWidth + buttonGap;
-    for (QPushButton* button : buttons()) {
-        const int width = theme::buttonSize(*button).width();
-        button->setGeometry(left, bandTop, width, buttonHeight());
-        left += width + buttonGap;
-    }
+    title_->setVisible(!isEditing());
+    // Its buttons say it as well.
+    hint_->setVisible(isEditing() && hint_->sizeHint().width() <= line.width());
+    cancel_->setVisible(isEditing());
+}
+
+void ScriptCard::layOut() {
+    layOutHeader();
+    const int inner = std::max(0, width() - 2 * sidePadding);
     int top = topPadding + headerHeight(width()) + lineGap;
-    text_->setGeometry(sidePadding, top, inner, text_->sizeHint().height());
+    text_->setGeometry(mirrored({sidePadding, top, inner, text_->sizeHint().height()}));
     if (!isEditing())
         top += text_->height() + lineGap;
-    state_->setGeometry(sidePadding + stateIcon + lineGap, top, inner - stateIcon - lineGap,
-                        state_->sizeHint().height());
-    title_->setVisible(!isEditing());
+    const int indent = stateIcon + lineGap;
+    state_->setGeometry(mirrored(
+        {sidePadding + indent, top, std::max(0, inner - indent), state_->sizeHint().height()}));
     text_->setVisible(!isEditing());
-    hint_->setVisible(isEditing());
     textCaption_->setVisible(isEditing());
     state_->setVisible(!state_->text().isEmpty());
     placeFields();
@@ -271,6 +313,23 @@ void ScriptCard::updateLook() {
         label->setFont(muted);
         setInk(*label, theme::mutedText(palette()));
     }
+    // The band between the fields does not grow.
+    QFont caption = muted;
+    for (double factor = 1; QFontMetricsF(caption).height() > captionFrame.height; factor -= 0.05)
+        caption = theme::scaled(muted, factor);
+    textCaption_->setFont(caption);
+}
+
+void ScriptCard::keyPressEvent(QKeyEvent* event) {
+    const auto item = item_;
+    if (!isEditing() || !item || event->key() != Qt::Key_Escape) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (item->holdsTypedText())
+        cancel_->setFocus(Qt::OtherFocusReason);
+    else
+        item->userDidPressCancel();
 }
 
 void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
@@ -283,8 +342,8 @@ void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
                             theme::cardRadius);
     if (state_->isHidden())
         return;
-    const QRectF square(sidePadding, state_->geometry().center().y() - stateIcon / 2.0, stateIcon,
-                        stateIcon);
+    const int middle = state_->geometry().center().y();
+    const QRect square = mirrored({sidePadding, middle - stateIcon / 2, stateIcon, stateIcon});
     paintSymbol(painter, Symbol::Warning, square, palette(), palette().color(QPalette::WindowText));
 }
 

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] bool hasFocusWithin() const;
     /// The widgets that take the keyboard, in the order in which Tab visits them.
     [[nodiscard]] std::vector<QWidget*> focusChain() const;
+    /// Where the keyboard goes when it comes to this card unasked: to a button that does no harm.
+    void takeFocus();
 
     /// What the present content asks for.
     [[nodiscard]] int heightForWidth(int width) const override;
@@ -42,6 +44,7 @@ Q_SIGNALS:
     void heightChanged();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -54,12 +57,16 @@ private:
     void showFields(const ScriptItemView::Subviews& fields);
     void updateLook();
     void layOut();
+    void layOutHeader();
     void placeFields();
     void elideTitle();
     [[nodiscard]] bool isEditing() const { return !editors_.empty(); }
-    [[nodiscard]] std::vector<QPushButton*> buttons() const { return {run_, edit_, remove_}; }
-    [[nodiscard]] int buttonsWidth() const;
-    [[nodiscard]] int buttonHeight() const;
+    struct Placed {
+        QPushButton* button;
+        QRect place; ///< for a layout from left to right
+    };
+    [[nodiscard]] std::vector<Placed> placedButtons(int width) const;
+    [[nodiscard]] QRect mirrored(const QRect& place) const;
     [[nodiscard]] int headerHeight(int width) const;
     /// The title would get too little room beside the buttons.
     [[nodiscard]] bool buttonsStandBelow(int width) const;
@@ -69,6 +76,7 @@ private:
     QLabel* text_;
     QLabel* textCaption_; ///< between the fields
     QLabel* state_;       ///< what is wrong: a failed run, a save that failed
+    QPushButton* cancel_; ///< seen while editing
     QPushButton* run_;
     QPushButton* edit_;
     QPushButton* remove_;

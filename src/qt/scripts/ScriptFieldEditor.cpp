@@ -1,6 +1,11 @@
 #include "qt/scripts/ScriptFieldEditor.h"
 
+#include "qt/widgets/Theme.h"
+
+#include <QEvent>
+#include <QFontDatabase>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QTextDocument>
@@ -9,17 +14,42 @@ namespace zarvil::qt {
 
 namespace {
 
-constexpr double linesOfMultiLine = 3;
+bool isText(const ScriptEditField& field) { return field.kind() == ScriptEditField::Kind::Text; }
+
+/// The standard frame is hard to see on a dark card and says nothing of the keyboard.
+class FramedText final : public QPlainTextEdit {
+public:
+    explicit FramedText(QWidget* card) : QPlainTextEdit(card) {
+        setTabChangesFocus(true);
+        setFrameStyle(QFrame::Box | QFrame::Plain);
+    }
+
+protected:
+    bool event(QEvent* event) override {
+        const bool handled = QPlainTextEdit::event(event);
+        if (event->type() == QEvent::Paint) // of the frame: the text is the viewport's
+            paintFrame();
+        else if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            update();
+        return handled;
+    }
+
+private:
+    void paintFrame() {
+        constexpr double share = 0.4; // of the text's color in the frame
+        QPainter painter(this);
+        const QColor ground = palette().color(QPalette::Base);
+        painter.setPen(hasFocus() ? theme::shield(palette())
+                                  : theme::mixed(ground, palette().color(QPalette::Text), share));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+};
 
 QFont fieldFont(const QWidget& card, const ScriptEditField& field) {
-    QFont font = card.font();
+    QFont font = isText(field) ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : card.font();
     // Points of a card are logical pixels.
     font.setPixelSize(qRound(field.fontSize()));
     return font;
-}
-
-bool hasSeveralLines(const ScriptEditField& field) {
-    return field.frame().height >= linesOfMultiLine * field.fontSize();
 }
 
 /// The document's text as it is, no-break spaces included; `toPlainText` would turn them into
@@ -42,7 +72,7 @@ ScriptFieldEditor::ScriptFieldEditor(const ZVScriptCollectionItem& item,
                                      std::shared_ptr<ScriptEditField> field, QWidget* card)
     : field_(std::move(field)),
       tooLargeText_(QString::fromUtf8(item.tooLargeText())),
-      widget_(hasSeveralLines(*field_) ? makeText(card) : makeLine(card)) {
+      widget_(isText(*field_) ? makeText(card) : makeLine(card)) {
     widget_->setFont(fieldFont(*card, *field_));
     widget_->setAccessibleName(QString::fromUtf8(
         field_.get() == item.eTitle() ? item.titleFieldName() : item.textFieldName()));
@@ -69,13 +99,7 @@ QWidget* ScriptFieldEditor::makeLine(QWidget* card) {
 }
 
 QWidget* ScriptFieldEditor::makeText(QWidget* card) {
-    auto* editor = new QPlainTextEdit(card);
-    editor->setTabChangesFocus(true);
-    // The standard frame is hard to see on a dark card.
-    editor->setFrameStyle(QFrame::Box | QFrame::Plain);
-    QPalette palette = editor->palette();
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::Mid));
-    editor->setPalette(palette);
+    auto* editor = new FramedText(card);
     changes_ =
         field_->stringProperty().observe([this, editor](const std::string& text, Transition) {
             if (!taking_)
@@ -97,16 +121,12 @@ void ScriptFieldEditor::showInText(QPlainTextEdit& editor, const std::string& te
         editor.setPlainText(tooLargeText_);
         return;
     }
-    carriageReturns_ = text.find("\r\n") != std::string::npos;
     editor.setPlainText(QString::fromUtf8(text));
 }
 
 void ScriptFieldEditor::takeFromText(const QPlainTextEdit& editor) {
     const QScopedValueRollback guard(taking_, true);
-    QString text = textOf(editor);
-    if (carriageReturns_)
-        text.replace(u'\n', QLatin1String("\r\n"));
-    field_->userDidEdit(text.toStdString());
+    field_->userDidEditLines(textOf(editor).toStdString());
 }
 
 } // namespace zarvil::qt

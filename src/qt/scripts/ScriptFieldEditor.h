@@ -15,9 +15,8 @@ namespace zarvil::qt {
 /// Where a frame of an item's view, whose y grows upwards, lies in a widget of that size.
 [[nodiscard]] QRect flipped(const Rect& frame, const Size& viewSize);
 
-/// The widget of one edit field: a line, or a text of several lines where the frame has room for
-/// them. What the user types goes into the field at once; what he leaves alone stays as it was,
-/// byte for byte.
+/// The widget of one edit field: a line for the title, several for the text. What the user types
+/// goes into the field at once; what he leaves alone stays as it was, byte for byte.
 class ScriptFieldEditor : NonCopyable {
 public:
     /// Takes its texts from the item that the field belongs to.
@@ -37,9 +36,8 @@ private:
 
     std::shared_ptr<ScriptEditField> field_;
     QString tooLargeText_;
-    bool carriageReturns_ = false; ///< the text's lines end in CR LF
-    bool showing_ = false;         ///< the widget's change comes from the field
-    bool taking_ = false;          ///< the field's change comes from the widget
+    bool showing_ = false; ///< the widget's change comes from the field
+    bool taking_ = false;  ///< the field's change comes from the widget
     Subscription changes_;
     QWidget* widget_; ///< made last: making it fills it from the field
 };

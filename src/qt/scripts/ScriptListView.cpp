@@ -60,6 +60,7 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
         break;
     case RowChange::Kind::Removed:
         heights_.erase(heights_.begin() + row);
+        noteFocus();
         renumber([row](int former) {
             return former == row ? -1 : former < row ? former : former - 1;
         });
@@ -77,6 +78,7 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
         break;
     case RowChange::Kind::Cleared:
         heights_.clear();
+        noteFocus();
         renumber([](int) { return -1; });
         addedSinceLayout_ = 0;
         break;
@@ -85,6 +87,23 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
     }
     if (!layoutTimer_.isActive())
         layoutTimer_.start();
+}
+
+void ScriptListView::noteFocus() {
+    if (const int row = rowOf(QApplication::focusWidget()); row >= 0)
+        focusedRow_ = row;
+}
+
+/// A card that went with the keyboard leaves it to the one in its place, as soon as there is one.
+void ScriptListView::returnFocus() {
+    if (!hasFocus())
+        focusedRow_ = -1;
+    if (focusedRow_ < 0 || rowCount() == 0)
+        return;
+    const int row = std::min(std::exchange(focusedRow_, -1), rowCount() - 1);
+    scrollToRow(row);
+    if (const auto shown = cards_.find(row); shown != cards_.end())
+        shown->second->takeFocus();
 }
 
 void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
@@ -109,6 +128,7 @@ void ScriptListView::layOut() {
     addedSinceLayout_ = 0;
     if (created)
         scrollToRow(lastAddedRow_);
+    returnFocus();
 }
 
 void ScriptListView::updateScrollBar() {
@@ -116,6 +136,8 @@ void ScriptListView::updateScrollBar() {
     // Heights are measured when cards come into sight: the end stays the end.
     const bool atEnd = bar.value() > 0 && bar.value() == bar.maximum();
     const int height = rowCount() == 0 ? 0 : topOf(rowCount()) - spacing;
+    // Its cards have the keyboard in a list that has any.
+    setFocusPolicy(rowCount() == 0 ? Qt::StrongFocus : Qt::NoFocus);
     bar.setPageStep(viewport()->height());
     bar.setRange(0, std::max(0, height - viewport()->height()));
     if (atEnd)

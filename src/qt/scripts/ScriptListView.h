@@ -40,6 +40,8 @@ protected:
 
 private:
     void rowsDidChange(const RowChange& change);
+    void noteFocus();
+    void returnFocus();
     /// Every card to the row that the former one has become; -1 where it went.
     void renumber(const std::function<int(int)>& rowNow);
 
@@ -62,6 +64,7 @@ private:
     std::vector<int> heights_; ///< by row; 0 where no card has been seen
     int addedSinceLayout_ = 0;
     int lastAddedRow_ = 0;
+    int focusedRow_ = -1;              ///< of a card that went with the keyboard
     std::map<int, ScriptCard*> cards_; ///< by row
     std::vector<ScriptCard*> spares_;
     QTimer layoutTimer_; ///< gathers the changes of one turn of the event loop

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zarvil::qt {
 
 namespace {
@@ -46,7 +48,15 @@ void PlaceholderWidget::setText(Symbol symbol, const QString& title, const QStri
     symbol_->setSymbol(symbol);
     title_->setText(title);
     words_->setText(words);
+    showSymbolWhereItFits();
     describe();
+}
+
+void PlaceholderWidget::showSymbolWhereItFits() {
+    const int width = std::max(0, this->width() - 2 * margin);
+    const int words = title_->heightForWidth(width) + words_->heightForWidth(width);
+    const int gaps = 2 * margin + 2 * layout()->spacing();
+    symbol_->setHidden(height() < gaps + symbolExtent + words);
 }
 
 void PlaceholderWidget::setVisible(bool visible) {
@@ -88,6 +98,8 @@ void PlaceholderWidget::describe() {
 bool PlaceholderWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
     if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
         cover();
+    else if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
     return false;
 }
 
@@ -96,13 +108,24 @@ void PlaceholderWidget::showEvent(QShowEvent* event) {
     cover();
 }
 
+void PlaceholderWidget::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    showSymbolWhereItFits();
+}
+
 void PlaceholderWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    // An empty list has no row to show the keyboard on.
+    const bool focused = covered_ && covered_->hasFocus();
+    const double width = focused ? 2 : 1;
     const QColor ground = palette().color(QPalette::Window);
-    painter.setPen(QPen(theme::mixed(ground, theme::mutedText(palette()), 0.45), 1, Qt::DashLine));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
-                            theme::cardRadius);
+    painter.setPen(focused ? QPen(theme::shield(palette()), width)
+                           : QPen(theme::mixed(ground, theme::mutedText(palette()), 0.45), width,
+                                  Qt::DashLine));
+    const double inset = width / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                            theme::cardRadius, theme::cardRadius);
 }
 
 void PlaceholderWidget::changeEvent(QEvent* event) {

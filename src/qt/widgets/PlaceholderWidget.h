@@ -34,6 +34,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -41,6 +42,8 @@ private:
     [[nodiscard]] QWidget* covered();
     void cover();
     void describe();
+    /// The words need the room more than the symbol does.
+    void showSymbolWhereItFits();
     void updateLook();
 
     SymbolWidget* symbol_;

