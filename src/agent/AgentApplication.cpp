@@ -2,12 +2,7 @@
 
 #include "agent/Commands.h"
 #include "agent/DeviceFile.h"
-#include "bus/BusDaemon.h"
-#include "protocol/BusNames.h"
 
-#include <QCoreApplication>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QProcess>
 
 #include <cstdio>
@@ -24,12 +19,14 @@ void print(const QString& text) {
 
 } // namespace
 
-AgentApplication::AgentApplication(const ApplicationOptions& options)
+AgentApplication::AgentApplication(const ApplicationOptions& options, MessageCenter& messages,
+                                   std::function<void(int)> exit)
     : options_(options),
+      exit_(std::move(exit)),
       log_(options.logFile),
       settings_(options.settingsFile, log_),
-      agent_({messages_, settings_, log_, [this](const QString& path) { openFile(path); },
-              [] { QCoreApplication::quit(); }}),
+      agent_({messages, settings_, log_, [this](const QString& path) { openFile(path); },
+              [this] { exit_(EXIT_SUCCESS); }}),
       commands_([this](const QString& line) {
           const QString answer = runCommand(agent_, line);
           if (!answer.isEmpty())
@@ -37,7 +34,6 @@ AgentApplication::AgentApplication(const ApplicationOptions& options)
       }) {
     agent_.setTestDuration(options.testDuration);
     findDevices();
-    busState_ = session_.observe([this](BusState state) { busChanged(state); });
 }
 
 void AgentApplication::findDevices() {
@@ -71,38 +67,14 @@ void AgentApplication::watchUsb() {
         log_.problem("Cannot watch the USB devices: " + problem);
 }
 
-void AgentApplication::busChanged(BusState state) {
-    if (state == BusState::Connected)
-        takeName();
-    else if (state == BusState::Unavailable)
-        log_.problem("No session bus: " + session_.error());
+void AgentApplication::ready() {
+    log_.note(QStringLiteral("Ready"));
+    print(QStringLiteral("ready"));
 }
 
-// After the messages are listened for, which the message center has seen to: whoever sees the name
-// may speak at once.
-void AgentApplication::takeName() {
-    auto* watcher = new QDBusPendingCallWatcher(
-        session_.connection()->asyncCall(nameRequest(bus::agentName)), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        nameAnswered(watcher->reply());
-    });
-}
-
-void AgentApplication::nameAnswered(const QDBusMessage& reply) {
-    if (!session_.connection())
-        return; // The bus went meanwhile; the next one is asked again.
-    const NameOutcome outcome = nameOutcome(reply);
-    if (outcome == NameOutcome::Owned) {
-        log_.note(QStringLiteral("Ready"));
-        print(QStringLiteral("ready"));
-        return;
-    }
-    const QString why = outcome == NameOutcome::Taken ? QStringLiteral("another agent is running")
-                                                      : reply.errorMessage();
-    log_.problem(QStringLiteral("Cannot own the name %1 on the session bus: %2")
-                     .arg(QString(bus::agentName), why));
-    QCoreApplication::exit(EXIT_FAILURE);
+void AgentApplication::fail(const QString& why) {
+    log_.problem(why);
+    exit_(EXIT_FAILURE);
 }
 
 void AgentApplication::openFile(const QString& path) {

@@ -3,12 +3,11 @@
 #include "agent/Agent.h"
 #include "agent/LineReader.h"
 #include "agent/UsbDevices.h"
-#include "bus/BusConnection.h"
-#include "bus/DBusMessageCenter.h"
 
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace zarvil::agent {
@@ -21,30 +20,33 @@ struct ApplicationOptions {
     std::chrono::milliseconds testDuration{2000};
 };
 
-/// The agent as a process: on the session bus under its name, with its devices and its operator.
-/// Prints "ready" once it owns the name; exits with an error when another process does.
+/// The agent as a process, with its files, its devices and its operator. What carries its messages
+/// says when it can be reached.
 class AgentApplication final : public QObject {
 public:
-    explicit AgentApplication(const ApplicationOptions& options);
+    /// `exit` ends the event loop with that status; it may be called from any handler.
+    AgentApplication(const ApplicationOptions& options, MessageCenter& messages,
+                     std::function<void(int)> exit);
+
+    /// Prints "ready": the agent hears and is heard.
+    void ready();
+    void problem(const QString& text) { log_.problem(text); }
+    /// Ends the agent with an error.
+    void fail(const QString& why);
 
 private:
     void findDevices();
     void readDevices();
     void watchUsb();
-    void busChanged(BusState state);
-    void takeName();
-    void nameAnswered(const QDBusMessage& reply);
     void openFile(const QString& path);
 
     ApplicationOptions options_;
+    std::function<void(int)> exit_;
     AgentLog log_;
     AgentSettings settings_;
-    BusConnection session_{BusOptions::sessionBus()};
-    DBusMessageCenter messages_{session_};
     Agent agent_;
     std::unique_ptr<UsbDevices> usb_;
     LineReader commands_;
-    Subscription busState_;
 };
 
 } // namespace zarvil::agent

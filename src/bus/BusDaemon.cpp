@@ -57,6 +57,12 @@ std::vector<std::pair<QString, std::uint32_t>> ownedNames(const QDBusConnection&
     return owned;
 }
 
+bool isActivatable(const QDBusConnection& connection, const QString& name, int limit) {
+    const QDBusReply<QStringList> names =
+        connection.call(busCall("ListActivatableNames"), QDBus::Block, limit);
+    return names.value().contains(name);
+}
+
 OwnerWatch::OwnerWatch(QDBusConnection connection, const QString& name, Reports reports)
     : reports_(std::move(reports)) {
     connection.connect(QString(), path, busName(), QStringLiteral("NameOwnerChanged"), {name},

@@ -34,6 +34,10 @@ enum class NameOutcome : std::uint8_t {
 [[nodiscard]] std::vector<std::pair<QString, std::uint32_t>>
 ownedNames(const QDBusConnection& connection, int limit);
 
+/// Whether the bus could start the owner of a well-known name. Waits for the bus, at most about
+/// `limit` milliseconds.
+[[nodiscard]] bool isActivatable(const QDBusConnection& connection, const QString& name, int limit);
+
 /// Follows who owns a well-known name. Reports come in the order of the bus, mixed with the
 /// signals of the same connection. The bus library's own filter by well-known name would block to
 /// ask for the owner, and let through what others address to this connection directly.

@@ -13,6 +13,7 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 namespace zarvil::host {
 
@@ -48,7 +49,7 @@ QString pluginOf(const QString& platform) {
     return name.startsWith(QLatin1String("wayland")) ? QStringLiteral("wayland-generic") : name;
 }
 
-bool isServed(const QString& platform) { return hasPlatformPlugin(pluginOf(platform)); }
+bool hasPlugin(const QString& platform) { return hasPlatformPlugin(pluginOf(platform)); }
 
 /// Whether somebody listens at the Wayland socket that the environment names.
 bool hasWaylandServer() {
@@ -71,21 +72,41 @@ bool hasWaylandServer() {
     return answers;
 }
 
+/// Qt aborts where the X display is served by nobody, or not to this user.
+bool hasXServer() {
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return answers;
+}
+
+bool isServed(const QString& platform) {
+    return hasPlugin(platform) &&
+           (platform.section(':', 0, 0) != QLatin1String("xcb") || hasXServer());
+}
+
 } // namespace
 
 std::optional<QString> displayFault() {
     const auto words = [](const char* text) { return QCoreApplication::translate("Host", text); };
+    const QString display = qEnvironmentVariable("DISPLAY");
+    const QString unserved =
+        words("Nobody serves the display \"%1\", or not to this user.").arg(display);
     const QString wished = qEnvironmentVariable("QT_QPA_PLATFORM");
     if (!wished.isEmpty()) {
         const QStringList names = wished.split(';', Qt::SkipEmptyParts);
         if (std::ranges::any_of(names, isServed))
             return std::nullopt;
+        if (std::ranges::any_of(names, hasPlugin))
+            return unserved;
         return words("No Qt platform plug-in is installed for QT_QPA_PLATFORM=%1.").arg(wished);
     }
-    if (!qEnvironmentVariableIsEmpty("DISPLAY") && isServed(QStringLiteral("xcb")))
+    const QString xcb = QStringLiteral("xcb");
+    const bool hasXDisplay = !display.isEmpty() && hasPlugin(xcb);
+    if (hasXDisplay && isServed(xcb))
         return std::nullopt;
     if (!hasWaylandServer())
-        return words("There is no display to show a window on.");
+        return hasXDisplay ? unserved : words("There is no display to show a window on.");
     if (isServed(QStringLiteral("wayland")))
         return std::nullopt;
     return words("The display is a Wayland one, and Qt's plug-in for it is not installed. "

@@ -2,6 +2,7 @@
 
 #include "qt/text/ToolTip.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -20,12 +21,19 @@ namespace {
 constexpr const char* geometryKey = "window/geometry";
 constexpr int listWidth = 180;
 
+/// Qt takes a plain widget for a part of a window, also where it is one.
+QAccessibleInterface* makeAccessibleWindow(const QString& /*className*/, QObject* object) {
+    auto* window = qobject_cast<HostWindow*>(object);
+    return window ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
 } // namespace
 
 HostWindow::HostWindow(const std::vector<BundleOutcome>& bundles, const PaneOptions& options,
                        QSettings& settings)
     : settings_(settings) {
     setObjectName("hostWindow");
+    QAccessible::installFactory(makeAccessibleWindow);
     for (const auto& bundle : bundles)
         makeEntry(bundle, options);
     auto* columns = new QHBoxLayout(this);

@@ -61,6 +61,14 @@ TEST_F(HostProcessTest, saysWhatItCanDoWithoutADisplay) {
     const auto outcome = run({});
     EXPECT_EQ(outcome.code, 69);
     EXPECT_TRUE(outcome.err.contains("no display"));
+    environment.insert("DISPLAY", ":54321");
+    for (const char* platform : {"", "xcb"}) {
+        environment.insert("QT_QPA_PLATFORM", platform);
+        const auto unserved = run({});
+        EXPECT_EQ(unserved.code, 69);
+        EXPECT_EQ(unserved.err.count('\n'), 1) << unserved.err.toStdString();
+        EXPECT_TRUE(unserved.err.contains("\":54321\""));
+    }
 }
 
 TEST_F(HostProcessTest, missingAndBrokenPanesHaveExitCodes) {

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -144,10 +145,13 @@ TEST_F(HostWindowTest, thePlaceOfTheWindowIsKept) {
         settings.setValue("window/geometry", stored);
         openWindow();
         EXPECT_TRUE(window->isVisible());
-        window->resize(640, 480);
+        const QRect room = window->screen()->availableGeometry();
+        EXPECT_TRUE(room.contains(window->geometry()));
+        const QRect place(60, 40, 640, 480);
+        window->setGeometry(place);
         window->close();
         openWindow();
-        EXPECT_EQ(window->size(), QSize(640, 480));
+        EXPECT_EQ(window->geometry(), place);
         window->close();
     }
 }

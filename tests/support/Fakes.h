@@ -79,6 +79,7 @@ private:
 
 class Workspace final : public zarvil::Workspace {
 public:
+    bool canLaunchApplication(std::string_view /*path*/) const override { return launches; }
     bool launchApplication(std::string_view path) override {
         launched.emplace_back(path);
         return launches;

@@ -7,7 +7,7 @@ import unittest
 
 import desktop
 from desktop import AGENT_NAME, HOST_NAME, SystemTest, wait_until
-from gi.repository import GLib
+from gi.repository import Atspi, GLib
 
 
 class Settings(SystemTest):
@@ -27,7 +27,7 @@ class Settings(SystemTest):
         self.end(self.host)
         self.end(self.agent)
         self.start()
-        self.pane.choose_tab("General")
+        wait_until(lambda: self.pane.page_shows(1), "the last tab is there again")
         for box, on in shown.items():
             wait_until(lambda: self.pane.checked(box) == on, f"{box} shows {on} again")
 
@@ -43,6 +43,88 @@ class Settings(SystemTest):
             wait_until(lambda: self.pane.showing(refusal) == refused, f"{typed} is judged")
             wait_until(lambda: self.session.stored("ShutdownDelay") ==
                        (before if refused else seconds), f"{typed} is stored if it is a delay")
+
+
+class Assistive(SystemTest):
+    # What stands around the tabs and on each, with the setting that pressing it changes.
+    AROUND = {("Power protection", "check box"): None, ("Quit Zarvil", "push button"): None,
+              ("Choose devices", "link"): None, ("Help", "push button"): None}
+    CONTROLS = {
+        "General": {
+            ("Shutdown delay", "text"): None, ("Delay in minutes", "check box"): None,
+            ("Quit applications by force", "check box"): "UseForce",
+            ("Test Shutdown", "push button"): None,
+            ("Warn me before shutting down", "check box"): "ShutdownMessage",
+            ("Notify me when the power fails", "check box"): "ShowFailNotifi",
+            ("Tell me when a device is connected", "check box"): "NewDeviceMessage",
+            ("Launch Zarvil at login", "check box"): "LaunchAtLogin",
+            ("Monochrome icon", "check box"): "StatusIconMono",
+            ("Show Zarvil in the status bar", "check box"): "ShowStatusIcon"},
+        "Alerts": {
+            ("Send an e-mail when the power fails", "check box"): "UseEmailNotifi",
+            ("Address", "text"): None, ("What is Pushover?", "link"): None,
+            ("Send a push notification when the power fails", "check box"): "UsePushover",
+            ("Pushover user ID", "text"): None, ("Pushover device ID", "text"): None,
+            ("Send a Test", "push button"): None},
+        "Scripts": {
+            ("Run these scripts when the power fails", "check box"): "UseScripts",
+            ("Title of the new script", "text"): None, ("Create", "push button"): None},
+        "About": {
+            ("http://www.tessrow.example/", "link"): None, ("Support", "link"): None,
+            ("Send feedback", "link"): None, ("Follow us", "link"): None,
+            ("Recommend Zarvil", "link"): None,
+            ("Check for updates automatically", "check box"): "SUEnableAutomaticChecks",
+            ("Check for Updates Now", "push button"): None, ("View Log", "push button"): None,
+            ("Uninstall…", "push button"): None}}
+
+    def operable(self):
+        """What shows and takes the keyboard, apart from tabs, lists and the lock."""
+        return {(desktop.clear(node.get_name()), node.get_role_name())
+                for node in self.pane.shown_things()
+                if node.get_state_set().contains(Atspi.StateType.FOCUSABLE)
+                and node.get_role_name() not in ("page tab", "page tab list", "list", "filler", "frame")
+                and not node.get_name().startswith("Administrator rights: ")}
+
+    def test_every_control_has_its_name_and_role_and_is_pressed_by_name(self):
+        self.start()
+        self.tell("state on")
+        wait_until(lambda: self.pane.checked("Power protection"), "the protection is on")
+        for tab, controls in self.CONTROLS.items():
+            self.pane.choose_tab(tab)
+            for (name, _), key in controls.items():
+                if key:
+                    before = self.pane.checked(name)
+                    self.pane.press(name)
+                    wait_until(lambda: self.session.stored(key) == (not before), f"{key} follows")
+                    if before:
+                        self.pane.press(name)
+                        wait_until(lambda: self.pane.checked(name), "it is ticked again")
+            expected = set(self.AROUND) | set(controls)
+            try:
+                wait_until(lambda: self.operable() == expected, f"{tab} is complete", 10)
+            except AssertionError:
+                self.assertEqual(self.operable(), expected)
+        frames = [node.get_name() for node in self.pane.shown_things()
+                  if node.get_role_name() == "frame"]
+        self.assertEqual(frames, ["Zarvil"])
+        for name, role in (("Choose devices", "link"), ("Power protection", "check box")):
+            self.pane.press(name, role)
+        wait_until(lambda: self.pane.page_shows(0), "the link leads to the devices")
+        wait_until(lambda: self.pane.showing("Protection is off"), "the switch has been pressed")
+
+    def test_what_happens_elsewhere_is_announced(self):
+        heard = []
+        listener = Atspi.EventListener.new(lambda event: heard.append(event.any_data))
+        listener.register("object:announcement")
+        self.start()
+        wait_until(lambda: self.pane.showing("Zarvil is running"), "the pane is alive")
+        self.tell("plug UPS|Maker|1")
+        self.tell("unplug UPS|Maker|1")
+        wait_until(lambda: len(heard) >= 2, "the device is announced")
+        self.agent.kill()
+        self.agent.wait()
+        wait_until(lambda: len(heard) >= 3, "the loss is announced")
+        self.assertEqual(heard, ["Connected: UPS", "Disconnected: UPS", "Zarvil is not running"])
 
 
 class Presence(SystemTest):

@@ -8,6 +8,7 @@ namespace zarvil::cocoa {
 /// one is none that could be found among them.
 class CocoaWorkspace final : public Workspace {
 public:
+    [[nodiscard]] bool canLaunchApplication(std::string_view path) const override;
     bool launchApplication(std::string_view path) override;
     [[nodiscard]] std::vector<RunningApplication> runningApplications() const override;
     [[nodiscard]] std::string mainBundleIdentifier() const override;

@@ -19,6 +19,10 @@ bool succeeds(const std::function<BOOL()>& request) {
 
 } // namespace
 
+bool CocoaWorkspace::canLaunchApplication(std::string_view path) const {
+    return [[NSFileManager defaultManager] fileExistsAtPath:toCocoa(path)];
+}
+
 bool CocoaWorkspace::launchApplication(std::string_view path) {
     NSString* application = toCocoa(path);
     return succeeds([=] { return [[NSWorkspace sharedWorkspace] launchApplication:application]; });

@@ -139,6 +139,7 @@ void Zarvil_Preferences::pushValidationFinished(const Message* message) {
         AttributedString(platform_.strings.localizedString(verdict.text), look));
     pushValidationStatus.setHidden(false);
     guidance.verdictSymbol.setSymbol(verdict.color == approving ? Symbol::Tick : Symbol::Warning);
+    guidance.announce(pushValidationStatus.stringValue());
 }
 
 // The fields keep what the user typed; only what the agent stores is emptied.

@@ -23,7 +23,7 @@ void ZVMessageViewButton::drawInteriorWithFrame(const Rect& frame, View* /*contr
     drawBevel(isHighlighted() ? pressedBevel : normalBevel, frame, canvas);
     canvas.drawText(title(),
                     {frame.x, frame.y + titleInset, frame.width, frame.height - 2 * titleInset},
-                    {TextStyle::defaultFontSize, color::white, TextAlignment::Centered});
+                    {fontSize_, color::white, TextAlignment::Centered});
 }
 
 } // namespace zarvil

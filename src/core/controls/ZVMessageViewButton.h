@@ -11,6 +11,11 @@ public:
     /// Draws all of the button, in the flipped coordinates of its control view. Clears the frame
     /// first, so that a front end whose views share one surface draws it in a transparency layer.
     void drawInteriorWithFrame(const Rect& frame, View* controlView, Canvas& canvas) const;
+    /// In points; the frame must have room for it.
+    void setFontSize(double size) { fontSize_ = size; }
+
+private:
+    double fontSize_ = TextStyle::defaultFontSize;
 };
 
 } // namespace zarvil

@@ -30,13 +30,17 @@ Message deviceMessage(std::string_view name, const Record& record) {
 
 void Zarvil_Preferences::deviceConnected(const Message* message) {
     appDidAnswer(nullptr);
-    if (message && message->userInfo)
-        addDevice(makeRecord(*message->userInfo));
+    if (!message || !message->userInfo)
+        return;
+    addDevice(makeRecord(*message->userInfo));
+    guidance.deviceDidConnect(*message->userInfo);
 }
 
 void Zarvil_Preferences::deviceDisconnected(const Message* message) {
     appDidAnswer(nullptr);
     removeDevice(infoOf(message));
+    if (message && message->userInfo)
+        guidance.deviceDidDisconnect(*message->userInfo);
 }
 
 void Zarvil_Preferences::allSavedDevices(const Message* message) {

@@ -1,5 +1,10 @@
 #include "pane/Guidance.h"
 
+#include "interface/DisplayText.h"
+#include "protocol/Messages.h"
+
+#include <utility>
+
 namespace zarvil {
 
 namespace {
@@ -16,6 +21,12 @@ constexpr std::int64_t fewestMinutes = 2;
 bool isInterfaceActive(const Outlets& outlets) { return outlets.toggleMinSec.isEnabled(); }
 
 bool isProtectionOn(const Outlets& outlets) { return !outlets.onDesc.isHidden(); }
+
+std::string deviceName(const Dictionary& device, const StringTable& strings) {
+    const std::string* given = device.stringForKey(payload::deviceName);
+    const std::string shown = given ? showableText(*given, longestShownLine) : std::string();
+    return shown.empty() ? strings.localizedString("Unnamed device") : shown;
+}
 
 void turn(ProgressIndicator& indicator, bool turning) {
     if (turning)
@@ -62,20 +73,29 @@ void Guidance::observeOutlets() {
 
 void Guidance::agentDidAnswer() {
     launching_ = false;
-    launchFailed_ = false;
     setPresence(Presence::Running);
 }
 
-void Guidance::agentDidNotAnswer() {
+void Guidance::agentDidNotAnswer(bool installed) {
     launching_ = false;
+    installed_ = installed;
     delay_.reset();
     setPresence(Presence::Absent);
 }
 
 void Guidance::launchDidBegin(bool possible) {
     launching_ = possible;
-    launchFailed_ = !possible;
+    installed_ = possible;
     showAgent();
+    announce(agentHint.stringValue());
+}
+
+void Guidance::deviceDidConnect(const Dictionary& device) {
+    announce(strings_.localizedString("Connected: %1", {deviceName(device, strings_)}));
+}
+
+void Guidance::deviceDidDisconnect(const Dictionary& device) {
+    announce(strings_.localizedString("Disconnected: %1", {deviceName(device, strings_)}));
 }
 
 void Guidance::testDidChange(bool running) {
@@ -105,11 +125,16 @@ void Guidance::performAction(std::string_view /*action*/, Control* /*sender*/) {
 }
 
 void Guidance::setPresence(Presence presence) {
-    presence_ = presence;
+    const Presence before = std::exchange(presence_, presence);
     showStatus();
     showAgent();
     showTest();
     showWhatIsNotStored();
+    // An agent that runs from the start is no news.
+    if (presence == Presence::Absent && before != Presence::Absent)
+        announce(outlets_.notLaunchedDesc.stringValue());
+    else if (before == Presence::Absent && presence == Presence::Running)
+        announce(outlets_.launchedDesc.stringValue());
 }
 
 std::string Guidance::text(std::string_view key) const { return strings_.localizedString(key); }
@@ -170,7 +195,7 @@ void Guidance::showAgent() {
             text("The session bus does not answer, so Zarvil cannot be reached."));
     else if (launching)
         agentHint.setStringValue(text("Launching it…"));
-    else if (launchFailed_)
+    else if (!installed_)
         agentHint.setStringValue(text("Zarvil is not installed."));
     else
         agentHint.setStringValue(text("Launch it to see your devices and change the settings."));

@@ -5,6 +5,7 @@
 #include "pane/Outlets.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,9 +28,12 @@ public:
 
     // Events in.
     void agentDidAnswer();
-    void agentDidNotAnswer();
+    /// `installed` is whether there is an agent that could be launched.
+    void agentDidNotAnswer(bool installed);
     /// The user wished to launch the agent; `possible` is whether anything could be started.
     void launchDidBegin(bool possible);
+    void deviceDidConnect(const Dictionary& device);
+    void deviceDidDisconnect(const Dictionary& device);
     void testDidChange(bool running);
     /// The delay that the agent has, in seconds; nothing while it is not known.
     void delayDidChange(std::optional<std::int64_t> seconds);
@@ -40,6 +44,13 @@ public:
     // The page that is shown; the user's choice and the pane's own go the same way.
     void selectTab(Tab tab) { selectedTab_.set(tab); }
     [[nodiscard]] const Property<Tab>& selectedTabProperty() const { return selectedTab_; }
+
+    /// What an assistive program shall say at once, wherever its user is; not replayed.
+    [[nodiscard]] Subscription
+    observeAnnouncements(std::function<void(const std::string&)> observer) {
+        return announcements_.add(std::move(observer));
+    }
+    void announce(const std::string& words) { announcements_.notify(words); }
 
     // Around the tabs.
     SymbolView statusSymbol;
@@ -92,11 +103,12 @@ private:
     Presence presence_ = Presence::Unknown;
     bool busAnswers_ = true;
     bool launching_ = false;
-    bool launchFailed_ = false;
+    bool installed_ = true;
     bool testing_ = false;
     bool testEnded_ = false;
     bool lockClicked_ = false;
     std::optional<std::int64_t> delay_;
+    ObserverList<const std::string&> announcements_;
     std::vector<Subscription> subscriptions_;
 };
 

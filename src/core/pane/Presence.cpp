@@ -46,7 +46,7 @@ void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {
 }
 
 void Zarvil_Preferences::appDidNotAnswer() {
-    guidance.agentDidNotAnswer();
+    guidance.agentDidNotAnswer(platform_.workspace.canLaunchApplication(agentApplicationPath()));
     lostConnection = true;
     launchButton.setEnabled(true);
     appOfflineTimer.reset();

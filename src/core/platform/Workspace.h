@@ -19,6 +19,8 @@ class Workspace : NonCopyable {
 public:
     virtual ~Workspace() = default;
 
+    /// Whether there is anything at a path that `launchApplication` could start.
+    [[nodiscard]] virtual bool canLaunchApplication(std::string_view path) const = 0;
     /// Starts the application bundle at a path, or raises it; false when it cannot be started.
     virtual bool launchApplication(std::string_view path) = 0;
     /// In the order in which the session lists them.

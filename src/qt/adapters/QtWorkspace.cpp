@@ -41,6 +41,14 @@ QString identifierOf(const QString& bundle) {
 
 } // namespace
 
+bool QtWorkspace::canLaunchApplication(std::string_view path) const {
+    const QString bundle = QString::fromUtf8(path);
+    if (QFileInfo::exists(bundle))
+        return !executableOf(bundle).isEmpty();
+    const auto& bus = session_.connection();
+    return bus && isActivatable(*bus, identifierOf(bundle), answerLimit);
+}
+
 bool QtWorkspace::launchApplication(std::string_view path) {
     const QString bundle = QString::fromUtf8(path);
     if (!QFileInfo::exists(bundle))

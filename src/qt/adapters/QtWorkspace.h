@@ -14,6 +14,8 @@ public:
     /// `session` must outlive this.
     explicit QtWorkspace(MessageBus& session) : session_(session) {}
 
+    /// Without a bundle at `path` asks the bus, and waits a second at most for its answer.
+    [[nodiscard]] bool canLaunchApplication(std::string_view path) const override;
     /// Starts the executable of the bundle and does not wait for it; without a bundle at `path`
     /// asks the bus to start the application's identifier, and then true means only that the bus
     /// is there to be asked.

@@ -34,6 +34,15 @@ void bindEnabled(Control& model, QWidget& widget, Subscriptions& kept) {
 /// A check box that only shows a state takes no clicks, but stays legible.
 bool showsOnly(const QWidget& widget) { return widget.property("readOnly").toBool(); }
 
+/// A text with the access key that the layout names in "mnemonic", where the text has that letter:
+/// for texts that come without one from the core, or that must stand without one in its models.
+QString withMnemonic(const std::string& text, const QWidget& widget) {
+    QString shown = QString::fromUtf8(text);
+    const QString letter = widget.property("mnemonic").toString();
+    const qsizetype place = letter.isEmpty() ? -1 : shown.indexOf(letter);
+    return place < 0 ? shown : shown.insert(place, u'&');
+}
+
 /// The attributes of a whole text; a label shows one color and one alignment.
 void showAttributes(QLabel& label, const AttributedString& text) {
     const TextAttributes attributes = text.attributesAt(0).value_or(TextAttributes{});
@@ -61,7 +70,7 @@ void bindButton(Button& model, QAbstractButton& widget, Subscriptions& kept) {
     if (model.title().empty())
         model.setTitle(widget.text().toStdString());
     kept.push_back(model.titleProperty().observe([&widget](const std::string& title, Transition) {
-        widget.setText(QString::fromUtf8(title));
+        widget.setText(withMnemonic(title, widget));
     }));
     const auto showState = [&widget](int state, Transition) {
         widget.setChecked(state == buttonState::on);
@@ -91,7 +100,7 @@ void bindLabel(TextField& model, QLabel& widget, Subscriptions& kept) {
     if (model.stringValue().empty())
         model.setStringValue(widget.text().toStdString());
     kept.push_back(model.stringProperty().observe([&widget](const std::string& text, Transition) {
-        widget.setText(QString::fromUtf8(text));
+        widget.setText(withMnemonic(text, widget));
     }));
     kept.push_back(model.attributedStringProperty().observe(
         [&widget](const AttributedString& text, Transition) { showAttributes(widget, text); }));

@@ -55,6 +55,7 @@ void LockWidget::placeChildren() {
     const QRect picture(focusMargin, (height() - extent) / 2, extent, extent);
     const int left = picture.right() + 1 + gap;
     const QRect text(left, 0, std::max(0, width() - left - focusMargin), height());
+    setAccessibleName(line->text());
     symbol->setGeometry(QStyle::visualRect(layoutDirection(), rect(), picture));
     line->setGeometry(QStyle::visualRect(layoutDirection(), rect(), text));
     line->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -6,6 +6,7 @@
 #include "qt/canvas/Convert.h"
 #include "qt/devices/DeviceListView.h"
 #include "qt/scripts/ScriptListView.h"
+#include "qt/widgets/Accessibility.h"
 #include "qt/widgets/Form.h"
 #include "qt/widgets/LinkButtonWidget.h"
 #include "qt/widgets/PlaceholderWidget.h"
@@ -115,6 +116,11 @@ public:
                          [&guidance](int index) { guidance.selectTab(static_cast<Tab>(index)); });
     }
 
+    void bindAnnouncements() {
+        kept_.push_back(pane_.guidance.observeAnnouncements(
+            [this_ = &layout_](const auto& words) { announce(*this_, QString::fromUtf8(words)); }));
+    }
+
     /// Actions of widgets that are no outlets, captions that tell of an outlet's fault, and widgets
     /// that claim a name that the pane does not know.
     void bindTheRest() {
@@ -219,6 +225,7 @@ Faults bindOutlets(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kep
     visitOutlets(pane, binder);
     visitGuidance(pane.guidance, binder);
     binder.bindTabs();
+    binder.bindAnnouncements();
     binder.bindTheRest();
     return faults;
 }

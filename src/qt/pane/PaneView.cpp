@@ -10,8 +10,10 @@
 #include "ui_UninstallPanel.h"
 
 #include <QBitmap>
-#include <QEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 #include <QTabBar>
 
 namespace zarvil::qt {
@@ -129,6 +131,9 @@ PaneView::PaneView(QWidget* parent)
     Ui::AboutTab about;
     about.setupUi(&frame.AboutTab->column());
     about.ProductIcon->setSymbol(Symbol::Shield);
+    // The pages come into being after what stands around them.
+    setTabOrder(about.uninstallButton, frame.authView);
+    setTabOrder(frame.authView, frame.HelpButton);
 
     constexpr int above = 16;
     constexpr int between = 12;
@@ -142,8 +147,12 @@ PaneView::PaneView(QWidget* parent)
     bottom_->setVerticalMargins(aroundLock, aroundLock);
     gap_ = new Gap(tabs_);
     tabs_->setCornerWidget(gap_, Qt::TopLeftCorner);
-    // No key stroke switches anything by accident.
-    tabs_->tabBar()->setFocus();
+    launchButton_ = frame.launchButton;
+    tabs_->tabBar()->installEventFilter(this);
+    connect(frame.agentRow, &BannerRow::prominentChanged, this, [this](bool prominent) {
+        if (prominent && untouched_ && tabs_->tabBar() == window()->focusWidget())
+            launchButton_->setFocus();
+    });
     adaptToFont();
 }
 
@@ -167,12 +176,47 @@ void PaneView::adaptToFont() {
         findChild<QWidget*>(name)->setMinimumHeight(cards * card);
 }
 
+/// Most desktops' palettes have a disabled text that is faint on the pane's grounds.
+void PaneView::adaptToPalette() {
+    const QPalette missing = theme::disabledTextFor(QGuiApplication::palette());
+    if (missing == completed_)
+        return;
+    completed_ = missing;
+    setPalette(missing);
+}
+
 bool PaneView::event(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::Polish)
+        adaptToPalette();
     if (event->type() == QEvent::FontChange) {
         adaptToFont();
         adaptToHeight();
     }
     return QWidget::event(event);
+}
+
+bool PaneView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::Shortcut ||
+        event->type() == QEvent::MouseButtonPress)
+        untouched_ = false;
+    return QWidget::eventFilter(watched, event);
+}
+
+/// Return in a field stores what is in it.
+void PaneView::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && launchButton_->isDefault() && !qobject_cast<QLineEdit*>(focusWidget()))
+        launchButton_->click();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+/// Not before: a view that is put into a window leaves its focus behind.
+void PaneView::showEvent(QShowEvent* event) {
+    // No key stroke switches anything by accident.
+    if (!window()->focusWidget())
+        tabs_->tabBar()->setFocus();
+    QWidget::showEvent(event);
 }
 
 void PaneView::resizeEvent(QResizeEvent* event) {

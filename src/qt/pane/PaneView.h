@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QDialog;
+class QPushButton;
 class QTabWidget;
 
 namespace zarvil::qt {
@@ -24,6 +25,9 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -31,14 +35,18 @@ private:
 
     void adaptToHeight();
     void adaptToFont();
+    void adaptToPalette();
 
     Column* top_;
     Column* bottom_;
     QTabWidget* tabs_;
+    QPushButton* launchButton_;
+    bool untouched_ = true; ///< neither key nor click has reached the tab bar since the start
     TextLabel* statusLine_;
     TextLabel* agentHint_;
     Gap* gap_;
     QDialog* uninstallPanel_;
+    QPalette completed_; ///< what the pane adds to the desktop's palette
 };
 
 } // namespace zarvil::qt

@@ -7,7 +7,6 @@
 #include <QScrollBar>
 
 #include <algorithm>
-#include <numeric>
 
 namespace zarvil::qt {
 
@@ -37,7 +36,6 @@ void ScriptListView::setModel(CollectionView& model) {
     rowChanges_.cancel();
     renumber([](int) { return -1; });
     model_ = &model;
-    heights_.assign(model.rowCount(), 0);
     addedSinceLayout_ = 0;
     rowChanges_ = model.observeRows([this](const RowChange& change) { rowsDidChange(change); });
     layoutTimer_.start();
@@ -52,22 +50,17 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
     const auto to = static_cast<int>(change.to);
     switch (change.kind) {
     case RowChange::Kind::Inserted:
-        heights_.insert(heights_.begin() + row, 0);
-        if (!cards_.empty() && row <= cards_.rbegin()->first)
-            renumber([row](int former) { return former < row ? former : former + 1; });
+        renumber([row](int former) { return former < row ? former : former + 1; });
         ++addedSinceLayout_;
         lastAddedRow_ = row;
         break;
     case RowChange::Kind::Removed:
-        heights_.erase(heights_.begin() + row);
         noteFocus();
         renumber([row](int former) {
             return former == row ? -1 : former < row ? former : former - 1;
         });
         break;
     case RowChange::Kind::Moved:
-        heights_.erase(heights_.begin() + row);
-        heights_.insert(heights_.begin() + to, 0);
         renumber([row, to](int former) {
             if (former == row)
                 return to;
@@ -77,7 +70,6 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
         });
         break;
     case RowChange::Kind::Cleared:
-        heights_.clear();
         noteFocus();
         renumber([](int) { return -1; });
         addedSinceLayout_ = 0;
@@ -107,15 +99,21 @@ void ScriptListView::returnFocus() {
 }
 
 void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
-    std::map<int, ScriptCard*> moved;
+    std::map<int, ScriptCard*> cards;
     for (const auto& [former, card] : std::exchange(cards_, {})) {
         const int row = rowNow(former);
         if (row < 0)
             makeSpare(card);
         else
-            moved.emplace(row, card);
+            cards.emplace(row, card);
     }
-    cards_ = std::move(moved);
+    cards_ = std::move(cards);
+    std::map<int, int> heights;
+    for (const auto& [former, height] : heights_) {
+        if (const int row = rowNow(former); row >= 0)
+            heights.emplace(row, height);
+    }
+    heights_ = std::move(heights);
 }
 
 void ScriptListView::layOut() {
@@ -145,15 +143,36 @@ void ScriptListView::updateScrollBar() {
 }
 
 int ScriptListView::heightOf(int row) const {
-    const int measured = heights_[static_cast<std::size_t>(row)];
-    return measured > 0 ? measured : ScriptCard::typicalHeight(*this);
+    const auto measured = heights_.find(row);
+    return measured == heights_.end() ? ScriptCard::typicalHeight(*this) : measured->second;
 }
 
 int ScriptListView::topOf(int row) const {
-    const auto end = heights_.begin() + row;
-    const auto unknown = static_cast<int>(std::count(heights_.begin(), end, 0));
-    return std::accumulate(heights_.begin(), end, 0) + unknown * ScriptCard::typicalHeight(*this) +
-           row * spacing;
+    const int typical = ScriptCard::typicalHeight(*this);
+    int top = row * (typical + spacing);
+    for (auto seen = heights_.begin(); seen != heights_.lower_bound(row); ++seen)
+        top += seen->second - typical;
+    return top;
+}
+
+/// The row whose card, or the gap below it, a place of the content lies in; at most the one behind
+/// the last.
+int ScriptListView::rowAt(int place) const {
+    const int typical = ScriptCard::typicalHeight(*this) + spacing;
+    int row = 0;
+    int top = 0;
+    for (const auto& [seen, height] : heights_) {
+        const int seenTop = top + (seen - row) * typical;
+        if (place < seenTop)
+            break;
+        row = seen;
+        top = seenTop;
+        if (place < top + height + spacing)
+            return row;
+        ++row;
+        top += height + spacing;
+    }
+    return std::min(row + std::max(0, place - top) / typical, rowCount());
 }
 
 /// One card more at either end, so that Tab finds it there.
@@ -161,14 +180,7 @@ std::pair<int, int> ScriptListView::rowsInSight() const {
     const int margin = ScriptCard::typicalHeight(*this);
     const int above = verticalScrollBar()->value() - margin;
     const int below = verticalScrollBar()->value() + viewport()->height() + margin;
-    int first = 0;
-    int top = 0;
-    while (first < rowCount() && top + heightOf(first) < above)
-        top += heightOf(first++) + spacing;
-    int last = first;
-    while (last < rowCount() && top < below)
-        top += heightOf(last++) + spacing;
-    return {first, last};
+    return {rowAt(above), std::min(rowAt(below) + 1, rowCount())};
 }
 
 void ScriptListView::bindCards() {
@@ -187,7 +199,7 @@ void ScriptListView::bindCards() {
     for (int row = first; row < end; ++row)
         changed = bindCard(row) || changed;
     for (const auto& [row, card] : cards_)
-        heights_[static_cast<std::size_t>(row)] = card->heightForWidth(viewport()->width());
+        heights_[row] = card->heightForWidth(viewport()->width());
     if (changed)
         updateTabOrder();
     updateScrollBar();

@@ -54,6 +54,7 @@ private:
     [[nodiscard]] int heightOf(int row) const;
     /// In the content's coordinates, from the heights that are known so far.
     [[nodiscard]] int topOf(int row) const;
+    [[nodiscard]] int rowAt(int place) const;
     /// The first one and the one behind the last.
     [[nodiscard]] std::pair<int, int> rowsInSight() const;
     [[nodiscard]] int rowOf(const QWidget* widget) const;
@@ -61,7 +62,7 @@ private:
     void makeSpare(ScriptCard* card);
 
     CollectionView* model_ = nullptr;
-    std::vector<int> heights_; ///< by row; 0 where no card has been seen
+    std::map<int, int> heights_; ///< by row, of the cards that have been seen
     int addedSinceLayout_ = 0;
     int lastAddedRow_ = 0;
     int focusedRow_ = -1;              ///< of a card that went with the keyboard

@@ -1,9 +1,13 @@
 #include "qt/widgets/Accessibility.h"
 
+#include "qt/widgets/Form.h"
 #include "qt/widgets/LinkButtonWidget.h"
 #include "qt/widgets/SwitchWidget.h"
 
 #include <QAccessibleWidget>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
 
 namespace zarvil::qt {
 
@@ -76,11 +80,19 @@ private:
     }
 };
 
+/// Qt takes every frame for a window's.
+class AccessibleCard final : public QAccessibleWidget {
+public:
+    explicit AccessibleCard(Card* card) : QAccessibleWidget(card, QAccessible::Grouping) {}
+};
+
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
     if (auto* widget = qobject_cast<SwitchWidget*>(object))
         return new AccessibleSwitch(widget);
     if (auto* widget = qobject_cast<LinkButtonWidget*>(object))
         return new AccessibleLink(widget);
+    if (auto* card = qobject_cast<Card*>(object))
+        return new AccessibleCard(card);
     return nullptr;
 }
 
@@ -92,6 +104,21 @@ void installAccessibility() {
         return true;
     }();
     static_cast<void>(installed);
+}
+
+/// Qt 6.4 has no event for it, so that the signal goes out by Qt's own connection to the
+/// accessibility bus; that one is there only while somebody listens.
+void announce(QWidget& speaker, const QString& words) {
+    QDBusConnection bus(QStringLiteral("a11y"));
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&speaker);
+    if (words.isEmpty() || !interface || !QAccessible::isActive() || !bus.isConnected())
+        return;
+    constexpr int polite = 1;
+    QDBusMessage signal = QDBusMessage::createSignal(
+        QStringLiteral("/org/a11y/atspi/accessible/%1").arg(QAccessible::uniqueId(interface)),
+        QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("Announcement"));
+    signal << QString() << polite << 0 << QVariant::fromValue(QDBusVariant(words)) << QVariantMap();
+    bus.send(signal);
 }
 
 } // namespace zarvil::qt

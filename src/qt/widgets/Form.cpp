@@ -1,5 +1,6 @@
 #include "qt/widgets/Form.h"
 
+#include "qt/widgets/Accessibility.h"
 #include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
@@ -7,6 +8,7 @@
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLayout>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -52,6 +54,20 @@ QSize wishOf(const QWidget& child) {
 
 int heightOf(const QWidget& child, int width) {
     return child.hasHeightForWidth() ? child.heightForWidth(width) : wishOf(child).height();
+}
+
+/// Around a field or a box that stands in `place`.
+void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& place) {
+    const QColor outline = theme::fieldOutline(palette);
+    if (!outline.isValid())
+        return;
+    constexpr double radius = 3;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(outline);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(place).adjusted(-0.5, -0.5, 0.5, 0.5), radius, radius);
+    painter.restore();
 }
 
 /// Whether an event of a widget that arranges its children asks for it anew.
@@ -172,7 +188,7 @@ void Page::resizeEvent(QResizeEvent* event) {
 
 // Card
 
-Card::Card(QWidget* parent) : QFrame(parent) {}
+Card::Card(QWidget* parent) : QFrame(parent) { installAccessibility(); }
 
 void Card::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
@@ -439,6 +455,13 @@ bool Row::eventFilter(QObject* watched, QEvent* event) {
     return Arranger::eventFilter(watched, event);
 }
 
+void Row::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    for (const auto* field : findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly))
+        if (field->isVisible() && field->isEnabled())
+            paintFieldOutline(painter, palette(), field->geometry());
+}
+
 bool Row::event(QEvent* event) {
     if (event->type() == QEvent::ChildAdded)
         static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
@@ -455,8 +478,11 @@ void BannerRow::setProminent(bool prominent) {
     if (prominent_ == prominent)
         return;
     prominent_ = prominent;
+    if (auto* button = findChild<QPushButton*>())
+        button->setDefault(prominent);
     layout()->invalidate();
     update();
+    Q_EMIT prominentChanged(prominent);
 }
 
 QMargins BannerRow::padding() const {
@@ -610,6 +636,11 @@ void CheckBox::paintEvent(QPaintEvent* /*event*/) {
     const bool focused = option.state.testFlag(QStyle::State_HasFocus);
     option.state.setFlag(QStyle::State_HasFocus, false);
     style()->drawControl(QStyle::CE_CheckBox, &option, &painter, this);
+    if (isEnabled())
+        paintFieldOutline(painter, palette(),
+                          style()
+                              ->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this)
+                              .adjusted(1, 1, -1, -1));
     QRect place = textPlace(width());
     place.setHeight(height());
     place = QStyle::visualRect(layoutDirection(), rect(), place);

@@ -127,6 +127,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void arrangeChildren() override;
     [[nodiscard]] virtual QMargins padding() const;
     /// How far pictures stand from the row's edge.
@@ -164,7 +165,11 @@ class BannerRow final : public Row {
 public:
     explicit BannerRow(QWidget* parent = nullptr);
 
+    /// The button of a prominent row is the window's default one.
     void setProminent(bool prominent);
+
+Q_SIGNALS:
+    void prominentChanged(bool prominent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

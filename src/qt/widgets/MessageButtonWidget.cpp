@@ -14,6 +14,7 @@ namespace {
 
 constexpr QSize standardSize(90, 28);
 constexpr int titleMargin = 16;
+constexpr int titlePadding = 6;
 constexpr double disabledOpacity = 0.5;
 
 /// The text without the marks of its access key.
@@ -51,7 +52,8 @@ void MessageButtonWidget::setModel(Button& model) {
 
 QSize MessageButtonWidget::sizeHint() const {
     const int title = fontMetrics().horizontalAdvance(withoutMnemonic(text()));
-    return {std::max(standardSize.width(), title + 2 * titleMargin), standardSize.height()};
+    return {std::max(standardSize.width(), title + 2 * titleMargin),
+            std::max(standardSize.height(), fontMetrics().height() + 2 * titlePadding)};
 }
 
 void MessageButtonWidget::paintEvent(QPaintEvent* event) {
@@ -61,6 +63,8 @@ void MessageButtonWidget::paintEvent(QPaintEvent* event) {
     }
     cell_.setHighlighted(isDown());
     cell_.setTitle(withoutMnemonic(text()).toStdString());
+    cell_.setFontSize(
+        std::max<double>(TextStyle::defaultFontSize, QFontInfo(font()).pixelSize()));
     QPainter painter(this);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);

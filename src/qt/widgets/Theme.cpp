@@ -89,6 +89,38 @@ QColor mutedText(const QPalette& palette) {
     return isLegible ? muted : text;
 }
 
+QColor fieldOutline(const QPalette& palette) {
+    if (active(palette, QPalette::Window).lightnessF() >=
+        active(palette, QPalette::WindowText).lightnessF())
+        return {};
+    constexpr double share = 0.45;
+    return mixed(cardGround(palette), active(palette, QPalette::WindowText), share);
+}
+
+QPalette disabledTextFor(const QPalette& palette) {
+    const std::array grounds{cardGround(palette), bannerGround(palette),
+                             palette.color(QPalette::Active, QPalette::Window),
+                             palette.color(QPalette::Disabled, QPalette::Base),
+                             palette.color(QPalette::Disabled, QPalette::Button)};
+    const auto isDiscernible = [&grounds](const QColor& color) {
+        return std::ranges::all_of(grounds, [&color](const QColor& ground) {
+            return contrastRatio(color, ground) >= discernible;
+        });
+    };
+    QPalette missing;
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        const QColor given = palette.color(QPalette::Disabled, role);
+        constexpr double step = 0.05;
+        double share = 0;
+        while (share < 1 && !isDiscernible(mixed(given, active(palette, role), share)))
+            share += step;
+        if (share > 0)
+            missing.setColor(QPalette::Disabled, role,
+                             mixed(given, active(palette, role), std::min(share, 1.0)));
+    }
+    return missing;
+}
+
 QColor bannerGround(const QPalette& palette) {
     const QColor window = active(palette, QPalette::Window);
     return isHighContrast(palette) ? window

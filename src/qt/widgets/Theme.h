@@ -37,6 +37,11 @@ inline constexpr int sideMargin = 20;
 [[nodiscard]] QColor outlineOn(const QPalette& palette, const QColor& ground);
 /// Text that steps back, as far as it stays legible on the window and on a card.
 [[nodiscard]] QColor mutedText(const QPalette& palette);
+/// What an edit field or a box is framed with on a card, where the styles' own frame, which is
+/// darker than the window, would not be seen; invalid elsewhere.
+[[nodiscard]] QColor fieldOutline(const QPalette& palette);
+/// What a palette lacks for its disabled text to be told from every ground that it stands on.
+[[nodiscard]] QPalette disabledTextFor(const QPalette& palette);
 [[nodiscard]] QColor bannerGround(const QPalette& palette);
 [[nodiscard]] QColor bannerOutline(const QPalette& palette);
 [[nodiscard]] QColor shield(const QPalette& palette);

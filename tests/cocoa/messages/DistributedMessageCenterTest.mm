@@ -1,45 +1,18 @@
 #import "cocoa/messages/DistributedMessageCenter.h"
 
+#import "NotificationServers.h"
 #import "RunLoop.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <fstream>
 #include <optional>
-#include <string>
 #include <vector>
-
-#include <dirent.h>
-#include <unistd.h>
 
 namespace zarvil::cocoa {
 
 namespace {
 
 using test::spinUntil;
-
-/// The process of the notification server that serves this test alone: it has the same folder for
-/// temporary files.
-std::vector<pid_t> notificationServers() {
-    const std::string mark = std::string("TEMP=") + getenv("TEMP");
-    std::vector<pid_t> found;
-    DIR* processes = opendir("/proc");
-    while (const dirent* entry = readdir(processes)) {
-        const std::string folder = std::string("/proc/") + entry->d_name;
-        std::string name;
-        std::getline(std::ifstream(folder + "/comm"), name);
-        if (name != "gdnc")
-            continue;
-        std::ifstream environment(folder + "/environ");
-        for (std::string variable; std::getline(environment, variable, '\0');) {
-            if (variable == mark)
-                found.push_back(std::stoi(entry->d_name));
-        }
-    }
-    closedir(processes);
-    return found;
-}
 
 TEST(DistributedMessageCenter, deliversWholeMessagesInOrderAndOnlyWhereObserved) {
     DistributedMessageCenter center;
@@ -81,10 +54,7 @@ TEST(DistributedMessageCenter, hearsAgainAfterTheServerDied) {
     center.post(Message("ZVTestHeard"));
     ASSERT_TRUE(spinUntil([&] { return heard == 1; }));
 
-    const auto servers = notificationServers();
-    ASSERT_FALSE(servers.empty());
-    for (const pid_t server : servers)
-        ::kill(server, SIGKILL);
+    ASSERT_TRUE(test::killNotificationServer());
     // What is posted meanwhile may be lost, as without a receiver; posting it must not fail.
     EXPECT_TRUE(spinUntil([&] {
         center.post(Message("ZVTestHeard"));

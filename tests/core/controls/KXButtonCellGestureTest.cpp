@@ -82,6 +82,7 @@ TEST_F(SwitchGesture, beginsOnlyOnAnEnabledSwitchAndEndsWithoutOutcomeWhenItIsBr
     EXPECT_FALSE(loop.press({60, 13})) << "the far edge is outside";
     button.setEnabled(false);
     EXPECT_FALSE(loop.press({10, 13}));
+    button.setOn(true);
     for (const bool disabled : {true, false}) {
         button.setEnabled(true);
         EXPECT_TRUE(loop.press({10, 13}));
@@ -93,7 +94,7 @@ TEST_F(SwitchGesture, beginsOnlyOnAnEnabledSwitchAndEndsWithoutOutcomeWhenItIsBr
         else
             loop.cancel();
         loop.release({45, 13});
-        EXPECT_EQ(button.state(), 0) << "what the cell stored is taken back";
+        EXPECT_EQ(button.state(), 1) << "what the cell stored is taken back";
         EXPECT_FALSE(button.cell().isHighlighted() || loop.isPressed());
     }
     EXPECT_TRUE(target.states.empty());

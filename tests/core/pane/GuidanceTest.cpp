@@ -92,6 +92,11 @@ TEST_F(GuidanceTest, anAbsentAgentIsABannerThatSaysWhatToDo) {
     workspace.launches = false;
     pane.launchButton.performClick();
     EXPECT_EQ(said.agentHint.stringValue(), "Zarvil is not installed.");
+    workspace.launches = true;
+    pane.appDidNotAnswer();
+    EXPECT_EQ(said.agentHint.stringValue(),
+              "Launch it to see your devices and change the settings.");
+    workspace.launches = false;
     pane.appDidNotAnswer();
     EXPECT_EQ(said.agentHint.stringValue(), "Zarvil is not installed.");
     said.busDidChange(false);
@@ -101,6 +106,27 @@ TEST_F(GuidanceTest, anAbsentAgentIsABannerThatSaysWhatToDo) {
     EXPECT_FALSE(said.agentRow.isProminent());
     EXPECT_TRUE(said.agentHint.isHidden());
     EXPECT_TRUE(said.connectMessageHint.isHidden());
+}
+
+TEST_F(GuidanceTest, announcesWhatHappensBesideTheUsersOwnDoing) {
+    pane.launchedDesc.setStringValue("running");
+    pane.notLaunchedDesc.setStringValue("not running");
+    load();
+    std::vector<std::string> heard;
+    const Subscription listening =
+        said.observeAnnouncements([&heard](const std::string& words) { heard.push_back(words); });
+    const Dictionary device{{"DeviceName", "UPS"}};
+    agentSends(message::pingAnswer);
+    agentSends(Message(message::deviceConnected, device));
+    agentSends(Message(message::deviceDisconnected, device));
+    agentSends(Message(message::deviceConnected, Dictionary{{"DeviceName", ""}}));
+    agentSends(Message(message::pushValidationFinished, Dictionary{{"code", 1}}));
+    pane.appDidNotAnswer();
+    pane.appDidNotAnswer();
+    agentSends(message::pingAnswer);
+    EXPECT_EQ(heard, (std::vector<std::string>{
+                         "Connected: UPS", "Disconnected: UPS", "Connected: Unnamed device",
+                         pane.pushValidationStatus.stringValue(), "not running", "running"}));
 }
 
 TEST_F(GuidanceTest, aGreyedControlSaysWhy) {

@@ -67,9 +67,13 @@ TEST_F(QtWorkspaceTest, asksTheBusForAnAgentThatIsNotInstalled) {
     PrivateBus bus(environment);
     BusConnection session(bus.options());
     QtWorkspace workspace(session);
-    EXPECT_TRUE(workspace.launchApplication(path("Applications/Zarvil.app").toStdString()));
+    ASSERT_TRUE(session.wait(std::chrono::seconds(2)));
+    for (const auto& [application, known] :
+         {std::pair("Applications/Zarvil.app", true), std::pair("Applications/Other.app", false)}) {
+        EXPECT_EQ(workspace.canLaunchApplication(path(application).toStdString()), known);
+        EXPECT_EQ(workspace.launchApplication(path(application).toStdString()), known);
+    }
     EXPECT_TRUE(appears("activated"));
-    EXPECT_FALSE(workspace.launchApplication(path("Applications/Other.app").toStdString()));
 }
 
 TEST_F(QtWorkspaceTest, listsTheNamesOnTheBusWithTheirProcesses) {

@@ -1,3 +1,4 @@
+#include "ControlCases.h"
 #include "PaneHarness.h"
 #include "pane/Help.h"
 #include "qt/adapters/QtStringTable.h"
@@ -7,7 +8,9 @@
 #include "qt/canvas/Convert.h"
 #include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
+#include "qt/widgets/Contrast.h"
 #include "qt/widgets/TextLabel.h"
+#include "qt/widgets/Theme.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -16,6 +19,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -23,6 +27,7 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <tuple>
 
 namespace zarvil::qt {
 namespace {
@@ -134,6 +139,9 @@ TEST_P(LayoutIn, givesNoMnemonicTwiceOnOnePage) {
         };
         for (int tab = 0; tab < tabs.count(); ++tab)
             add(tabs.tabText(tab));
+        add(widget<QPushButton>("launchButton").text());
+        add(widget<QLabel>("onDesc").text());
+        EXPECT_EQ(letters.count(QString()), 0);
         for (const auto* button : tabs.widget(page)->findChildren<QAbstractButton*>())
             add(button->text());
         for (const auto* label : tabs.widget(page)->findChildren<QLabel*>())
@@ -144,6 +152,90 @@ TEST_P(LayoutIn, givesNoMnemonicTwiceOnOnePage) {
         EXPECT_EQ(letters.removeDuplicates(), 0)
             << (letters.join(QChar(0x20)) + " on " + tabs.tabText(page)).toStdString();
     }
+}
+
+TEST_F(Layout, startsAtTheLaunchButtonOfAnAbsentAgentUnlessTheUserHasMoved) {
+    load();
+    QWidget window;
+    view.setParent(&window);
+    window.show();
+    view.show();
+    auto& bar = *widget<QTabWidget>("tabView").tabBar();
+    auto& launch = widget<QPushButton>("launchButton");
+    EXPECT_EQ(window.focusWidget(), &bar);
+    view.setParent(nullptr);
+    focus(bar, 0);
+    pane.appDidNotAnswer();
+    EXPECT_TRUE(launch.hasFocus());
+    focus(bar, 0);
+    QTest::keyClick(&bar, Qt::Key_Return);
+    EXPECT_EQ(workspace.launched.size(), 1U) << "the default button";
+    auto& address = widget<QLineEdit>("email");
+    pane.appDidNotAnswer();
+    focus(address, alertsPage);
+    QTest::keyClick(&address, Qt::Key_Return);
+    EXPECT_EQ(workspace.launched.size(), 1U);
+    agentSends(message::pingAnswer);
+    EXPECT_FALSE(launch.isDefault());
+    focus(bar, 0);
+    pane.appDidNotAnswer();
+    EXPECT_TRUE(bar.hasFocus());
+}
+
+TEST_F(Layout, tabWalksEachPageAsItIsRead) {
+    loadWithAgent({{"UsePushover", true},
+                   {"UseScripts", true},
+                   {"UseEmailNotifi", true},
+                   {"ShowStatusIcon", true},
+                   {"ShutdownDelay", 30}});
+    agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+    view.resize(view.sizeHint());
+    auto& tabs = widget<QTabWidget>("tabView");
+    for (int page = 0; page < tabs.count(); ++page) {
+        focus(*tabs.tabBar(), page);
+        QStringList missed;
+        for (const auto* one : tabs.currentWidget()->findChildren<QWidget*>())
+            if (one->isVisible() && one->isEnabled() && (one->focusPolicy() & Qt::TabFocus) &&
+                !one->focusProxy())
+                missed += one->objectName();
+        const auto& area = dynamic_cast<const QScrollArea&>(*tabs.currentWidget());
+        QRect last;
+        QTest::keyClick(tabs.tabBar(), Qt::Key_Tab);
+        for (QWidget* now = view.focusWidget(); tabs.currentWidget()->isAncestorOf(now);
+             now = view.focusWidget()) {
+            const QRect place(now->mapTo(area.widget(), QPoint()), now->size());
+            const bool isBeside = place.top() <= last.bottom() && last.top() <= place.bottom();
+            EXPECT_TRUE(isBeside ? place.left() > last.left() : place.top() > last.top())
+                << now->objectName().toStdString() << " on page " << page;
+            ASSERT_TRUE(missed.removeOne(now->objectName())) << now->objectName().toStdString();
+            last = place;
+            QTest::keyClick(now, Qt::Key_Tab);
+        }
+        EXPECT_EQ(missed.join(' ').toStdString(), "") << page;
+        EXPECT_EQ(view.focusWidget(), &widget<QWidget>("authView"));
+    }
+}
+
+TEST_F(Layout, disabledTextStandsOutOnEveryGroundOfAnyPalette) {
+    const QPalette before = QApplication::palette();
+    for (const auto& [window, base, faint] : {std::tuple(0xffefefef, 0xffffffff, 0xffbebebe),
+                                              std::tuple(0xff323232, 0xff242424, 0xff505050),
+                                              std::tuple(0xff000000, 0xff000000, 0xff202020)}) {
+        QPalette palette{QColor(window)};
+        palette.setColor(QPalette::Base, QColor(base));
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(QPalette::Disabled, role, QColor(faint));
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        auto& box = widget<QCheckBox>("forceQuit");
+        const auto color = [&box](QPalette::ColorRole role) {
+            return box.palette().color(QPalette::Disabled, role);
+        };
+        EXPECT_GE(contrastRatio(color(QPalette::WindowText), theme::cardGround(box.palette())), 3);
+        EXPECT_GE(contrastRatio(color(QPalette::Text), color(QPalette::Base)), 3);
+        EXPECT_GE(contrastRatio(color(QPalette::ButtonText), color(QPalette::Button)), 3);
+    }
+    QApplication::setPalette(before);
 }
 
 TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
@@ -157,6 +249,34 @@ TEST_F(Layout, explainsEveryControlAndCanReachItByKeyboard) {
         EXPECT_FALSE(shown->toolTip().isEmpty()) << name;
         EXPECT_TRUE(shown->focusPolicy() & Qt::TabFocus) << name;
     });
+}
+
+TEST_F(Layout, everyControlSendsWhatTheTableSays) {
+    load();
+    view.show();
+    for (const ControlCase& c : controlCases) {
+        agentSends(Message(message::savedPrefs, settingsOfCases()));
+        agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+        takeSent();
+        auto& control = widget<QWidget>(std::string(c.outlet).c_str());
+        auto& tabs = widget<QTabWidget>("tabView");
+        for (int page = 0; page < tabs.count(); ++page)
+            if (tabs.widget(page)->isAncestorOf(&control))
+                tabs.setCurrentIndex(page);
+        if (auto* field = qobject_cast<QLineEdit*>(&control)) {
+            field->selectAll();
+            QTest::keyClicks(field, QString::fromUtf8(c.typed));
+            QTest::keyClick(field, Qt::Key_Return);
+        } else if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
+            button->click();
+        } else {
+            QTest::mouseClick(&control, Qt::LeftButton);
+        }
+        std::string all;
+        for (const Message& sent : takeSent())
+            all += (all.empty() ? "" : "; ") + described(sent);
+        EXPECT_EQ(all, c.sent) << c.outlet;
+    }
 }
 
 TEST_F(Layout, helpTellsOfTheTabThatIsShownAndOfControlsThatExist) {
@@ -247,7 +367,9 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
     EXPECT_TRUE(verdict.alignment() & Qt::AlignHCenter);
     EXPECT_EQ(verdict.palette().color(verdict.foregroundRole()), QColor::fromRgbF(1, 0.1F, 0.1F));
     authorization.questions.at(0).reply({false, "polkit is not there."});
-    EXPECT_EQ(widget<LockWidget>("authView").reason(), "polkit is not there.");
+    auto& lock = widget<LockWidget>("authView");
+    EXPECT_EQ(lock.reason(), "polkit is not there.");
+    EXPECT_TRUE(QTest::qWaitFor([&lock] { return lock.accessibleName().contains(": locked"); }));
 }
 
 TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
@@ -285,6 +407,11 @@ TEST_P(LayoutIn, clipsAndOverlapsNothing) {
             view.resize(c.size);
             view.show();
             EXPECT_EQ(view.size(), c.size) << c.points << " pt";
+            const auto& heading = widget<QWidget>("ConnectedCaptionRow");
+            const QRect& list = widget<QWidget>("connectedDevices").geometry();
+            EXPECT_TRUE(QTest::qWaitFor([&] {
+                return !heading.isVisible() || list.top() - heading.geometry().bottom() < 20;
+            }));
             for (int page = 0; page < 5; ++page) {
                 widget<QTabWidget>("tabView").setCurrentIndex(page);
                 static_cast<void>(QTest::qWaitFor([this] { return misfits(view).isEmpty(); }));

@@ -118,13 +118,12 @@ TEST_F(ControlWidgets, aMessageButtonDarkensWhilePressedAndKeepsWhatIsBehindItsC
     show();
     button.clearFocus();
     const auto pixel = [&](int x, int y) { return window.grab().toImage().pixelColor(x, y); };
-    // In the row's middle the face is 0.55 white, pressed 0.2.
-    EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
+    const int released = pixel(30, 34).red();
     EXPECT_EQ(pixel(20, 20), QColor(0, 200, 0));
     QTest::mousePress(&button, Qt::LeftButton);
-    EXPECT_NEAR(pixel(30, 34).red(), 0.2 * 255, 4);
+    EXPECT_LT(pixel(30, 34).red(), released - 50);
     QTest::mouseRelease(&button, Qt::LeftButton);
-    EXPECT_NEAR(pixel(30, 34).red(), 0.55 * 255, 4);
+    EXPECT_EQ(pixel(30, 34).red(), released);
 }
 
 TEST_F(ControlWidgets, aPanelAndItsButtonsAreReadableInHighContrast) {
@@ -173,21 +172,17 @@ TEST_F(ControlWidgets, aPanelPausesItsCountdownUnderThePointer) {
     EXPECT_EQ(countdown->log, "pause resume ");
 }
 
-TEST(NoteCard, standsWhereItIsPaintedAtEveryScale) {
-    for (const int scale : {1, 2}) {
-        QImage image(300 * scale, 240 * scale, QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(scale);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        paintNoteCard(painter, {50, 60, 200, 100}, scale);
-        paintNoteCard(painter, {}, scale);
-        painter.end();
-        const auto at = [&](int x, int y) { return image.pixelColor(x * scale, y * scale); };
-        EXPECT_GT(at(150, 70).blue(), 170) << "cream at the top";
-        EXPECT_EQ(at(150, 60 + 2), QColor(Qt::white)) << "7.5 points from the top";
-        EXPECT_NE(at(150, 60 + 8), QColor(Qt::white));
-        EXPECT_EQ(at(48, 110), QColor(Qt::white));
-    }
+// What a card looks like, the pictures of the gallery hold.
+TEST(NoteCard, standsWhereItIsPaintedAtItsScale) {
+    QImage image(600, 480, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(2);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    for (const QRectF& bounds : {QRectF(50, 60, 200, 100), QRectF()})
+        paintNoteCard(painter, bounds, 2);
+    EXPECT_NE(image.pixelColor(300, 136), QColor(Qt::white)) << "7.5 points from the top";
+    for (const QPoint& outside : {QPoint(300, 124), QPoint(96, 220)})
+        EXPECT_EQ(image.pixelColor(outside), QColor(Qt::white));
 }
 
 } // namespace

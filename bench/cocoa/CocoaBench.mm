@@ -1,0 +1,235 @@
+#import "MiniHost.h"
+
+#import "cocoa/support/Convert.h"
+#import "cocoa/support/Pool.h"
+
+#include "protocol/Messages.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+/// A pane that holds nothing: what a host pays for any.
+@interface ZVEmptyPane : NSPreferencePane
+@end
+
+@implementation ZVEmptyPane
+- (NSView*)loadMainView {
+    [self setMainView:[[[NSView alloc] initWithFrame:NSMakeRect(0, 0, 595, 500)] autorelease]];
+    [self mainViewDidLoad];
+    return [self mainView];
+}
+@end
+
+/// The Cocoa pane's figures, in a host in this process and over a notification server of its own.
+namespace zarvil::cocoa {
+
+namespace {
+
+using test::MiniHost;
+using test::PlayedAgent;
+using test::runUntil;
+using Clock = std::chrono::steady_clock;
+
+NSString* const bundlePath = @ZARVIL_PANE_BUNDLE;
+
+double millisecondsSince(Clock::time_point start) {
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+template <typename Work>
+double milliseconds(Work work) {
+    const auto start = Clock::now();
+    work();
+    return millisecondsSince(start);
+}
+
+double percentile(std::vector<double> values, double part) {
+    std::ranges::sort(values);
+    return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
+}
+
+void require(bool holds, const char* what) {
+    if (holds)
+        return;
+    std::printf("FAILED: %s\n", what);
+    std::fflush(stdout);
+    std::_Exit(EXIT_FAILURE);
+}
+
+double loadOnce(NSPreferencePane* (*make)()) {
+    const Pool pool;
+    return milliseconds([=] {
+        const auto pane = Ref<NSPreferencePane>::adopt(make());
+        const MiniHost host(pane.get());
+    });
+}
+
+void loading() {
+    std::vector<double> empty;
+    std::vector<double> full;
+    constexpr int rounds = 15;
+    for (int round = 0; round < rounds; ++round) {
+        empty.push_back(loadOnce([]() -> NSPreferencePane* {
+            return [[ZVEmptyPane alloc] initWithBundle:[NSBundle mainBundle]];
+        }));
+        full.push_back(loadOnce(
+            []() -> NSPreferencePane* { return [MiniHost::newPane(bundlePath).get() retain]; }));
+    }
+    std::printf("load, show and unselect   first %.1f ms, then median %.1f ms; an empty pane "
+                "%.1f ms; difference of medians %.1f ms\n",
+                full[0], percentile(full, 0.5), percentile(empty, 0.5),
+                percentile(full, 0.5) - percentile(empty, 0.5));
+}
+
+/// The pane in a window, with an agent that is up.
+struct Bench {
+    Bench() {
+        require(host.window(), "the main view loads");
+        require(agent.sendUntil(Message(message::pingAnswer),
+                                [this] { return [host.outlet("togglePowerButton") isEnabled]; }),
+                "the pane sees the agent");
+    }
+
+    void latency() {
+        std::vector<double> times;
+        constexpr int rounds = 500;
+        const auto box = host.outlet("launchAtLogin");
+        for (int round = 0; round < rounds; ++round) {
+            const bool on = round % 2 == 0;
+            const auto start = Clock::now();
+            agent.send(Message(message::savedPrefs, Dictionary{{"LaunchAtLogin", on}}));
+            require(runUntil([=] { return [box state] == (on ? NSOnState : NSOffState); }),
+                    "the box shows what the agent sent");
+            times.push_back(millisecondsSince(start));
+        }
+        std::printf("notification to widget    median %.2f ms, p99 %.2f ms (%d)\n",
+                    percentile(times, 0.5), percentile(times, 0.99), rounds);
+    }
+
+    void paced() {
+        constexpr int count = 10000;
+        constexpr int slice = 50;
+        const auto field = host.outlet<NSTextField>("shutdownDelayText");
+        int last = -1;
+        int shown = 0;
+        bool inOrder = true;
+        const auto look = [&] {
+            const int now = [[field stringValue] intValue];
+            inOrder = inOrder && now >= last;
+            shown += now != last;
+            last = now;
+        };
+        agent.send(Message(message::savedPrefs, Dictionary{{"ShutdownDelay", 0}}));
+        require(runUntil([=] { return [[field stringValue] intValue] == 0; }), "the first");
+        const auto start = Clock::now();
+        for (int number = 0; number < count; ++number) {
+            agent.send(Message(message::savedPrefs, Dictionary{{"ShutdownDelay", number + 1}}));
+            if (number % slice != slice - 1)
+                continue;
+            const auto due = start + std::chrono::microseconds(250 * (number + 1));
+            (void)runUntil([&] {
+                look();
+                return Clock::now() >= due && last == number + 1;
+            });
+        }
+        std::printf("10,000 paced notifications  %s, last shown %d, %d different values seen, "
+                    "%.0f ms (2,500 ms is the pace)\n",
+                    inOrder ? "in order" : "NOT IN ORDER", last, shown, millisecondsSince(start));
+    }
+
+    static Dictionary device(int number) {
+        return {{"DeviceName", "Device " + std::to_string(number)},
+                {"DeviceVendor", "Vendor"},
+                {"DeviceSerial", std::to_string(number)}};
+    }
+
+    NSView* list() const { return host.outlet<NSView>("connectedDevices"); }
+
+    /// Views are there for the rows in sight alone, the list's height for all of them.
+    int rows() const {
+        NSArray* shown = [list() subviews];
+        const CGFloat row = [shown count] == 0 ? 0 : [[shown objectAtIndex:0] frame].size.height;
+        return row > 0 ? static_cast<int>([list() frame].size.height / row) : 0;
+    }
+
+    void listed(int count) {
+        Array devices;
+        for (int number = 0; number < count; ++number)
+            devices.emplace_back(device(number));
+        host.show(list());
+        agent.send(Message(message::allDevices, Dictionary{{"devices", Array{}}}));
+        require(runUntil([this] { return !tickIn(list()); }), "the list is empty");
+        const Message connected(message::allConnectedDevices, Dictionary{{"devices", devices}});
+        const auto start = Clock::now();
+        agent.send(connected);
+        require(runUntil([&] { return rows() == count; }, 300), "all are listed");
+        [host.window() display];
+        std::printf("%6d devices            %.0f ms from the message to the drawn list\n", count,
+                    millisecondsSince(start));
+    }
+
+    static NSButton* tickIn(NSView* view) {
+        if ([view isKindOfClass:[NSButton class]] && [(NSButton*)view action] &&
+            [NSStringFromSelector([(NSButton*)view action]) isEqualToString:@"toggleSelectDevice:"])
+            return (NSButton*)view;
+        for (NSUInteger index = 0; index < [[view subviews] count]; ++index) {
+            if (NSButton* found = tickIn([[view subviews] objectAtIndex:index]))
+                return found;
+        }
+        return nil;
+    }
+
+    void tick() {
+        NSButton* box = tickIn(list());
+        if (!box) {
+            std::printf("tick among them           no box of a device was found\n");
+            return;
+        }
+        agent.heard.clear();
+        const auto start = Clock::now();
+        [box performClick:nil];
+        const double clicked = millisecondsSince(start);
+        [host.window() displayIfNeeded];
+        const double drawn = millisecondsSince(start);
+        require(runUntil([this] { return !agent.heard.empty(); }), "the tick is sent");
+        std::printf("tick among them           %.1f ms, drawn after %.1f ms\n", clicked, drawn);
+    }
+
+    void redraw() {
+        NSButton* button = host.outlet("togglePowerButton");
+        constexpr int rounds = 200;
+        std::vector<double> times;
+        for (int round = 0; round < rounds; ++round)
+            times.push_back(milliseconds([=] { [button display]; }));
+        std::printf("switch redraw             median %.3f ms, p99 %.3f ms\n",
+                    percentile(times, 0.5), percentile(times, 0.99));
+    }
+
+    PlayedAgent agent;
+    Ref<NSPreferencePane> pane = MiniHost::newPane(bundlePath);
+    MiniHost host{pane.get()};
+};
+
+} // namespace
+
+} // namespace zarvil::cocoa
+
+/// To be run under `tools/with-private-session tools/with-gnustep`.
+int main() {
+    const zarvil::cocoa::Pool pool;
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    [NSApplication sharedApplication];
+    zarvil::cocoa::loading();
+    zarvil::cocoa::Bench bench;
+    bench.redraw();
+    bench.latency();
+    bench.paced();
+    for (const int count : {1000, 10000})
+        bench.listed(count);
+    bench.tick();
+    std::_Exit(EXIT_SUCCESS);
+}
