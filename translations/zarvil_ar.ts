@@ -978,6 +978,14 @@
         <source>End editing without saving. Esc leads here.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

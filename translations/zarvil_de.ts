@@ -966,6 +966,14 @@
         <source>End editing without saving. Esc leads here.</source>
         <translation>Beendet das Bearbeiten, ohne zu speichern. Auch mit Esc.</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Angeschlossen: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Getrennt: %1</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -966,6 +966,14 @@
         <source>End editing without saving. Esc leads here.</source>
         <translation>Termina la edición sin guardar. Esc hace lo mismo.</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Conectado: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Desconectado: %1</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -144,7 +144,7 @@
     </message>
     <message>
         <source>What is Pushover?</source>
-        <translation>Qu’est-ce que Pushover ?</translation>
+        <translation>Qu’est-ce que Pushover&#xa0;?</translation>
     </message>
     <message>
         <source>Opens the Pushover web site</source>
@@ -180,7 +180,7 @@
     </message>
     <message>
         <source>Name of one of your devices; leave it empty for all. Press Return to store it.</source>
-        <translation>Nom de l’un de vos appareils ; laissez vide pour tous. Appuyez sur Entrée pour l’enregistrer.</translation>
+        <translation>Nom de l’un de vos appareils&#xa0;; laissez vide pour tous. Appuyez sur Entrée pour l’enregistrer.</translation>
     </message>
     <message>
         <source>All devices</source>
@@ -211,39 +211,39 @@
     <name>Bundle</name>
     <message>
         <source>&quot;%1&quot; is not a preference pane: its Contents/Info.json cannot be read.</source>
-        <translation>« %1 » n’est pas un panneau de préférences : son fichier Contents/Info.json est illisible.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un panneau de préférences&#xa0;: son fichier Contents/Info.json est illisible.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: Contents/Info.json is not valid JSON at byte %2 (%3).</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : Contents/Info.json n’est pas du JSON valide à l’octet %2 (%3).</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: Contents/Info.json n’est pas du JSON valide à l’octet %2 (%3).</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: Contents/Info.json does not hold an object.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : Contents/Info.json ne contient pas d’objet.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: Contents/Info.json ne contient pas d’objet.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: the text &quot;%2&quot; is missing in Contents/Info.json.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : le texte « %2 » manque dans Contents/Info.json.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: le texte «&#xa0;%2&#xa0;» manque dans Contents/Info.json.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; does not exist.</source>
-        <translation>Le panneau de préférences « %1 » n’existe pas.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: its library &quot;%2&quot; is missing.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : sa bibliothèque « %2 » est absente.</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: sa bibliothèque «&#xa0;%2&#xa0;» est absente.</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; was made for another program: its library offers &quot;%2&quot; instead of &quot;%3&quot;.</source>
-        <translation>Le panneau de préférences « %1 » est destiné à un autre programme : sa bibliothèque offre « %2 » au lieu de « %3 ».</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est destiné à un autre programme&#xa0;: sa bibliothèque offre «&#xa0;%2&#xa0;» au lieu de «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>The library of the preference pane &quot;%1&quot; cannot be loaded: %2</source>
-        <translation>La bibliothèque du panneau de préférences « %1 » ne peut pas être chargée : %2</translation>
+        <translation>La bibliothèque du panneau de préférences «&#xa0;%1&#xa0;» ne peut pas être chargée&#xa0;: %2</translation>
     </message>
     <message>
         <source>The preference pane &quot;%1&quot; is broken: its library offers the class &quot;%2&quot; instead of &quot;%3&quot;.</source>
-        <translation>Le panneau de préférences « %1 » est endommagé : sa bibliothèque offre la classe « %2 » au lieu de « %3 ».</translation>
+        <translation>Le panneau de préférences «&#xa0;%1&#xa0;» est endommagé&#xa0;: sa bibliothèque offre la classe «&#xa0;%2&#xa0;» au lieu de «&#xa0;%3&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>Ends applications that do not quit by themselves; unsaved changes in them are lost</source>
-        <translation>Ferme les applications qui ne quittent pas d’elles-mêmes ; leurs modifications non enregistrées sont perdues</translation>
+        <translation>Ferme les applications qui ne quittent pas d’elles-mêmes&#xa0;; leurs modifications non enregistrées sont perdues</translation>
     </message>
     <message>
         <source>Unsaved changes in them are lost.</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>Shown as the agent has it; it is set in the shutdown message itself.</source>
-        <translation>Affiché tel que l’agent l’a enregistré ; se règle dans le message d’arrêt lui-même.</translation>
+        <translation>Affiché tel que l’agent l’a enregistré&#xa0;; se règle dans le message d’arrêt lui-même.</translation>
     </message>
     <message>
         <source>Set in the message itself. The countdown goes on when it is hidden.</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>There is no preference pane in &quot;%1&quot; and none in &quot;%2&quot;.</source>
-        <translation>Il n’y a aucun panneau de préférences dans « %1 » ni dans « %2 ».</translation>
+        <translation>Il n’y a aucun panneau de préférences dans «&#xa0;%1&#xa0;» ni dans «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>The preferences are open already, but their window does not answer.</source>
@@ -438,19 +438,19 @@
     </message>
     <message>
         <source>Administrator rights: checking</source>
-        <translation>Droits d’administrateur : vérification</translation>
+        <translation>Droits d’administrateur&#xa0;: vérification</translation>
     </message>
     <message>
         <source>Administrator rights: locked</source>
-        <translation>Droits d’administrateur : verrouillés</translation>
+        <translation>Droits d’administrateur&#xa0;: verrouillés</translation>
     </message>
     <message>
         <source>Administrator rights: unlocked</source>
-        <translation>Droits d’administrateur : déverrouillés</translation>
+        <translation>Droits d’administrateur&#xa0;: déverrouillés</translation>
     </message>
     <message>
         <source>Can&apos;t execute empty script!</source>
-        <translation>Impossible d’exécuter un script vide !</translation>
+        <translation>Impossible d’exécuter un script vide&#xa0;!</translation>
     </message>
     <message>
         <source>Cannot be changed while the warning hides itself.</source>
@@ -462,7 +462,7 @@
     </message>
     <message>
         <source>Connection timeout! Check your Internet connection!</source>
-        <translation>Délai de connexion dépassé ! Vérifiez votre connexion Internet !</translation>
+        <translation>Délai de connexion dépassé&#xa0;! Vérifiez votre connexion Internet&#xa0;!</translation>
     </message>
     <message>
         <source>Delete this script and its file at once. This cannot be undone.</source>
@@ -482,19 +482,19 @@
     </message>
     <message>
         <source>Edit “%1”</source>
-        <translation>Modifier « %1 »</translation>
+        <translation>Modifier «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Editing. Done saves the title and the text.</source>
-        <translation>Modification en cours. « Terminé » enregistre le titre et le texte.</translation>
+        <translation>Modification en cours. «&#xa0;Terminé&#xa0;» enregistre le titre et le texte.</translation>
     </message>
     <message>
         <source>Failed with exit status %1: %2</source>
-        <translation>Échec avec le code de sortie %1 : %2</translation>
+        <translation>Échec avec le code de sortie %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Invalid settings! Check your User ID and Device ID(if any)</source>
-        <translation>Réglages non valides ! Vérifiez l’ID utilisateur et l’ID de l’appareil (s’il y en a un)</translation>
+        <translation>Réglages non valides&#xa0;! Vérifiez l’ID utilisateur et l’ID de l’appareil (s’il y en a un)</translation>
     </message>
     <message>
         <source>Launch it to see your devices and change the settings.</source>
@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>No device is watched, so a power failure goes unnoticed.</source>
-        <translation>Aucun appareil n’est surveillé : une coupure passerait inaperçue.</translation>
+        <translation>Aucun appareil n’est surveillé&#xa0;: une coupure passerait inaperçue.</translation>
     </message>
     <message>
         <source>No device watched</source>
@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Remove “%1”</source>
-        <translation>Supprimer « %1 »</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Run</source>
@@ -586,7 +586,7 @@
     </message>
     <message>
         <source>Run “%1”</source>
-        <translation>Exécuter « %1 »</translation>
+        <translation>Exécuter «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Running…</source>
@@ -598,11 +598,11 @@
     </message>
     <message>
         <source>Save “%1”</source>
-        <translation>Enregistrer « %1 »</translation>
+        <translation>Enregistrer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Script “%1”</source>
-        <translation>Script « %1 »</translation>
+        <translation>Script «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Scripts are off</source>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>Settings are valid!</source>
-        <translation>Les réglages sont valides !</translation>
+        <translation>Les réglages sont valides&#xa0;!</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>The session bus does not answer, so Zarvil cannot be reached.</source>
-        <translation>Le bus de session ne répond pas : Zarvil est injoignable.</translation>
+        <translation>Le bus de session ne répond pas&#xa0;: Zarvil est injoignable.</translation>
     </message>
     <message>
         <source>The test has ended. Nothing was shut down.</source>
@@ -658,7 +658,7 @@
     </message>
     <message>
         <source>This script is too large to be edited here (%1). Its text stays as it is; its title can be changed.</source>
-        <translation>Ce script est trop grand pour être modifié ici (%1). Son texte reste tel quel ; son titre peut être modifié.</translation>
+        <translation>Ce script est trop grand pour être modifié ici (%1). Son texte reste tel quel&#xa0;; son titre peut être modifié.</translation>
     </message>
     <message>
         <source>This system has no authority that could unlock it.</source>
@@ -678,7 +678,7 @@
     </message>
     <message>
         <source>Unknow error!</source>
-        <translation>Erreur inconnue !</translation>
+        <translation>Erreur inconnue&#xa0;!</translation>
     </message>
     <message>
         <source>Unlocked</source>
@@ -732,7 +732,7 @@
     </message>
     <message>
         <source>The script “%1” is running.</source>
-        <translation>Le script « %1 » est en cours d’exécution.</translation>
+        <translation>Le script «&#xa0;%1&#xa0;» est en cours d’exécution.</translation>
     </message>
     <message>
         <source>Administrator rights</source>
@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>An alert reaches you only if your router and modem still have power, so connect them to the power supply too.</source>
-        <translation>Une alerte ne vous parvient que si votre routeur et votre modem sont encore alimentés : branchez-les aussi sur l’alimentation de secours.</translation>
+        <translation>Une alerte ne vous parvient que si votre routeur et votre modem sont encore alimentés&#xa0;: branchez-les aussi sur l’alimentation de secours.</translation>
     </message>
     <message>
         <source>Applications that ask whether to save can hold a shutdown up until the battery is empty. By force they are ended without asking, and what was not saved is lost.</source>
@@ -764,7 +764,7 @@
     </message>
     <message>
         <source>Connect a power supply with its data cable. It appears under Connected. Tick it, and it moves to Watched. Untick it, and Zarvil no longer watches it.</source>
-        <translation>Branchez une alimentation avec son câble de données. Elle apparaît sous « Connectés ». Cochez-la : elle passe sous « Surveillés ». Décochez-la : Zarvil ne la surveille plus.</translation>
+        <translation>Branchez une alimentation avec son câble de données. Elle apparaît sous «&#xa0;Connectés&#xa0;». Cochez-la&#xa0;: elle passe sous «&#xa0;Surveillés&#xa0;». Décochez-la&#xa0;: Zarvil ne la surveille plus.</translation>
     </message>
     <message>
         <source>Devices are listed while Zarvil runs. Launch it with the button above the tabs. A power supply without a data cable cannot be watched.</source>
@@ -784,23 +784,23 @@
     </message>
     <message>
         <source>Help: About</source>
-        <translation>Aide : À propos</translation>
+        <translation>Aide&#xa0;: À propos</translation>
     </message>
     <message>
         <source>Help: Alerts</source>
-        <translation>Aide : Alertes</translation>
+        <translation>Aide&#xa0;: Alertes</translation>
     </message>
     <message>
         <source>Help: Devices</source>
-        <translation>Aide : Appareils</translation>
+        <translation>Aide&#xa0;: Appareils</translation>
     </message>
     <message>
         <source>Help: General</source>
-        <translation>Aide : Général</translation>
+        <translation>Aide&#xa0;: Général</translation>
     </message>
     <message>
         <source>Help: Scripts</source>
-        <translation>Aide : Scripts</translation>
+        <translation>Aide&#xa0;: Scripts</translation>
     </message>
     <message>
         <source>If no device appears</source>
@@ -820,7 +820,7 @@
     </message>
     <message>
         <source>Pushover is a service that brings messages to your phone. You need an account there; its user ID goes into the first field. With a device ID only that device gets the message, otherwise all of yours.</source>
-        <translation>Pushover est un service qui transmet des messages à votre téléphone. Il vous faut y avoir un compte ; son ID utilisateur va dans le premier champ. Avec un ID d’appareil, seul celui-ci reçoit le message ; sinon, tous les vôtres.</translation>
+        <translation>Pushover est un service qui transmet des messages à votre téléphone. Il vous faut y avoir un compte&#xa0;; son ID utilisateur va dans le premier champ. Avec un ID d’appareil, seul celui-ci reçoit le message&#xa0;; sinon, tous les vôtres.</translation>
     </message>
     <message>
         <source>Quitting applications by force</source>
@@ -832,11 +832,11 @@
     </message>
     <message>
         <source>Run starts the script at once, without a power failure, and does all that it says. If it fails, its exit status and its last error are shown.</source>
-        <translation>« Exécuter » lance le script aussitôt, sans coupure de courant, et fait tout ce qu’il contient. S’il échoue, son code de sortie et sa dernière erreur sont affichés.</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» lance le script aussitôt, sans coupure de courant, et fait tout ce qu’il contient. S’il échoue, son code de sortie et sa dernière erreur sont affichés.</translation>
     </message>
     <message>
         <source>Send a Test sends a message at once and tells you whether it went out. IDs that Pushover does not know are cleared and have to be typed again.</source>
-        <translation>« Envoyer un test » envoie aussitôt un message et vous indique s’il est parti. Les ID que Pushover ne connaît pas sont effacés et doivent être saisis de nouveau.</translation>
+        <translation>«&#xa0;Envoyer un test&#xa0;» envoie aussitôt un message et vous indique s’il est parti. Les ID que Pushover ne connaît pas sont effacés et doivent être saisis de nouveau.</translation>
     </message>
     <message>
         <source>Shows the delay in minutes or in seconds. The delay itself stays the same.</source>
@@ -880,7 +880,7 @@
     </message>
     <message>
         <source>The time between the power failure and the shutdown. Numbers of 0 or more are stored with Return; anything else leaves the last value as it is.</source>
-        <translation>Le temps entre la coupure de courant et l’arrêt. Les nombres supérieurs ou égaux à 0 sont enregistrés par la touche Entrée ; toute autre saisie laisse la dernière valeur inchangée.</translation>
+        <translation>Le temps entre la coupure de courant et l’arrêt. Les nombres supérieurs ou égaux à 0 sont enregistrés par la touche Entrée&#xa0;; toute autre saisie laisse la dernière valeur inchangée.</translation>
     </message>
     <message>
         <source>The title of a new script. It becomes the name of the script&apos;s file, so that no two scripts can have the same one.</source>
@@ -900,7 +900,7 @@
     </message>
     <message>
         <source>Type a title, press Create, then Edit. A text that begins with #! is run by the program named in that line, any other by the shell. Done saves it.</source>
-        <translation>Saisissez un titre, appuyez sur « Créer », puis sur « Modifier ». Un texte qui commence par #! est exécuté par le programme nommé sur cette ligne, tout autre par le shell. « Terminé » l’enregistre.</translation>
+        <translation>Saisissez un titre, appuyez sur «&#xa0;Créer&#xa0;», puis sur «&#xa0;Modifier&#xa0;». Un texte qui commence par #! est exécuté par le programme nommé sur cette ligne, tout autre par le shell. «&#xa0;Terminé&#xa0;» l’enregistre.</translation>
     </message>
     <message>
         <source>Uninstalling Zarvil</source>
@@ -944,15 +944,15 @@
     </message>
     <message>
         <source>Zarvil runs them when the power fails, before it shuts the computer down: to save your work, for example, or to stop a server in order.</source>
-        <translation>Zarvil les exécute en cas de coupure de courant, avant d’éteindre l’ordinateur : par exemple pour enregistrer votre travail ou arrêter proprement un serveur.</translation>
+        <translation>Zarvil les exécute en cas de coupure de courant, avant d’éteindre l’ordinateur&#xa0;: par exemple pour enregistrer votre travail ou arrêter proprement un serveur.</translation>
     </message>
     <message>
         <source>Zarvil sends a message to the address when the power fails. Type the whole address and press Return; an incomplete one is not stored.</source>
-        <translation>Zarvil envoie un message à cette adresse en cas de coupure de courant. Saisissez l’adresse entière et appuyez sur Entrée ; une adresse incomplète n’est pas enregistrée.</translation>
+        <translation>Zarvil envoie un message à cette adresse en cas de coupure de courant. Saisissez l’adresse entière et appuyez sur Entrée&#xa0;; une adresse incomplète n’est pas enregistrée.</translation>
     </message>
     <message>
         <source>Zarvil writes down what it does and when: power failures, shutdowns and alerts. Look there first if something went otherwise than you expected.</source>
-        <translation>Zarvil note ce qu’il fait et quand : coupures, arrêts et alertes. Consultez-le d’abord si quelque chose ne s’est pas passé comme prévu.</translation>
+        <translation>Zarvil note ce qu’il fait et quand&#xa0;: coupures, arrêts et alertes. Consultez-le d’abord si quelque chose ne s’est pas passé comme prévu.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -960,11 +960,19 @@
     </message>
     <message>
         <source>Cancel editing “%1”</source>
-        <translation>Annuler la modification de « %1 »</translation>
+        <translation>Annuler la modification de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>End editing without saving. Esc leads here.</source>
         <translation>Termine la modification sans enregistrer. Échap fait de même.</translation>
+    </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Connecté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Déconnecté&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1062,7 +1070,7 @@
     <name>PolkitAuthorization</name>
     <message>
         <source>Administrator rights cannot be checked: the authorization service (polkit) is not available.</source>
-        <translation>Les droits d’administrateur ne peuvent pas être vérifiés : le service d’autorisation (polkit) n’est pas disponible.</translation>
+        <translation>Les droits d’administrateur ne peuvent pas être vérifiés&#xa0;: le service d’autorisation (polkit) n’est pas disponible.</translation>
     </message>
     <message>
         <source>The authentication was cancelled.</source>
@@ -1070,11 +1078,11 @@
     </message>
     <message>
         <source>Administrator rights cannot be checked: Zarvil&apos;s policy for the authorization service (polkit) is not installed.</source>
-        <translation>Les droits d’administrateur ne peuvent pas être vérifiés : la règle de Zarvil pour le service d’autorisation (polkit) n’est pas installée.</translation>
+        <translation>Les droits d’administrateur ne peuvent pas être vérifiés&#xa0;: la règle de Zarvil pour le service d’autorisation (polkit) n’est pas installée.</translation>
     </message>
     <message>
         <source>Administrator rights cannot be checked: the authorization service (polkit) has failed.</source>
-        <translation>Les droits d’administrateur ne peuvent pas être vérifiés : le service d’autorisation (polkit) a échoué.</translation>
+        <translation>Les droits d’administrateur ne peuvent pas être vérifiés&#xa0;: le service d’autorisation (polkit) a échoué.</translation>
     </message>
     <message>
         <source>No authentication agent is running that could ask for an administrator&apos;s password.</source>
@@ -1128,7 +1136,7 @@
     </message>
     <message>
         <source>Title of the new script; it is also the name of its file</source>
-        <translation>Titre du nouveau script ; c’est aussi le nom de son fichier</translation>
+        <translation>Titre du nouveau script&#xa0;; c’est aussi le nom de son fichier</translation>
     </message>
     <message>
         <source>&amp;Create</source>
@@ -1151,11 +1159,11 @@
     </message>
     <message>
         <source>Uninstall Zarvil?</source>
-        <translation>Désinstaller Zarvil ?</translation>
+        <translation>Désinstaller Zarvil&#xa0;?</translation>
     </message>
     <message>
         <source>Zarvil quits, and these are removed:</source>
-        <translation>Zarvil se ferme, et ces éléments sont supprimés :</translation>
+        <translation>Zarvil se ferme, et ces éléments sont supprimés&#xa0;:</translation>
     </message>
     <message>
         <source>•  the Zarvil application
@@ -1212,7 +1220,7 @@
     </message>
     <message>
         <source>What Is &amp;This?</source>
-        <translation>&amp;Qu’est-ce que c’est ?</translation>
+        <translation>&amp;Qu’est-ce que c’est&#xa0;?</translation>
     </message>
     <message>
         <source>Explains the control of the window that you click next</source>
