@@ -63,8 +63,7 @@ void MessageButtonWidget::paintEvent(QPaintEvent* event) {
     }
     cell_.setHighlighted(isDown());
     cell_.setTitle(withoutMnemonic(text()).toStdString());
-    cell_.setFontSize(
-        std::max<double>(TextStyle::defaultFontSize, QFontInfo(font()).pixelSize()));
+    cell_.setFontSize(std::max<double>(TextStyle::defaultFontSize, QFontInfo(font()).pixelSize()));
     QPainter painter(this);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
