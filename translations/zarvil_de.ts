@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>&amp;Quit applications by force</source>
-        <translation>Anwendungen &amp;zwangsweise beenden</translation>
+        <translation>Anwend&amp;ungen zwangsweise beenden</translation>
     </message>
     <message>
         <source>Ends applications that do not quit by themselves; unsaved changes in them are lost</source>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Check for updates auto&amp;matically</source>
-        <translation>Buscar actuali&amp;zaciones automáticamente</translation>
+        <translation>Buscar actua&amp;lizaciones automáticamente</translation>
     </message>
     <message>
         <source>The agent looks for new versions by itself</source>
