@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>Un&amp;install…</source>
-        <translation>&amp;إزالة التثبيت…</translation>
+        <translation>إزالة التثبيت…</translation>
     </message>
     <message>
         <source>Asks before anything is removed</source>
@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>&amp;Connected</source>
-        <translation>&amp;متصلة</translation>
+        <translation>متصلة</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>&amp;Watched</source>
-        <translation>&amp;قيد المراقبة</translation>
+        <translation>قيد المراقبة</translation>
     </message>
     <message>
         <source>Watched</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Shut down a&amp;fter</source>
-        <translation>أوقف التشغيل &amp;بعد</translation>
+        <translation>أوقف التشغيل بعد</translation>
     </message>
     <message>
         <source>How long to wait after a power failure before shutting down. Press Return to store it.</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>&amp;Quit applications by force</source>
-        <translation>أنهِ التطبيقات &amp;قسرًا</translation>
+        <translation>أنهِ التطبيقات قسرًا</translation>
     </message>
     <message>
         <source>Ends applications that do not quit by themselves; unsaved changes in them are lost</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>&amp;Test Shutdown</source>
-        <translation>&amp;جرّب الإيقاف</translation>
+        <translation>جرّب الإيقاف</translation>
     </message>
     <message>
         <source>Plays the shutdown sequence without shutting down</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>&amp;Warn me before shutting down</source>
-        <translation>&amp;نبّهني قبل إيقاف التشغيل</translation>
+        <translation>نبّهني قبل إيقاف التشغيل</translation>
     </message>
     <message>
         <source>Shows a message with a countdown when the power has failed</source>
@@ -978,6 +978,14 @@
         <source>End editing without saving. Esc leads here.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -1035,23 +1043,23 @@
     </message>
     <message>
         <source>&amp;Devices</source>
-        <translation>&amp;أجهزة</translation>
+        <translation>أجهزة</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation>&amp;عام</translation>
+        <translation>عام</translation>
     </message>
     <message>
         <source>&amp;Alerts</source>
-        <translation>&amp;تنبيهات</translation>
+        <translation>تنبيهات</translation>
     </message>
     <message>
         <source>&amp;Scripts</source>
-        <translation>&amp;سكربتات</translation>
+        <translation>سكربتات</translation>
     </message>
     <message>
         <source>A&amp;bout</source>
-        <translation>&amp;حول</translation>
+        <translation>حول</translation>
     </message>
     <message>
         <source>Administrator rights</source>
@@ -1144,7 +1152,7 @@
     </message>
     <message>
         <source>&amp;Create</source>
-        <translation>&amp;إنشاء</translation>
+        <translation>إنشاء</translation>
     </message>
     <message>
         <source>Creates an empty script of this title</source>

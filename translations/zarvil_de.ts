@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>&amp;Quit applications by force</source>
-        <translation>Anwendungen &amp;zwangsweise beenden</translation>
+        <translation>Anwend&amp;ungen zwangsweise beenden</translation>
     </message>
     <message>
         <source>Ends applications that do not quit by themselves; unsaved changes in them are lost</source>
@@ -965,6 +965,14 @@
     <message>
         <source>End editing without saving. Esc leads here.</source>
         <translation>Beendet das Bearbeiten, ohne zu speichern. Auch mit Esc.</translation>
+    </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Angeschlossen: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Getrennt: %1</translation>
     </message>
 </context>
 <context>

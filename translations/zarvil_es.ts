@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Check for updates auto&amp;matically</source>
-        <translation>Buscar actuali&amp;zaciones automáticamente</translation>
+        <translation>Buscar actua&amp;lizaciones automáticamente</translation>
     </message>
     <message>
         <source>The agent looks for new versions by itself</source>
@@ -965,6 +965,14 @@
     <message>
         <source>End editing without saving. Esc leads here.</source>
         <translation>Termina la edición sin guardar. Esc hace lo mismo.</translation>
+    </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Conectado: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Desconectado: %1</translation>
     </message>
 </context>
 <context>

@@ -960,11 +960,19 @@
     </message>
     <message>
         <source>Cancel editing “%1”</source>
-        <translation>Annuler la modification de « %1 »</translation>
+        <translation>Annuler la modification de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>End editing without saving. Esc leads here.</source>
         <translation>Termine la modification sans enregistrer. Échap fait de même.</translation>
+    </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Connecté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Déconnecté&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -969,6 +969,14 @@
         <source>End editing without saving. Esc leads here.</source>
         <translation>Завершує редагування без збереження. Те саме робить Esc.</translation>
     </message>
+    <message>
+        <source>Connected: %1</source>
+        <translation>Під’єднано: %1</translation>
+    </message>
+    <message>
+        <source>Disconnected: %1</source>
+        <translation>Від’єднано: %1</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
