@@ -1065,6 +1065,11 @@
         <source>Explains this tab (F1)</source>
         <translation>Erklärt diese Seite (F1)</translation>
     </message>
+    <message>
+        <source>o</source>
+        <comment>The letter of the title “Protection is on” or “off” that is its access key; - for none</comment>
+        <translation>c</translation>
+    </message>
 </context>
 <context>
     <name>PolkitAuthorization</name>

@@ -1068,6 +1068,11 @@
         <source>Explains this tab (F1)</source>
         <translation>Пояснює цю вкладку (F1)</translation>
     </message>
+    <message>
+        <source>o</source>
+        <comment>The letter of the title “Protection is on” or “off” that is its access key; - for none</comment>
+        <translation>-</translation>
+    </message>
 </context>
 <context>
     <name>PolkitAuthorization</name>
