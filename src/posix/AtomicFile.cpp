@@ -16,8 +16,8 @@ constexpr const char* temporary = AtomicFile::temporaryName.data();
 /// Some file systems cannot bring a file to the disk on demand; its content stands anyway.
 bool synchronize(int descriptor) {
     return ::fsync(descriptor) == 0 ||
-           std::ranges::count(std::initializer_list{EINVAL, ENOSYS, ENOTSUP, EOPNOTSUPP}, errno) >
-               0;
+           std::ranges::count(std::initializer_list<int>{EINVAL, ENOSYS, ENOTSUP, EOPNOTSUPP},
+                              errno) > 0;
 }
 
 } // namespace

@@ -229,9 +229,10 @@ std::vector<ScriptCard::Placed> ScriptCard::placedButtons(int width) const {
     int right = width - sidePadding;
     if (isEditing())
         std::rotate(placed.begin(), placed.end() - 1, placed.end());
-    for (auto& [button, place] : std::views::reverse(placed)) {
-        place.moveRight(right - 1);
-        right = place.left() - buttonGap;
+    // clang 14 does not know the library's reversed view of this type.
+    for (auto each = placed.rbegin(); each != placed.rend(); ++each) {
+        each->place.moveRight(right - 1);
+        right = each->place.left() - buttonGap;
     }
     return placed;
 }
