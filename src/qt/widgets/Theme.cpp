@@ -2,6 +2,7 @@
 
 #include "qt/widgets/Contrast.h"
 
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 
@@ -95,6 +96,19 @@ QColor fieldOutline(const QPalette& palette) {
         return {};
     constexpr double share = 0.45;
     return mixed(cardGround(palette), active(palette, QPalette::WindowText), share);
+}
+
+void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& place) {
+    const QColor outline = fieldOutline(palette);
+    if (!outline.isValid())
+        return;
+    constexpr double radius = 3;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(outline);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(place).adjusted(-0.5, -0.5, 0.5, 0.5), radius, radius);
+    painter.restore();
 }
 
 QPalette disabledTextFor(const QPalette& palette) {

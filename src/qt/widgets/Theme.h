@@ -5,7 +5,9 @@
 #include <QPalette>
 #include <QSize>
 
+class QPainter;
 class QPushButton;
+class QRect;
 class QWidget;
 
 /// Measures and colors that the pages share. All follow the application's font and palette, so
@@ -13,6 +15,10 @@ class QWidget;
 namespace zarvil::qt::theme {
 
 // Measures, in device-independent pixels.
+/// Between the lines of a row.
+constexpr int textGap = 2;
+/// The fewest characters, in average ones, that a text has beside its controls.
+constexpr int fewestCharacters = 16;
 /// The step of all spacing around text: a little less than half a line.
 [[nodiscard]] int unit(const QWidget& widget);
 [[nodiscard]] int lineHeight(const QWidget& widget);
@@ -40,6 +46,8 @@ inline constexpr int sideMargin = 20;
 /// What an edit field or a box is framed with on a card, where the styles' own frame, which is
 /// darker than the window, would not be seen; invalid elsewhere.
 [[nodiscard]] QColor fieldOutline(const QPalette& palette);
+/// Frames a field or a box that stands in `place`, where it needs one.
+void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& place);
 /// What a palette lacks for its disabled text to be told from every ground that it stands on.
 [[nodiscard]] QPalette disabledTextFor(const QPalette& palette);
 [[nodiscard]] QColor bannerGround(const QPalette& palette);

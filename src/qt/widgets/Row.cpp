@@ -1,0 +1,416 @@
+#include "qt/widgets/Form.h"
+
+#include "qt/widgets/TextLabel.h"
+#include "qt/widgets/Theme.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace zarvil::qt {
+
+namespace {
+
+constexpr int sectionAbove = 22;
+constexpr int sectionBelow = 8;
+constexpr int pictureGap = 14;
+constexpr int bannerPictureShift = 6;
+
+/// Whether the child takes room: it is shown, or its room is kept.
+bool takesRoom(const QWidget& child) {
+    return !child.isWindow() && (!child.isHidden() || child.sizePolicy().retainSizeWhenHidden());
+}
+
+template <typename Callback>
+void forEachChild(const QWidget& parent, Callback&& callback) {
+    for (QObject* object : parent.children())
+        if (auto* child = qobject_cast<QWidget*>(object); child && takesRoom(*child))
+            callback(child);
+}
+
+/// What a child would like, by the rules that hold on all pages.
+QSize wishOf(const QWidget& child) {
+    if (const auto* button = qobject_cast<const QPushButton*>(&child))
+        return theme::buttonSize(*button);
+    QSize wish = child.sizeHint().expandedTo(child.minimumSizeHint());
+    if (const int digits = child.property("digits").toInt(); digits > 0)
+        wish.setWidth(child.minimumSizeHint().width() +
+                      digits * child.fontMetrics().horizontalAdvance(u'0'));
+    return wish.expandedTo(child.minimumSize()).boundedTo(child.maximumSize());
+}
+
+int heightOf(const QWidget& child, int width) {
+    return child.hasHeightForWidth() ? child.heightForWidth(width) : wishOf(child).height();
+}
+
+} // namespace
+
+// Arranger
+
+class Arranger::Layout final : public QLayout {
+public:
+    explicit Layout(Arranger& arranger) : QLayout(&arranger), arranger_(arranger) {
+        setContentsMargins(0, 0, 0, 0);
+        // The widget says itself how small it may become.
+        setSizeConstraint(QLayout::SetNoConstraint);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return arranger_.sizeHint(); }
+    [[nodiscard]] QSize minimumSize() const override { return arranger_.minimumSizeHint(); }
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override {
+        return arranger_.heightForWidth(width);
+    }
+    void setGeometry(const QRect& place) override {
+        QLayout::setGeometry(place);
+        arranger_.arrangeChildren();
+    }
+
+    // It holds no items: the children are the arranger's own affair.
+    void addItem(QLayoutItem* item) override { delete item; }
+    [[nodiscard]] int count() const override { return 0; }
+    [[nodiscard]] QLayoutItem* itemAt(int /*index*/) const override { return nullptr; }
+    QLayoutItem* takeAt(int /*index*/) override { return nullptr; }
+
+private:
+    Arranger& arranger_;
+};
+
+Arranger::Arranger(QWidget* parent) : QWidget(parent) {
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    new Layout(*this);
+}
+
+// Row
+
+Row::Row(QWidget* parent) : Arranger(parent) {}
+
+void Row::setKind(Kind kind) {
+    kind_ = kind;
+    layout()->invalidate();
+}
+
+void Row::setStartWidth(int width) {
+    startWidth_ = width;
+    layout()->invalidate();
+}
+
+void Row::setFollows(const QString& name) { follows_ = name; }
+
+Row::Parts Row::parts() const {
+    Parts found;
+    forEachChild(*this, [&found](QWidget* child) {
+        const QString place = child->property("place").toString();
+        auto& group = place == QLatin1String("start")   ? found.start
+                      : place == QLatin1String("label") ? found.label
+                      : place == QLatin1String("end")   ? found.end
+                                                        : found.text;
+        group.push_back(child);
+    });
+    return found;
+}
+
+QMargins Row::padding() const {
+    const int step = theme::unit(*this);
+    const int side = step * 7 / 4;
+    switch (kind_) {
+    case CardRow:
+        return {side, step, side, step};
+    case DependentRow:
+        return {side + theme::checkBoxIndent(*this), step, side, step};
+    case SectionRow: {
+        const QLayout* layout = parentWidget() ? parentWidget()->layout() : nullptr;
+        const bool isFirst = layout && layout->count() > 0 && layout->itemAt(0)->widget() == this;
+        return {0, isFirst ? 0 : sectionAbove, 0, sectionBelow};
+    }
+    case BareRow:
+        break;
+    }
+    return {};
+}
+
+int Row::startSpace(const Parts& parts) const {
+    if (startWidth_ > 0)
+        return startWidth_ + pictureGap;
+    int width = 0;
+    for (const QWidget* picture : parts.start)
+        width += wishOf(*picture).width() + 2 * theme::unit(*this);
+    return width;
+}
+
+/// As wide in all rows of the page, so that the fields stand under each other.
+int Row::labelWidth() const {
+    const QWidget* page = this;
+    while (page->parentWidget() && !qobject_cast<const Column*>(page))
+        page = page->parentWidget();
+    int widest = 0;
+    for (const QWidget* label : page->findChildren<TextLabel*>())
+        if (label->property("place").toString() == QLatin1String("label"))
+            widest = std::max(widest, label->sizeHint().width());
+    return widest;
+}
+
+int Row::arrange(int width, std::vector<Place>& places) const {
+    const Parts group = parts();
+    const QMargins pad = padding();
+    const int step = theme::unit(*this);
+    const int fewest = theme::charactersWide(*this, theme::fewestCharacters);
+    const int left = pad.left() + startSpace(group);
+    const int room = std::max(0, width - left - pad.right());
+    int endWidth = 0;
+    int endHeight = 0;
+    for (const QWidget* control : group.end) {
+        endWidth += wishOf(*control).width() + (endWidth > 0 ? step : 0);
+        endHeight = std::max(endHeight, wishOf(*control).height());
+    }
+    int label = group.label.empty() ? 0 : labelWidth() + 2 * step;
+    const bool labelAbove = label > 0 && room - label < fewest;
+    const bool endBelow =
+        endWidth > 0 && !group.text.empty() && room - label - endWidth - 2 * step < fewest;
+    const int besides = endWidth > 0 && !endBelow ? endWidth + 2 * step : 0;
+    int y = pad.top();
+    if (labelAbove) {
+        for (QWidget* widget : group.label) {
+            const int height = heightOf(*widget, room);
+            places.push_back({widget, QRect(left, y, room, height)});
+            y += height + theme::textGap;
+        }
+        label = 0;
+    }
+    const int textLeft = left + label;
+    const int textWidth = std::max(0, room - label - besides);
+    const std::size_t firstText = places.size();
+    int textHeight = 0;
+    int indent = 0;
+    for (QWidget* widget : group.text) {
+        if (textHeight > 0)
+            textHeight += theme::textGap;
+        const int inset = qobject_cast<QLabel*>(widget) ? indent : 0;
+        const int height = heightOf(*widget, textWidth - inset);
+        places.push_back(
+            {widget, QRect(textLeft + inset, y + textHeight, textWidth - inset, height)});
+        textHeight += height;
+        if (qobject_cast<QCheckBox*>(widget))
+            indent = theme::checkBoxIndent(*this);
+    }
+    const int firstHeight = group.text.empty() ? 0 : places[firstText].rect.height();
+    int bodyHeight = textHeight;
+    if (!endBelow)
+        bodyHeight = std::max(bodyHeight, endHeight);
+    for (const QWidget* picture : group.start)
+        bodyHeight = std::max(bodyHeight, wishOf(*picture).height());
+    for (std::size_t index = firstText; index < places.size(); ++index)
+        places[index].rect.translate(0, (bodyHeight - textHeight) / 2);
+    if (!labelAbove) {
+        for (QWidget* widget : group.label) {
+            const int height = heightOf(*widget, label);
+            places.push_back({widget, QRect(left, y + (firstHeight - height) / 2, label, height)});
+        }
+    }
+    int x = pictureInset();
+    for (QWidget* picture : group.start) {
+        const QSize size = wishOf(*picture);
+        // Pictures of several rows share their centre, whatever their size.
+        const int slot = startWidth_ > 0 ? startWidth_ : size.width();
+        places.push_back({picture, QRect(QPoint(x + (slot - size.width()) / 2,
+                                                y + (bodyHeight - size.height()) / 2),
+                                         size)});
+        if (startWidth_ == 0)
+            x += size.width() + 2 * step;
+    }
+    y += bodyHeight;
+    int endX = endBelow ? textLeft : width - pad.right() - endWidth;
+    int endTop = y - bodyHeight;
+    if (endBelow) {
+        endTop = y + step;
+        y = endTop + endHeight;
+        bodyHeight = endHeight;
+    }
+    for (QWidget* control : group.end) {
+        const QSize size = wishOf(*control);
+        places.push_back(
+            {control, QRect(QPoint(endX, endTop + (bodyHeight - size.height()) / 2), size)});
+        endX += size.width() + step;
+    }
+    return y + pad.bottom();
+}
+
+void Row::arrangeChildren() {
+    std::vector<Place> places;
+    arrange(width(), places);
+    for (const Place& place : places)
+        place.widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place.rect));
+}
+
+int Row::heightForWidth(int width) const {
+    std::vector<Place> places;
+    return arrange(width, places);
+}
+
+QSize Row::minimumSizeHint() const {
+    const Parts group = parts();
+    const QMargins pad = padding();
+    int controls = 0;
+    for (const QWidget* control : group.end)
+        controls += wishOf(*control).width() + theme::unit(*this);
+    int text = 0;
+    for (const QWidget* widget : group.text)
+        text = std::max(text, widget->minimumSizeHint().width());
+    const int least = std::min(text, theme::charactersWide(*this, theme::fewestCharacters));
+    const int width = pad.left() + startSpace(group) + std::max({controls, least}) + pad.right();
+    return {width, heightForWidth(sizeHint().width())};
+}
+
+QSize Row::sizeHint() const {
+    const int width = theme::widestColumn(*this);
+    return {width, heightForWidth(width)};
+}
+
+QWidget* Row::followed() const {
+    return follows_.isEmpty() ? findChild<QCheckBox*>(QString(), Qt::FindDirectChildrenOnly)
+                              : findChild<QWidget*>(follows_);
+}
+
+/// Labels with a model of their own are greyed by that.
+void Row::greyLabels() {
+    const QWidget* leader = followed();
+    if (!leader)
+        return;
+    for (auto* label : findChildren<TextLabel*>(QString(), Qt::FindDirectChildrenOnly))
+        if (label->objectName().isEmpty() || label->objectName().front().isUpper())
+            label->setEnabled(leader->isEnabledTo(this));
+}
+
+bool Row::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::EnabledChange && watched == followed())
+        greyLabels();
+    return Arranger::eventFilter(watched, event);
+}
+
+void Row::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    for (const auto* field : findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly))
+        if (field->isVisible() && field->isEnabled())
+            theme::paintFieldOutline(painter, palette(), field->geometry());
+}
+
+bool Row::event(QEvent* event) {
+    if (event->type() == QEvent::ChildAdded)
+        static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
+    if (event->type() == QEvent::Polish)
+        greyLabels();
+    return Arranger::event(event);
+}
+
+// BannerRow
+
+BannerRow::BannerRow(QWidget* parent) : Row(parent) { setKind(BareRow); }
+
+void BannerRow::setProminent(bool prominent) {
+    if (prominent_ == prominent)
+        return;
+    prominent_ = prominent;
+    if (auto* button = findChild<QPushButton*>())
+        button->setDefault(prominent);
+    layout()->invalidate();
+    update();
+    Q_EMIT prominentChanged(prominent);
+}
+
+QMargins BannerRow::padding() const {
+    if (!prominent_)
+        return {};
+    const int step = theme::unit(*this);
+    return {0, step, step + theme::textGap, step};
+}
+
+int BannerRow::pictureInset() const { return prominent_ ? bannerPictureShift : 0; }
+
+void BannerRow::paintEvent(QPaintEvent* /*event*/) {
+    if (!prominent_)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme::bannerOutline(palette()));
+    painter.setBrush(theme::bannerGround(palette()));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
+                            theme::cardRadius);
+}
+
+// Flow
+
+Flow::Flow(QWidget* parent) : Arranger(parent) {}
+
+int Flow::arrange(int width, bool apply) const {
+    const int gap = property("gap").isValid() ? property("gap").toInt() : theme::unit(*this);
+    struct Item {
+        QWidget* widget;
+        QRect rect;
+    };
+    std::vector<Item> line;
+    int x = 0;
+    int y = 0;
+    int height = 0;
+    const auto endLine = [&] {
+        for (Item& item : line) {
+            item.rect.moveTop(y + (height - item.rect.height()) / 2);
+            if (apply)
+                item.widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), item.rect));
+        }
+        y += height;
+        line.clear();
+        x = 0;
+        height = 0;
+    };
+    forEachChild(*this, [&](QWidget* child) {
+        int wish = std::min(wishOf(*child).width(), width);
+        // A line that may be shortened makes room for what follows it.
+        if (const auto* label = qobject_cast<const TextLabel*>(child); label && label->isElided()) {
+            int others = 0;
+            forEachChild(*this, [&](const QWidget* other) {
+                others += other == child ? 0 : wishOf(*other).width() + gap;
+            });
+            wish = std::min(wish, std::max(width - others, child->minimumSizeHint().width()));
+        }
+        if (x > 0 && x + wish > width) {
+            endLine();
+            y += theme::textGap;
+        }
+        const int childHeight = heightOf(*child, wish);
+        line.push_back({child, QRect(x, y, wish, childHeight)});
+        x += wish + gap;
+        height = std::max(height, childHeight);
+    });
+    endLine();
+    return y;
+}
+
+int Flow::heightForWidth(int width) const { return arrange(width, false); }
+
+QSize Flow::sizeHint() const {
+    constexpr int unbounded = QWIDGETSIZE_MAX;
+    int width = 0;
+    forEachChild(
+        *this, [&](const QWidget* child) { width += wishOf(*child).width() + theme::unit(*this); });
+    return {width, arrange(unbounded, false)};
+}
+
+QSize Flow::minimumSizeHint() const {
+    int width = 0;
+    forEachChild(*this, [&](const QWidget* child) {
+        width = std::max(width, child->minimumSizeHint().width());
+    });
+    return {width, theme::lineHeight(*this)};
+}
+
+void Flow::arrangeChildren() { arrange(width(), true); }
+
+} // namespace zarvil::qt
