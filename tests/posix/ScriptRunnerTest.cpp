@@ -215,9 +215,10 @@ TEST_F(ScriptRunnerTest, neitherTheGroupNorTheCopyOutlivesTheRunOrAKilledProcess
 TEST_F(ScriptRunnerTest, aLackOfDescriptorsIsNamedWhereverItShows) {
     EXPECT_TRUE(holdsInChild([this] {
         const auto open = namesIn("/proc/self/fd").size();
+        rlimit before{};
+        ::getrlimit(RLIMIT_NOFILE, &before);
         for (rlim_t spare = 0; spare < 16; ++spare) {
-            const rlimit limit{open + spare, open + spare};
-            const rlimit before{1024, 1024};
+            const rlimit limit{open + spare, before.rlim_max};
             ::setrlimit(RLIMIT_NOFILE, &limit);
             const auto error = run("true");
             ::setrlimit(RLIMIT_NOFILE, &before);

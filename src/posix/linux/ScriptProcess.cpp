@@ -64,7 +64,6 @@ int openProcess(pid_t process) {
     int failure = errno;
     if (laidOut) {
         closeFrom(launchDescriptor + 1);
-        ::setsid();
         // A missing home is no reason not to run.
         if (launch.home)
             static_cast<void>(!::chdir(launch.home));
@@ -122,7 +121,6 @@ ProcessOutcome ScriptProcess::run(const std::vector<std::string>& arguments, Pro
     ScriptProcess process(guard, control);
     if (!process.openChannels() || !process.start(arguments))
         return {ProcessOutcome::Kind::NotStarted, errno, {}};
-    guard.watch(process.process_);
     const int failure = process.launchFailure();
     ProcessOutcome outcome = process.wait();
     if (failure != 0)
@@ -145,8 +143,12 @@ bool ScriptProcess::start(const std::vector<std::string>& arguments) {
     {
         const AllSignalsBlocked blocked;
         process_ = ::fork();
-        if (process_ == 0)
+        if (process_ == 0) {
+            // Told here, before the program starts: this process may be killed at any moment.
+            ::setsid();
+            guard_.watch(::getpid());
             becomeProgram(launch);
+        }
     }
     const int failure = errno;
     errorsOut_.close();
