@@ -31,13 +31,23 @@ FileDescriptor aboveLayout(const FileDescriptor& file) {
     return FileDescriptor(::fcntl(file.get(), F_DUPFD_CLOEXEC, launchDescriptor + 1));
 }
 
+/// Both ends or none: a write into a pipe that nobody can read would end this process. On failure
+/// `errno` says why.
 bool openPipe(FileDescriptor& readEnd, FileDescriptor& writeEnd) {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0)
         return false;
-    readEnd = aboveLayout(FileDescriptor(ends[0]));
-    writeEnd = aboveLayout(FileDescriptor(ends[1]));
-    return readEnd.isOpen() && writeEnd.isOpen();
+    const FileDescriptor readable(ends[0]);
+    const FileDescriptor writable(ends[1]);
+    FileDescriptor input = aboveLayout(readable);
+    if (!input.isOpen())
+        return false;
+    FileDescriptor output = aboveLayout(writable);
+    if (!output.isOpen())
+        return false;
+    readEnd = std::move(input);
+    writeEnd = std::move(output);
+    return true;
 }
 
 /// What the child needs, prepared before the fork: afterwards it may only call what is safe in a
