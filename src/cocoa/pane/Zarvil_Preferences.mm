@@ -5,6 +5,7 @@
 #import "cocoa/binding/Localization.h"
 #import "cocoa/binding/OutletBinder.h"
 #import "cocoa/binding/ScriptPanel.h"
+#import "cocoa/pane/Layout.h"
 #import "cocoa/support/Convert.h"
 
 #include "pane/Zarvil_Preferences.h"
@@ -57,6 +58,15 @@ ZV_OUTLETS(ZV_ACCESSORS)
 }
 
 // Life within the host.
+
+- (NSView*)loadMainView {
+    NSView* view = [super loadMainView];
+    if (view)
+        zarvil::cocoa::releaseTopLevelObjects(
+            [NSArray arrayWithObjects:uninstallModal, arrayController, savedArrayController,
+                                      scriptsArrayController, nil]);
+    return view;
+}
 
 - (void)mainViewDidLoad {
     if (_loaded || ![self mainView])
