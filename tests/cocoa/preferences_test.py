@@ -17,7 +17,7 @@ PRELOAD = os.environ.get("ZARVIL_PRELOAD", "")
 PATIENCE = 60  # seconds
 
 # In the application's window, at the width that it gives every pane.
-SHOW_ALL, GENERAL, ABOUT = (40, 22), (128, 172), (294, 172)
+FIRST_ICON, SHOW_ALL, GENERAL, ABOUT = (52, 78), (40, 22), (128, 172), (294, 172)
 LAUNCH_AT_LOGIN, UNINSTALL = (140, 579), (449, 517)
 AGENT_ROW = "300x24+35+124"
 # In the panel that asks.
@@ -47,9 +47,9 @@ class Preferences(unittest.TestCase):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="zarvil-cocoa-"))
         self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
         bundles = pathlib.Path(os.environ["GNUSTEP_CONFIG_FILE"]).parent / "Library/Bundles"
-        bundles.mkdir(exist_ok=True)
-        if not (bundles / BUNDLE.name).exists():
-            (bundles / BUNDLE.name).symlink_to(BUNDLE)
+        self.bundle = bundles / BUNDLE.name
+        shutil.rmtree(self.bundle, ignore_errors=True)
+        shutil.copytree(BUNDLE, self.bundle)
         self.library = pathlib.Path(os.environ["HOME"]) / "Library"
         self.lay_out_product()
         self.start("openbox")
@@ -57,12 +57,13 @@ class Preferences(unittest.TestCase):
         wait_until(lambda: b"window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    "windows are managed")
         self.start_agent()
+
+    def start_host(self):
         sanitized = {"LD_PRELOAD": PRELOAD, "ASAN_OPTIONS": "detect_leaks=0"} if PRELOAD else {}
         self.host = self.start("SystemPreferences", env=dict(
             os.environ, ZARVIL_ROOT=str(self.folder / "root"), **sanitized))
         self.window = self.window_named("^System Preferences")
         output("xdotool", "windowactivate", "--sync", self.window)
-        self.open_pane()
 
     def start(self, *command, **options):
         process = subprocess.Popen(command, stderr=subprocess.DEVNULL, **options)
@@ -140,10 +141,15 @@ class Preferences(unittest.TestCase):
         self.click(place)
         wait_until(lambda: self.picture() != before, "the click shows")
 
-    def open_pane(self):
+    @property
+    def icon(self):
         # The icons stand in the order of their labels, seven in a row; ours is the last.
         others = len(list(pathlib.Path("/usr/lib/GNUstep/Bundles").glob("*.prefPane")))
-        self.click_until_it_shows((52 + 80 * (others % 7), 78 + 87 * (others // 7)))
+        return 52 + 80 * (others % 7), 78 + 87 * (others // 7)
+
+    def open_pane(self):
+        self.start_host()
+        self.click_until_it_shows(self.icon)
         self.hear("ZVPrefsLoaded")
         self.send("ZVPingTest")
         self.hear("ZVPrefsLoaded")
@@ -154,6 +160,7 @@ class Preferences(unittest.TestCase):
         self.hear(f"ZVPrefsChanged prefKey=LaunchAtLogin prefObj={value}")
 
     def test_an_agent_that_freezes_ends_and_comes_back_and_one_that_closes_the_host(self):
+        self.open_pane()
         self.click_until_it_shows(GENERAL)
         self.toggles_launch_at_login(1)
         present = self.picture(AGENT_ROW)
@@ -177,6 +184,7 @@ class Preferences(unittest.TestCase):
         self.assertEqual(self.host.wait(PATIENCE), 0)
 
     def test_uninstalling_removes_the_listed_three_alone_and_cancelling_none(self):
+        self.open_pane()
         self.click_until_it_shows(ABOUT)
         home, root = paths_below(self.library), paths_below(self.folder)
 
@@ -193,6 +201,17 @@ class Preferences(unittest.TestCase):
                    {path for path in home if not path.startswith(gone)}, "what is left of home")
         self.assertEqual(paths_below(self.folder), {
             path for path in root if not path.startswith("root/Applications/Zarvil.app")})
+
+    def test_a_layout_that_does_not_load_leaves_the_host_and_its_other_panes(self):
+        layout = self.bundle / "Resources/Main.xib"
+        whole = layout.read_text()
+        layout.write_text(whole[:len(whole) // 2])
+        self.start_host()
+        for place in (self.icon, SHOW_ALL, FIRST_ICON, SHOW_ALL):
+            self.click_until_it_shows(place)
+        self.send("ZVPingTest")
+        self.assertIsNone(self.host.poll())
+        self.assertIsNone(self.agent.stdout.read(), "the pane has asked for nothing")
 
 
 if __name__ == "__main__":

@@ -74,8 +74,8 @@ void runAlert(NSString* text, NSString* buttonTitle) {
     [panel.get() setReleasedWhenClosed:NO];
     if (NSWindow* window = [NSApp mainWindow])
         [panel.get() setTitle:[window title]];
-    for (NSView* view : {static_cast<NSView*>(words), static_cast<NSView*>(symbol),
-                         static_cast<NSView*>(button)})
+    for (NSView* view :
+         {static_cast<NSView*>(words), static_cast<NSView*>(symbol), static_cast<NSView*>(button)})
         [[panel.get() contentView] addSubview:view];
     [panel.get() setInitialFirstResponder:button];
     [panel.get() center];

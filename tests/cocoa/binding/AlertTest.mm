@@ -36,9 +36,7 @@ Class* partOf(NSWindow* window) {
 /// Reads each alert that comes up and presses its button, from within its modal session.
 class Reader {
 public:
-    Reader() {
-        [[NSRunLoop mainRunLoop] addTimer:timer_.get() forMode:NSModalPanelRunLoopMode];
-    }
+    Reader() { [[NSRunLoop mainRunLoop] addTimer:timer_.get() forMode:NSModalPanelRunLoopMode]; }
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
     ~Reader() { [timer_.get() invalidate]; }
@@ -72,11 +70,13 @@ private:
     }
 
     Ref<NSWindow> last_;
-    Ref<NSTimer> timer_{[NSTimer timerWithTimeInterval:0.02
-                                                target:[ZVCall callWithFunction:[this] { look(); }]
-                                              selector:@selector(run:)
-                                              userInfo:nil
-                                               repeats:YES]};
+    Ref<NSTimer> timer_ {
+        [NSTimer timerWithTimeInterval:0.02
+                                target:[ZVCall callWithFunction:[this] { look(); }]
+                              selector:@selector(run:)
+                              userInfo:nil
+                               repeats:YES]
+    };
 };
 
 Error error(const std::string& text) { return {"", 0, text}; }
@@ -87,9 +87,10 @@ TEST(Alert, showsEachErrorOnceInOrderAfterTheHandlerAndItsWholeText) {
     AlertQueue alerts(handlers, strings);
     Subscription presented = presentAlerts(alerts);
     Reader reader;
-    const std::string longText = "The script could not be saved: there is no space left on the "
-                                 "device that holds your home folder, nothing of "
-                                 "it was written, and what was there before is still there as it was.";
+    const std::string longText =
+        "The script could not be saved: there is no space left on the "
+        "device that holds your home folder, nothing of "
+        "it was written, and what was there before is still there as it was.";
     handlers.run([&] {
         alerts.presentError(error("short"));
         alerts.presentError(error(longText));
