@@ -296,6 +296,24 @@ TEST_F(Host, goesOnWhenTheNotificationServerIsKilledUnderLoad) {
     EXPECT_TRUE(runUntil([this] { return heardOf(message::prefsChanged); }));
 }
 
+/// To be run in Ukrainian, which has three forms.
+TEST_F(Host, DISABLED_speaksTheUsersLanguageWithItsForms) {
+    const NSTabView* tabs = host.outlet<NSTabView>("tabView");
+    EXPECT_EQ(fromCocoa([[tabs tabViewItemAtIndex:0] label]), "Пристрої");
+    Array devices;
+    for (const auto& [count, words] : std::initializer_list<std::pair<std::size_t, const char*>>{
+             {1, "1 пристрій під наглядом"},
+             {2, "2 пристрої під наглядом"},
+             {5, "5 пристроїв під наглядом"},
+             {21, "21 пристрій під наглядом"}}) {
+        while (devices.size() < count)
+            devices.emplace_back(Dictionary{{"DeviceName", std::to_string(devices.size())}});
+        agent.send(Message(message::allSavedDevices, Dictionary{{"devices", devices}}));
+        EXPECT_TRUE(runUntil([&] { return text("statusLine").starts_with(words); }, 5))
+            << text("statusLine");
+    }
+}
+
 /// Of every text; the whole process runs without any.
 TEST(HostLayout, DISABLED_withoutFontsThePaneDoesNothingAndNoHarm) {
     const Pool pool;
