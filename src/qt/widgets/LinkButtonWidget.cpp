@@ -3,6 +3,7 @@
 #include "qt/canvas/Convert.h"
 #include "qt/widgets/Accessibility.h"
 #include "qt/widgets/Contrast.h"
+#include "qt/widgets/TextMeasure.h"
 
 #include <QEvent>
 #include <QHoverEvent>
@@ -67,7 +68,7 @@ void LinkButtonWidget::showTitle() {
 }
 
 QSize LinkButtonWidget::sizeHint() const {
-    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 2 * focusMargin);
+    return textSize(*this, font(), Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 2 * focusMargin);
 }
 
 /// The given color where it can be read on the window, else the desktop's color of links, else
