@@ -123,6 +123,8 @@ void ScriptListView::layOut() {
     updateScrollBar();
     bindCards();
     placeCards();
+    if (const int least = minimumSizeHint().height(); least != std::exchange(leastHeight_, least))
+        updateGeometry();
     // One more script in a list that was shown before is one that the user has just made.
     const bool created = addedSinceLayout_ == 1 && rowCount() > 1;
     addedSinceLayout_ = 0;
@@ -308,8 +310,9 @@ void ScriptListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 QSize ScriptListView::minimumSizeHint() const {
+    const int most = fewestRows * (ScriptCard::typicalHeight(*this) + spacing);
     return {fontMetrics().averageCharWidth() * fewestCharacters,
-            fewestRows * (ScriptCard::typicalHeight(*this) + spacing)};
+            rowCount() == 0 ? most : std::min(topOf(rowCount()), most)};
 }
 
 QSize ScriptListView::sizeHint() const { return minimumSizeHint(); }
