@@ -64,7 +64,7 @@ class ScriptRun(Run):
 
 def refused_and_saved_later(run, title, refuse, permit, former):
     """A save that fails leaves the file as it was and the text in the card; later it is saved."""
-    text = f"echo {chance.random()}\n" + "#" * 200_000
+    text = f"echo {chance.random()}\n" + "#" * 20_000
     run.type(title, text)
     refuse()
     run.save(title)
