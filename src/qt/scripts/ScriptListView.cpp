@@ -2,6 +2,7 @@
 
 #include "qt/scripts/ScriptCard.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -19,6 +20,8 @@ constexpr int fewestCharacters = 24;
 } // namespace
 
 ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
+    // The toolkit knows no role of a list for a scroll area.
+    QAccessible::registerAccessibleInterface(new QAccessibleWidget(this, QAccessible::List));
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
