@@ -7,3 +7,7 @@ if(ZARVIL_SANITIZE)
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+if(ZARVIL_FUZZ)
+    # Coverage of edges and comparisons tells the fuzzer which inputs are news.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
