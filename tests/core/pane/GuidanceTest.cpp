@@ -21,7 +21,7 @@ protected:
     void watch(int count) {
         Array devices;
         for (int index = 0; index < count; ++index)
-            devices.push_back(Dictionary{{"DeviceName", std::to_string(index)}});
+            devices.emplace_back(Dictionary{{"DeviceName", std::to_string(index)}});
         agentSends(Message(message::allSavedDevices, Dictionary{{"devices", devices}}));
     }
     Guidance& said = pane.guidance;

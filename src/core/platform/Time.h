@@ -8,6 +8,15 @@
 
 namespace zarvil {
 
+/// Reads the time.
+class Clock : NonCopyable {
+public:
+    virtual ~Clock() = default;
+
+    /// Seconds since the start of 2001, UTC.
+    [[nodiscard]] virtual double timeIntervalSinceReferenceDate() const = 0;
+};
+
 enum class Repetition : std::uint8_t { Once, Repeating };
 
 /// A scheduled call. Destroying it invalidates it, also from within its own call.

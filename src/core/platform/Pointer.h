@@ -1,5 +1,6 @@
 #pragma once
 
+#include "interface/Geometry.h"
 #include "protocol/NonCopyable.h"
 
 #include <cstdint>
@@ -14,6 +15,12 @@ public:
     virtual ~Cursor() = default;
 
     virtual void set(CursorShape shape) = 0;
+};
+
+/// How long and how far a press may last and move and still count as a click.
+struct StickyClick {
+    double timeout = 0; ///< seconds
+    Size bias;          ///< points
 };
 
 } // namespace zarvil
