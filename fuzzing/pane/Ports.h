@@ -42,9 +42,9 @@ public:
     Subscription addObserver(std::string_view name, Handler handler) override {
         return observers_[std::string(name)].add(std::move(handler));
     }
-    Subscription observeLink(LinkObserver observer) override {
+    Subscription observeLink(const LinkObserver& observer) override {
         observer(LinkEvent::Up);
-        return links_.add(std::move(observer));
+        return links_.add(observer);
     }
 
     /// At once, even within a handler, as no real center does.

@@ -4,7 +4,7 @@
 #include "controls/ZVCollectionNoteView.h"
 #include "controls/ZVMessageView.h"
 #include "controls/ZVMessageViewButton.h"
-#include "platform/Clock.h"
+#include "platform/Time.h"
 #include "raster/RasterImage.h"
 
 #include <algorithm>
