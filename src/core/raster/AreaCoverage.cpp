@@ -92,6 +92,8 @@ void AreaCoverage::addInRow(float* cells, double fromX, double toX, double heigh
 }
 
 void AreaCoverage::row(int y, Coverage* coverage) const {
+    if (region_.isEmpty())
+        return;
     const float* changes = changes_.data() + static_cast<std::size_t>(y) *
                                                  (static_cast<std::size_t>(region_.width) + 1);
     float covered = 0;
