@@ -1,6 +1,7 @@
 #include "qt/scripts/ScriptListView.h"
 
 #include "qt/scripts/ScriptCard.h"
+#include "qt/widgets/MarginScrollBar.h"
 
 #include <QAccessibleWidget>
 #include <QApplication>
@@ -25,6 +26,7 @@ ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    MarginScrollBar::attachTo(*this);
     // The cards stand on the window's ground.
     viewport()->setAutoFillBackground(false);
     layoutTimer_.setSingleShot(true);

@@ -10,6 +10,7 @@
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/Contrast.h"
 #include "qt/widgets/Form.h"
+#include "qt/widgets/MarginScrollBar.h"
 #include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -376,6 +378,32 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
     auto& lock = widget<LockWidget>("authView");
     EXPECT_EQ(lock.reason(), "polkit is not there.");
     EXPECT_TRUE(QTest::qWaitFor([&lock] { return lock.accessibleName().contains(": locked"); }));
+}
+
+TEST_F(Layout, aLongListScrollsBesideItsColumn) {
+    loadWithAgent();
+    for (int number = 0; number < 20; ++number)
+        agentSends(Message(message::deviceConnected,
+                           Dictionary{{"DeviceName", "UPS " + std::to_string(number)},
+                                      {"DeviceVendor", "Maker"},
+                                      {"DeviceSerial", "1"}}));
+    view.resize(680, 640);
+    focus(*widget<QTabWidget>("tabView").tabBar(), 0);
+    const auto& list = widget<QAbstractScrollArea>("connectedDevices");
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        view.setLayoutDirection(direction);
+        const auto bars = view.findChildren<MarginScrollBar*>();
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return std::ranges::any_of(bars, &QWidget::isVisible); }));
+        auto& bar = **std::ranges::find_if(bars, &QWidget::isVisible);
+        EXPECT_EQ(list.viewport()->width(), list.width());
+        EXPECT_FALSE(bar.geometry().intersects(
+            QRect(list.mapTo(bar.parentWidget(), QPoint()), list.size())));
+        EXPECT_TRUE(bar.parentWidget()->rect().contains(bar.geometry()));
+        bar.setValue(bar.maximum());
+        EXPECT_GT(bar.maximum(), 0);
+        EXPECT_EQ(list.verticalScrollBar()->value(), bar.maximum());
+    }
 }
 
 TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
