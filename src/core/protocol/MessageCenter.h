@@ -9,7 +9,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace zarvil {
 
@@ -61,9 +60,8 @@ public:
 
     /// Calls the observer at once with `Up` or `Down`, then with every event, in order with the
     /// messages. A center that nothing can cut off is always up.
-    virtual Subscription observeLink(LinkObserver observer) {
-        const LinkObserver told = std::move(observer); // others keep theirs, hence a value
-        told(LinkEvent::Up);
+    virtual Subscription observeLink(const LinkObserver& observer) {
+        observer(LinkEvent::Up);
         return {};
     }
 };
