@@ -99,9 +99,7 @@ void AreaCoverage::row(int y, Coverage* coverage) const {
     float covered = 0;
     for (int x = 0; x < region_.width; ++x) {
         covered += changes[x];
-        // Never negative, so that this rounds, in a fraction of a library call's time.
-        // NOLINTNEXTLINE(bugprone-incorrect-roundings)
-        coverage[x] = static_cast<Coverage>(std::min(std::abs(covered), 1.0F) * 65535.0F + 0.5F);
+        coverage[x] = coverageOf(std::min(std::abs(covered), 1.0F));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "qt/scripts/ScriptCard.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -19,12 +20,13 @@ constexpr int fewestCharacters = 24;
 } // namespace
 
 ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
+    // The toolkit knows no role of a list for a scroll area.
+    QAccessible::registerAccessibleInterface(new QAccessibleWidget(this, QAccessible::List));
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // The cards stand on the window's ground.
     viewport()->setAutoFillBackground(false);
-    verticalScrollBar()->setSingleStep(ScriptCard::typicalHeight(*this) / 4);
     layoutTimer_.setSingleShot(true);
     layoutTimer_.setInterval(0);
     connect(&layoutTimer_, &QTimer::timeout, this, &ScriptListView::layOut);
@@ -116,11 +118,16 @@ void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
     heights_ = std::move(heights);
 }
 
+/// A list that is not in sight waits until it is.
 void ScriptListView::layOut() {
     layoutTimer_.stop();
+    if (!isVisible())
+        return;
     updateScrollBar();
     bindCards();
     placeCards();
+    if (const int least = minimumSizeHint().height(); least != std::exchange(leastHeight_, least))
+        updateGeometry();
     // One more script in a list that was shown before is one that the user has just made.
     const bool created = addedSinceLayout_ == 1 && rowCount() > 1;
     addedSinceLayout_ = 0;
@@ -136,6 +143,7 @@ void ScriptListView::updateScrollBar() {
     const int height = rowCount() == 0 ? 0 : topOf(rowCount()) - spacing;
     // Its cards have the keyboard in a list that has any.
     setFocusPolicy(rowCount() == 0 ? Qt::StrongFocus : Qt::NoFocus);
+    bar.setSingleStep(ScriptCard::typicalHeight(*this) / 4);
     bar.setPageStep(viewport()->height());
     bar.setRange(0, std::max(0, height - viewport()->height()));
     if (atEnd)
@@ -289,6 +297,11 @@ void ScriptListView::keyPressEvent(QKeyEvent* event) {
         QAbstractScrollArea::keyPressEvent(event);
 }
 
+void ScriptListView::showEvent(QShowEvent* event) {
+    QAbstractScrollArea::showEvent(event);
+    layOut();
+}
+
 void ScriptListView::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
     layOut();
@@ -300,8 +313,9 @@ void ScriptListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 QSize ScriptListView::minimumSizeHint() const {
+    const int most = fewestRows * (ScriptCard::typicalHeight(*this) + spacing);
     return {fontMetrics().averageCharWidth() * fewestCharacters,
-            fewestRows * (ScriptCard::typicalHeight(*this) + spacing)};
+            rowCount() == 0 ? most : std::min(topOf(rowCount()), most)};
 }
 
 QSize ScriptListView::sizeHint() const { return minimumSizeHint(); }

@@ -51,6 +51,7 @@ public:
     explicit Page(QWidget* parent = nullptr);
 
     [[nodiscard]] Column& column() const { return *column_; }
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -83,6 +84,9 @@ public:
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
 
 protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     /// Gives the children their places within the present size.
     virtual void arrangeChildren() = 0;
 
@@ -127,7 +131,6 @@ public:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void arrangeChildren() override;
     [[nodiscard]] virtual QMargins padding() const;
     /// How far pictures stand from the row's edge.

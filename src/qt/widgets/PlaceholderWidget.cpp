@@ -53,6 +53,8 @@ void PlaceholderWidget::setText(Symbol symbol, const QString& title, const QStri
 }
 
 void PlaceholderWidget::showSymbolWhereItFits() {
+    if (!isVisible())
+        return;
     const int width = std::max(0, this->width() - 2 * margin);
     const int words = title_->heightForWidth(width) + words_->heightForWidth(width);
     const int gaps = 2 * margin + 2 * layout()->spacing();
@@ -65,10 +67,10 @@ void PlaceholderWidget::setVisible(bool visible) {
     QWidget* list = hidesCovered_ ? covered() : nullptr;
     if (!list)
         return;
-    QSizePolicy policy = list->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    list->setSizePolicy(policy);
-    list->setVisible(!visible);
+    // What it holds, for a widget that is hidden itself does not tell where it is laid out.
+    for (auto* part : list->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        part->setVisible(!visible);
+    list->setMinimumHeight(visible ? minimumSizeHint().height() : 0);
 }
 
 QWidget* PlaceholderWidget::covered() {
@@ -106,6 +108,7 @@ bool PlaceholderWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
 void PlaceholderWidget::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     cover();
+    showSymbolWhereItFits();
 }
 
 void PlaceholderWidget::resizeEvent(QResizeEvent* event) {

@@ -9,6 +9,7 @@
 #include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/Contrast.h"
+#include "qt/widgets/Form.h"
 #include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
@@ -86,9 +87,12 @@ constexpr int alertsPage = 2;
 constexpr int scriptsPage = 3;
 
 /// What of the shown widgets does not fit: text that needs more room than it has, a child that
-/// leaves its parent, and neighbours that overlap.
+/// leaves its parent, neighbours that overlap, and a row with an empty space of its own.
 QStringList misfits(const QWidget& top) {
     QStringList found;
+    for (const auto* row : top.findChildren<Row*>())
+        if (row->isVisible() && row->height() != row->heightForWidth(row->width()))
+            found += row->objectName() + " is not as high as what it holds";
     for (const auto* widget : top.findChildren<QWidget*>()) {
         const auto* label = qobject_cast<const TextLabel*>(widget);
         const bool isPart = label || qobject_cast<const QAbstractButton*>(widget) ||
@@ -409,6 +413,8 @@ TEST_P(LayoutIn, clipsAndOverlapsNothing) {
             view.resize(c.size);
             view.show();
             EXPECT_EQ(view.size(), c.size) << c.points << " pt";
+            EXPECT_LE(widget<QWidget>("chooseDevices").sizeHint().height(),
+                      widget<QWidget>("statusLine").sizeHint().height());
             const auto& heading = widget<QWidget>("ConnectedCaptionRow");
             const QRect& list = widget<QWidget>("connectedDevices").geometry();
             EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -419,6 +425,9 @@ TEST_P(LayoutIn, clipsAndOverlapsNothing) {
                 static_cast<void>(QTest::qWaitFor([this] { return misfits(view).isEmpty(); }));
                 EXPECT_EQ(misfits(view).join("; ").toStdString(), "")
                     << c.points << " pt, " << c.size.width() << " wide, page " << page;
+                const QRect columns = widget<QWidget>("DeviceColumns").geometry();
+                EXPECT_TRUE(present || page > 0 ||
+                            widget<QWidget>("devicesUnknown").geometry() == columns);
             }
         }
     }
