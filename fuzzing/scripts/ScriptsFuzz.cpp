@@ -282,7 +282,8 @@ private:
     }
 
     Input& input_;
-    posix::PosixFileManager files_{home().string()};
+    fake::StringTable strings_;
+    posix::PosixFileManager files_{strings_, home().string()};
     PaneOnFakes world_{&files_};
     std::string open_;
     std::string openTitle_;

@@ -74,11 +74,12 @@ private:
     std::mutex mutex_;
     std::condition_variable arrived_;
     std::function<void()> ended_;
-    PosixScriptRunner runner_{[this](std::function<void()> call) {
-        const std::lock_guard lock(mutex_);
-        ended_ = std::move(call);
-        arrived_.notify_one();
-    }};
+    fake::StringTable strings_;
+    PosixScriptRunner runner_{strings_, [this](std::function<void()> call) {
+                                  const std::lock_guard lock(mutex_);
+                                  ended_ = std::move(call);
+                                  arrived_.notify_one();
+                              }};
 
 public:
     PaneOnFakes fakes;
