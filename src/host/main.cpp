@@ -1,3 +1,16 @@
 #include "host/Host.h"
 
-int main(int argc, char** argv) { return zarvil::host::runHost(argc, argv); }
+#include <cstdlib>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+int main(int argc, char** argv) {
+#ifdef __GLIBC__
+    // The library raises its own limit as it goes, and keeps what the start had need of for good.
+    constexpr int keptFree = 128 * 1024; // bytes, where the library begins
+    mallopt(M_TRIM_THRESHOLD, keptFree);
+#endif
+    return zarvil::host::runHost(argc, argv);
+}

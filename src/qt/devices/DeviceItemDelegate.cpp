@@ -53,7 +53,7 @@ QPalette cardPalette() {
 
 QFont nameFont(const QStyleOptionViewItem& option) {
     QFont font = option.font;
-    font.setBold(true);
+    font.setWeight(QFont::DemiBold); // as the headings beside the list
     return font;
 }
 

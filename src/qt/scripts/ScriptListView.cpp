@@ -29,7 +29,6 @@ ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
     MarginScrollBar::attachTo(*this);
     // The cards stand on the window's ground.
     viewport()->setAutoFillBackground(false);
-    verticalScrollBar()->setSingleStep(ScriptCard::typicalHeight(*this) / 4);
     layoutTimer_.setSingleShot(true);
     layoutTimer_.setInterval(0);
     connect(&layoutTimer_, &QTimer::timeout, this, &ScriptListView::layOut);
@@ -121,8 +120,11 @@ void ScriptListView::renumber(const std::function<int(int)>& rowNow) {
     heights_ = std::move(heights);
 }
 
+/// A list that is not in sight waits until it is.
 void ScriptListView::layOut() {
     layoutTimer_.stop();
+    if (!isVisible())
+        return;
     updateScrollBar();
     bindCards();
     placeCards();
@@ -143,6 +145,7 @@ void ScriptListView::updateScrollBar() {
     const int height = rowCount() == 0 ? 0 : topOf(rowCount()) - spacing;
     // Its cards have the keyboard in a list that has any.
     setFocusPolicy(rowCount() == 0 ? Qt::StrongFocus : Qt::NoFocus);
+    bar.setSingleStep(ScriptCard::typicalHeight(*this) / 4);
     bar.setPageStep(viewport()->height());
     bar.setRange(0, std::max(0, height - viewport()->height()));
     if (atEnd)
@@ -294,6 +297,11 @@ void ScriptListView::keyPressEvent(QKeyEvent* event) {
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     else
         QAbstractScrollArea::keyPressEvent(event);
+}
+
+void ScriptListView::showEvent(QShowEvent* event) {
+    QAbstractScrollArea::showEvent(event);
+    layOut();
 }
 
 void ScriptListView::resizeEvent(QResizeEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "qt/widgets/Accessibility.h"
 #include "qt/widgets/TextLabel.h"
+#include "qt/widgets/TextMeasure.h"
 #include "qt/widgets/Theme.h"
 
 #include <QApplication>
@@ -123,6 +124,12 @@ Page::Page(QWidget* parent) : QScrollArea(parent), column_(new Column) {
             [this](QWidget*, QWidget* now) { showFocused(now); });
 }
 
+// The content decides nothing here, for it scrolls; and that of a hidden page need not be measured.
+QSize Page::sizeHint() const {
+    constexpr QSize lines(36, 24);
+    return lines * theme::lineHeight(*this);
+}
+
 void Page::showFocused(QWidget* focused) {
     if (!focused || focused == column_ || !column_->isAncestorOf(focused))
         return;
@@ -194,9 +201,9 @@ int CheckBox::textFlags() const {
 
 QRect CheckBox::textPlace(int width) const {
     const int indent = theme::checkBoxIndent(*this);
-    const QRect room(indent, 0, std::max(1, width - indent), QWIDGETSIZE_MAX);
-    QRect place = fontMetrics().boundingRect(room, textFlags() & ~Qt::AlignVCenter, text());
-    return {indent, 0, std::max(1, width - indent), place.height()};
+    const int room = std::max(1, width - indent);
+    const QSize size = textSize(*this, font(), textFlags() & ~Qt::AlignVCenter, text(), room);
+    return {indent, 0, room, size.height()};
 }
 
 int CheckBox::heightForWidth(int width) const {
@@ -211,7 +218,7 @@ QSize CheckBox::minimumSizeHint() const {
 }
 
 bool CheckBox::hitButton(const QPoint& position) const {
-    const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
+    const int text = textSize(*this, font(), Qt::TextShowMnemonic, this->text()).width();
     const QRect target(0, 0, std::min(width(), theme::checkBoxIndent(*this) + text), height());
     return QStyle::visualRect(layoutDirection(), rect(), target).contains(position);
 }

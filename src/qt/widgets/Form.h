@@ -51,6 +51,7 @@ public:
     explicit Page(QWidget* parent = nullptr);
 
     [[nodiscard]] Column& column() const { return *column_; }
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

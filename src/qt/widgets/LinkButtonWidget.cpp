@@ -3,6 +3,7 @@
 #include "qt/canvas/Convert.h"
 #include "qt/widgets/Accessibility.h"
 #include "qt/widgets/Contrast.h"
+#include "qt/widgets/TextMeasure.h"
 
 #include <QEvent>
 #include <QHoverEvent>
@@ -68,7 +69,7 @@ void LinkButtonWidget::showTitle() {
 
 QSize LinkButtonWidget::sizeHint() const {
     // As high as a line of text: nothing around it moves when it comes and goes.
-    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 0);
+    return textSize(*this, font(), Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 0);
 }
 
 /// The given color where it can be read on the window, else the desktop's color of links, else

@@ -53,6 +53,8 @@ void PlaceholderWidget::setText(Symbol symbol, const QString& title, const QStri
 }
 
 void PlaceholderWidget::showSymbolWhereItFits() {
+    if (!isVisible())
+        return;
     const int width = std::max(0, this->width() - 2 * margin);
     const int words = title_->heightForWidth(width) + words_->heightForWidth(width);
     const int gaps = 2 * margin + 2 * layout()->spacing();
@@ -106,6 +108,7 @@ bool PlaceholderWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
 void PlaceholderWidget::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     cover();
+    showSymbolWhereItFits();
 }
 
 void PlaceholderWidget::resizeEvent(QResizeEvent* event) {

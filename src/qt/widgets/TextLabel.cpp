@@ -1,6 +1,7 @@
 #include "qt/widgets/TextLabel.h"
 
 #include "qt/widgets/SymbolWidget.h"
+#include "qt/widgets/TextMeasure.h"
 #include "qt/widgets/Theme.h"
 
 #include <QEvent>
@@ -26,7 +27,6 @@ TextLabel::TextLabel(QWidget* parent) : QLabel(parent) {
 
 void TextLabel::setLook(Look look) {
     look_ = look;
-    measured_ = {};
     updateGeometry();
 }
 
@@ -72,22 +72,12 @@ int TextLabel::textFlags() const {
     return static_cast<int>(visual) | mnemonic | (elided_ ? Qt::TextSingleLine : Qt::TextWordWrap);
 }
 
-QRect TextLabel::measure(int width) const {
-    return QFontMetrics(textFont()).boundingRect(0, 0, width, QWIDGETSIZE_MAX, textFlags(), text());
-}
-
 int TextLabel::heightForWidth(int width) const {
-    for (const Measured& known : measured_)
-        if (known.width == width && known.text == text())
-            return known.height;
-    Measured& entry = measured_[nextMeasured_];
-    nextMeasured_ = (nextMeasured_ + 1) % measured_.size();
-    entry = {text(), width, measure(width).height()};
-    return entry.height;
+    return textSize(*this, textFont(), textFlags(), text(), width).height();
 }
 
 QSize TextLabel::sizeHint() const {
-    const QSize natural = QFontMetrics(textFont()).size(buddy() ? Qt::TextShowMnemonic : 0, text());
+    const QSize natural = textSize(*this, textFont(), buddy() ? Qt::TextShowMnemonic : 0, text());
     return {natural.width(), elided_ ? QFontMetrics(textFont()).height() : natural.height()};
 }
 
@@ -112,10 +102,8 @@ void TextLabel::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void TextLabel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        measured_ = {};
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         updateGeometry();
-    }
     QLabel::changeEvent(event);
 }
 

@@ -2,12 +2,10 @@
 
 #include <QLabel>
 
-#include <array>
-
 namespace zarvil::qt {
 
-/// A label in one of the pages' kinds of text. It wraps, remembers its height by width, paints its
-/// color from whatever palette holds, and dims itself. Plain text only.
+/// A label in one of the pages' kinds of text. It wraps, paints its color from whatever palette
+/// holds, and dims itself. Plain text only.
 class TextLabel : public QLabel {
     Q_OBJECT
     Q_PROPERTY(Look look READ look WRITE setLook)
@@ -48,21 +46,11 @@ protected:
     void paintText(QPainter& painter, const QRect& place) const;
 
 private:
-    struct Measured {
-        QString text;
-        int width = -1;
-        int height = 0;
-    };
-
-    [[nodiscard]] QRect measure(int width) const;
     [[nodiscard]] int textFlags() const;
 
     Look look_ = Body;
     bool elided_ = false;
     double opacity_ = 1;
-    /// Layouts ask for a few widths again and again.
-    mutable std::array<Measured, 3> measured_;
-    mutable std::size_t nextMeasured_ = 0;
 };
 
 /// A verdict: its text in a fixed color beside a symbol, on a ground that suits that color in

@@ -1,6 +1,7 @@
 #include "qt/widgets/Theme.h"
 
 #include "qt/widgets/Contrast.h"
+#include "qt/widgets/TextMeasure.h"
 
 #include <QLineEdit>
 #include <QPainter>
@@ -40,7 +41,7 @@ int checkBoxIndent(const QWidget& widget) {
 
 QSize buttonSize(const QPushButton& button) {
     const int step = unit(button);
-    const QSize roomy(button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() +
+    const QSize roomy(textSize(button, button.font(), Qt::TextShowMnemonic, button.text()).width() +
                           4 * step,
                       lineHeight(button) + step + 4);
     return button.sizeHint().expandedTo(roomy).expandedTo(button.minimumSize());
