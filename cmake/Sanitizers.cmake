@@ -11,3 +11,7 @@ elseif(ZARVIL_SANITIZE_THREADS)
     add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
     add_link_options(-fsanitize=thread)
 endif()
+if(ZARVIL_FUZZ)
+    # Coverage of edges and comparisons tells the fuzzer which inputs are news.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -130,6 +130,9 @@ Outcome replace(const std::string& former, const std::string& path, std::string_
     if (outcome.removal == 0 && path == former && isFolder(former))
         outcome.removal = remove(former); // no file can be renamed over a folder
     outcome.write = file.commit();
+    // What could not be removed is replaced all the same; one that was missing is told of.
+    if (outcome.write == 0 && outcome.removal != ENOENT && file.isAt(former))
+        outcome.removal = 0;
     if (outcome.write != 0 || outcome.removal != 0)
         return outcome;
     // Two spellings may name one file, which then takes the new one, as where case is ignored.
@@ -188,11 +191,17 @@ std::vector<std::string> PosixFileManager::visibleContentsOfDirectory(std::strin
     const std::unique_ptr<DIR, CloseDirectory> directory(::opendir(std::string(path).c_str()));
     if (!directory)
         return names;
-    while (const dirent* entry = ::readdir(directory.get())) {
+    while (true) {
+        errno = 0;
+        const dirent* entry = ::readdir(directory.get());
+        if (!entry)
+            break;
         const std::string_view name(entry->d_name);
         if (!name.starts_with('.'))
             names.emplace_back(name);
     }
+    if (errno != 0) // half a list would be taken for the whole
+        names.clear();
     return names;
 }
 

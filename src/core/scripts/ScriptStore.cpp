@@ -40,8 +40,9 @@ void Zarvil_Preferences::loadScripts() {
     }
     // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
     for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
-        const Record record =
-            scriptTexts_.makeScript(script::titleOfFile(name), folder + "/" + name);
+        std::string path = folder;
+        path.append("/").append(name);
+        const Record record = scriptTexts_.makeScript(script::titleOfFile(name), std::move(path));
         scriptsArrayController.addObject(record);
         handToItem(record);
     }

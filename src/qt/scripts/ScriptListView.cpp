@@ -1,7 +1,9 @@
 #include "qt/scripts/ScriptListView.h"
 
 #include "qt/scripts/ScriptCard.h"
+#include "qt/widgets/MarginScrollBar.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -19,9 +21,12 @@ constexpr int fewestCharacters = 24;
 } // namespace
 
 ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
+    // The toolkit knows no role of a list for a scroll area.
+    QAccessible::registerAccessibleInterface(new QAccessibleWidget(this, QAccessible::List));
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    MarginScrollBar::attachTo(*this);
     // The cards stand on the window's ground.
     viewport()->setAutoFillBackground(false);
     layoutTimer_.setSingleShot(true);

@@ -10,6 +10,7 @@
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/Contrast.h"
 #include "qt/widgets/Form.h"
+#include "qt/widgets/MarginScrollBar.h"
 #include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -378,6 +380,32 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
     EXPECT_TRUE(QTest::qWaitFor([&lock] { return lock.accessibleName().contains(": locked"); }));
 }
 
+TEST_F(Layout, aLongListScrollsBesideItsColumn) {
+    loadWithAgent();
+    for (int number = 0; number < 20; ++number)
+        agentSends(Message(message::deviceConnected,
+                           Dictionary{{"DeviceName", "UPS " + std::to_string(number)},
+                                      {"DeviceVendor", "Maker"},
+                                      {"DeviceSerial", "1"}}));
+    view.resize(680, 640);
+    focus(*widget<QTabWidget>("tabView").tabBar(), 0);
+    const auto& list = widget<QAbstractScrollArea>("connectedDevices");
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        view.setLayoutDirection(direction);
+        const auto bars = view.findChildren<MarginScrollBar*>();
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return std::ranges::any_of(bars, &QWidget::isVisible); }));
+        auto& bar = **std::ranges::find_if(bars, &QWidget::isVisible);
+        EXPECT_EQ(list.viewport()->width(), list.width());
+        EXPECT_FALSE(bar.geometry().intersects(
+            QRect(list.mapTo(bar.parentWidget(), QPoint()), list.size())));
+        EXPECT_TRUE(bar.parentWidget()->rect().contains(bar.geometry()));
+        bar.setValue(bar.maximum());
+        EXPECT_GT(bar.maximum(), 0);
+        EXPECT_EQ(list.verticalScrollBar()->value(), bar.maximum());
+    }
+}
+
 TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     load();
     const auto& list = widget<QWidget>("connectedDevices");
@@ -425,6 +453,9 @@ TEST_P(LayoutIn, clipsAndOverlapsNothing) {
                 static_cast<void>(QTest::qWaitFor([this] { return misfits(view).isEmpty(); }));
                 EXPECT_EQ(misfits(view).join("; ").toStdString(), "")
                     << c.points << " pt, " << c.size.width() << " wide, page " << page;
+                const QRect columns = widget<QWidget>("DeviceColumns").geometry();
+                EXPECT_TRUE(present || page > 0 ||
+                            widget<QWidget>("devicesUnknown").geometry() == columns);
             }
         }
     }
