@@ -33,7 +33,9 @@ TEST_F(ScriptItem, editingLaysTheFilledFieldsOverTheCardTheTitleOnTop) {
     EXPECT_EQ(text.fontSize(), 13);
     EXPECT_EQ(title.stringValue(), "a");
     EXPECT_EQ(text.stringValue(), "echo a");
+    EXPECT_EQ(script->editCaption().accessibleName, "Save “a”");
     script->edit();
+    EXPECT_EQ(script->editCaption().accessibleName, "Edit “a”");
     EXPECT_FALSE(script->editing());
     EXPECT_THAT(script->view().subviews(), IsEmpty());
     EXPECT_EQ(script->eTitle(), nullptr);
