@@ -223,7 +223,8 @@ def killed_saving():
             run.pane.choose_tab("Scripts")
             run.type("a", wanted)
             run.press("a", "Save")
-            time.sleep(chance.uniform(0, 0.08))
+            # A button that is pressed in this way is let go after 0.1 s.
+            time.sleep(chance.uniform(0.09, 0.2))
             run.host.kill()
             run.host.wait()
             run.session.processes.remove(run.host)
