@@ -214,8 +214,9 @@ TEST_F(ScriptItem, anEmptyScriptIsRefusedInTheUsersLanguage) {
 
 TEST_F(ScriptItem, removingDeletesTheFileAndLeavesTheOthersTheirItems) {
     const auto second = item(1);
-    item(0)->remove();
+    item(0)->userDidPressRemove();
     EXPECT_FALSE(files.files.contains(pathOf("a.zvscript")));
+    second->userDidPressRemove(); // the second half of a double click
     EXPECT_THAT(titles(), ElementsAre("b"));
     EXPECT_EQ(item(0), second);
 }
