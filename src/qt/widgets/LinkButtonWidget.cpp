@@ -68,7 +68,8 @@ void LinkButtonWidget::showTitle() {
 }
 
 QSize LinkButtonWidget::sizeHint() const {
-    return textSize(*this, font(), Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 2 * focusMargin);
+    return textSize(*this, font(), Qt::TextSingleLine, text()) +
+           QSize(2 * focusMargin, 2 * focusMargin);
 }
 
 /// The given color where it can be read on the window, else the desktop's color of links, else
