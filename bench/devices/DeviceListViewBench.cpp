@@ -195,32 +195,42 @@ constexpr Phase phases[] = {
     {"unplug at random", true, [](Lists& lists, int count) { lists.unplug(numbers(count, true)); }},
 };
 
-/// The least of several runs, for one device.
+/// For one device.
 double microseconds(const Phase& phase, int count, bool isRead) {
-    constexpr int repetitions = 5;
-    double least = 1e9;
-    for (int repetition = 0; repetition < repetitions; ++repetition) {
-        Lists lists;
-        if (phase.plugged)
-            lists.plug(count);
+    Lists lists;
+    if (phase.plugged)
+        lists.plug(count);
+    QApplication::processEvents();
+    if (isRead)
+        lists.read();
+    const double all = seconds([&] {
+        phase.work(lists, count);
         QApplication::processEvents();
-        if (isRead)
-            lists.read();
-        least = std::min(least, seconds([&] {
-                             phase.work(lists, count);
-                             QApplication::processEvents();
-                         }));
-    }
-    return least / count * 1e6;
+    });
+    return all / count * 1e6;
 }
 
+double median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+/// Long and short lists by turns, so that both meet the same disturbances.
 void compare(bool isRead, int many) {
+    constexpr int turns = 9;
+    constexpr int shortOnesATurn = 3;
     const int few = many / 10;
     std::printf("%s\n", isRead ? "Every row read by an assistive program before:" : "Not read:");
     for (const Phase& phase : phases) {
-        // The large one first, so that the small one does not pay for what the allocator learns.
-        const double large = microseconds(phase, many, isRead);
-        const double small = microseconds(phase, few, isRead);
+        std::vector<double> longOnes;
+        std::vector<double> shortOnes;
+        for (int turn = 0; turn < turns; ++turn) {
+            longOnes.push_back(microseconds(phase, many, isRead));
+            for (int one = 0; one < shortOnesATurn; ++one)
+                shortOnes.push_back(microseconds(phase, few, isRead));
+        }
+        const double large = median(longOnes);
+        const double small = median(shortOnes);
         std::printf("  %-20s %6.2f us a device at %d, %6.2f us at %d, ratio %.2f\n", phase.name,
                     small, few, large, many, large / small);
     }
