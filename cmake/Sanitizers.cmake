@@ -6,4 +6,12 @@ if(ZARVIL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+elseif(ZARVIL_SANITIZE_THREADS)
+    string(REGEX REPLACE "-g$" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
+    add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=thread)
+endif()
+if(ZARVIL_FUZZ)
+    # Coverage of edges and comparisons tells the fuzzer which inputs are news.
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

@@ -986,6 +986,114 @@
         <source>Disconnected: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Could not create the folder “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not prepare the script for running: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not remove “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not save the file “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not start the script&apos;s interpreter “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signal %1 (%2) ended the script.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signal %1 ended the script.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script contains a NUL character, so it cannot be run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script failed with exit status %1 and gave no reason.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script has ended, but its result got lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it would be larger than files may be here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its name contains a character that is not allowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something of that name is already there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the disk reported a fault</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

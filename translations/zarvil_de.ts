@@ -974,6 +974,114 @@
         <source>Disconnected: %1</source>
         <translation>Getrennt: %1</translation>
     </message>
+    <message>
+        <source>Could not create the folder “%1”: %2.</source>
+        <translation>Der Ordner „%1“ konnte nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Could not prepare the script for running: %1.</source>
+        <translation>Das Skript konnte nicht zum Ausführen vorbereitet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Could not remove “%1”: %2.</source>
+        <translation>„%1“ konnte nicht entfernt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Could not save the file “%1”: %2.</source>
+        <translation>Die Datei „%1“ konnte nicht gesichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>Could not start the script&apos;s interpreter “%1”: %2.</source>
+        <translation>Der Interpreter „%1“ des Skripts konnte nicht gestartet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Sec</source>
+        <translation>Sek</translation>
+    </message>
+    <message>
+        <source>Signal %1 (%2) ended the script.</source>
+        <translation>Das Signal %1 (%2) hat das Skript beendet.</translation>
+    </message>
+    <message>
+        <source>Signal %1 ended the script.</source>
+        <translation>Das Signal %1 hat das Skript beendet.</translation>
+    </message>
+    <message>
+        <source>The script contains a NUL character, so it cannot be run.</source>
+        <translation>Das Skript enthält ein NUL-Zeichen und kann deshalb nicht ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>The script failed with exit status %1 and gave no reason.</source>
+        <translation>Das Skript ist mit dem Status %1 fehlgeschlagen und hat keinen Grund genannt.</translation>
+    </message>
+    <message>
+        <source>The script has ended, but its result got lost.</source>
+        <translation>Das Skript ist zu Ende, aber sein Ergebnis ist verloren gegangen.</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>ein Teil des Pfads ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it would be larger than files may be here</source>
+        <translation>sie würde größer, als Dateien hier sein dürfen</translation>
+    </message>
+    <message>
+        <source>its name contains a character that is not allowed</source>
+        <translation>der Name enthält ein unzulässiges Zeichen</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>die symbolischen Verknüpfungen führen im Kreis</translation>
+    </message>
+    <message>
+        <source>something of that name is already there</source>
+        <translation>es gibt schon etwas mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>der Datenträger kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the disk reported a fault</source>
+        <translation>der Datenträger hat einen Fehler gemeldet</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>die Datei oder den Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>zu viele Dateien sind geöffnet</translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation>Sie haben keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>Ihr Anteil am Speicherplatz ist aufgebraucht</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

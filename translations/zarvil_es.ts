@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>&amp;Connected</source>
-        <translation>C&amp;onectados</translation>
+        <translation>Co&amp;nectados</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -974,6 +974,114 @@
         <source>Disconnected: %1</source>
         <translation>Desconectado: %1</translation>
     </message>
+    <message>
+        <source>Could not create the folder “%1”: %2.</source>
+        <translation>No se pudo crear la carpeta «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Could not prepare the script for running: %1.</source>
+        <translation>No se pudo preparar el script para ejecutarlo: %1.</translation>
+    </message>
+    <message>
+        <source>Could not remove “%1”: %2.</source>
+        <translation>No se pudo eliminar «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Could not save the file “%1”: %2.</source>
+        <translation>No se pudo guardar el archivo «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Could not start the script&apos;s interpreter “%1”: %2.</source>
+        <translation>No se pudo iniciar el intérprete del script «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Sec</source>
+        <translation>Seg</translation>
+    </message>
+    <message>
+        <source>Signal %1 (%2) ended the script.</source>
+        <translation>La señal %1 (%2) terminó el script.</translation>
+    </message>
+    <message>
+        <source>Signal %1 ended the script.</source>
+        <translation>La señal %1 terminó el script.</translation>
+    </message>
+    <message>
+        <source>The script contains a NUL character, so it cannot be run.</source>
+        <translation>El script contiene un carácter NUL, por lo que no se puede ejecutar.</translation>
+    </message>
+    <message>
+        <source>The script failed with exit status %1 and gave no reason.</source>
+        <translation>El script falló con el estado de salida %1 y no dio ningún motivo.</translation>
+    </message>
+    <message>
+        <source>The script has ended, but its result got lost.</source>
+        <translation>El script ha terminado, pero su resultado se perdió.</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>una parte de la ruta no es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it would be larger than files may be here</source>
+        <translation>sería mayor de lo que aquí pueden ser los archivos</translation>
+    </message>
+    <message>
+        <source>its name contains a character that is not allowed</source>
+        <translation>el nombre contiene un carácter no permitido</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>el nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>los enlaces simbólicos forman un círculo</translation>
+    </message>
+    <message>
+        <source>something of that name is already there</source>
+        <translation>ya hay algo con ese nombre</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the disk reported a fault</source>
+        <translation>el disco informó de un fallo</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>no existe ese archivo o carpeta</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>hay demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation>no tiene permiso</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>su cuota de disco está agotada</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -1068,7 +1176,7 @@
     <message>
         <source>o</source>
         <comment>The letter of the title “Protection is on” or “off” that is its access key; - for none</comment>
-        <translation>-</translation>
+        <translation>o</translation>
     </message>
 </context>
 <context>

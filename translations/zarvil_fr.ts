@@ -974,6 +974,114 @@
         <source>Disconnected: %1</source>
         <translation>Déconnecté&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Could not create the folder “%1”: %2.</source>
+        <translation>Impossible de créer le dossier « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>Could not prepare the script for running: %1.</source>
+        <translation>Impossible de préparer l’exécution du script : %1.</translation>
+    </message>
+    <message>
+        <source>Could not remove “%1”: %2.</source>
+        <translation>Impossible de supprimer « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>Could not save the file “%1”: %2.</source>
+        <translation>Impossible d’enregistrer le fichier « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>Could not start the script&apos;s interpreter “%1”: %2.</source>
+        <translation>Impossible de lancer l’interpréteur du script « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Sec</source>
+        <translation>Sec</translation>
+    </message>
+    <message>
+        <source>Signal %1 (%2) ended the script.</source>
+        <translation>Le signal %1 (%2) a mis fin au script.</translation>
+    </message>
+    <message>
+        <source>Signal %1 ended the script.</source>
+        <translation>Le signal %1 a mis fin au script.</translation>
+    </message>
+    <message>
+        <source>The script contains a NUL character, so it cannot be run.</source>
+        <translation>Le script contient un caractère NUL et ne peut donc pas être exécuté.</translation>
+    </message>
+    <message>
+        <source>The script failed with exit status %1 and gave no reason.</source>
+        <translation>Le script a échoué avec le code de sortie %1 sans donner de raison.</translation>
+    </message>
+    <message>
+        <source>The script has ended, but its result got lost.</source>
+        <translation>Le script est terminé, mais son résultat s’est perdu.</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>une partie du chemin n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it would be larger than files may be here</source>
+        <translation>il dépasserait la taille permise ici</translation>
+    </message>
+    <message>
+        <source>its name contains a character that is not allowed</source>
+        <translation>le nom contient un caractère interdit</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>le nom est trop long</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>les liens symboliques tournent en rond</translation>
+    </message>
+    <message>
+        <source>something of that name is already there</source>
+        <translation>quelque chose porte déjà ce nom</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>the disk reported a fault</source>
+        <translation>le disque a signalé une erreur</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>ce fichier ou dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>trop de fichiers sont ouverts</translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation>vous n’avez pas la permission</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>votre quota de disque est épuisé</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

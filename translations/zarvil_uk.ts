@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>&amp;Launch Zarvil at login</source>
-        <translation>Запускати Zarvil під час в&amp;ходу</translation>
+        <translation>Зап&amp;ускати Zarvil під час входу</translation>
     </message>
     <message>
         <source>Starts the agent whenever you log in</source>
@@ -977,6 +977,114 @@
         <source>Disconnected: %1</source>
         <translation>Від’єднано: %1</translation>
     </message>
+    <message>
+        <source>Could not create the folder “%1”: %2.</source>
+        <translation>Не вдалося створити теку «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Could not prepare the script for running: %1.</source>
+        <translation>Не вдалося підготувати скрипт до виконання: %1.</translation>
+    </message>
+    <message>
+        <source>Could not remove “%1”: %2.</source>
+        <translation>Не вдалося вилучити «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Could not save the file “%1”: %2.</source>
+        <translation>Не вдалося зберегти файл «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Could not start the script&apos;s interpreter “%1”: %2.</source>
+        <translation>Не вдалося запустити інтерпретатор скрипту «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Хв</translation>
+    </message>
+    <message>
+        <source>Sec</source>
+        <translation>Сек</translation>
+    </message>
+    <message>
+        <source>Signal %1 (%2) ended the script.</source>
+        <translation>Сигнал %1 (%2) завершив скрипт.</translation>
+    </message>
+    <message>
+        <source>Signal %1 ended the script.</source>
+        <translation>Сигнал %1 завершив скрипт.</translation>
+    </message>
+    <message>
+        <source>The script contains a NUL character, so it cannot be run.</source>
+        <translation>Скрипт містить символ NUL, тому його не можна виконати.</translation>
+    </message>
+    <message>
+        <source>The script failed with exit status %1 and gave no reason.</source>
+        <translation>Скрипт завершився помилкою зі станом %1 і не назвав причини.</translation>
+    </message>
+    <message>
+        <source>The script has ended, but its result got lost.</source>
+        <translation>Скрипт завершився, але його результат утрачено.</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>частина шляху не є текою</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>це тека</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>це не звичайний файл</translation>
+    </message>
+    <message>
+        <source>it would be larger than files may be here</source>
+        <translation>він був би більшим, ніж тут дозволено</translation>
+    </message>
+    <message>
+        <source>its name contains a character that is not allowed</source>
+        <translation>назва містить недозволений символ</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>назва задовга</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>символічні посилання ведуть по колу</translation>
+    </message>
+    <message>
+        <source>something of that name is already there</source>
+        <translation>тут уже є щось із такою назвою</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>диск доступний лише для читання</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>диск заповнено</translation>
+    </message>
+    <message>
+        <source>the disk reported a fault</source>
+        <translation>диск повідомив про помилку</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>такого файлу чи теки немає</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>відкрито забагато файлів</translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation>у вас немає дозволу</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>вашу квоту на диску вичерпано</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>
@@ -1071,7 +1179,7 @@
     <message>
         <source>o</source>
         <comment>The letter of the title “Protection is on” or “off” that is its access key; - for none</comment>
-        <translation>-</translation>
+        <translation>х</translation>
     </message>
 </context>
 <context>

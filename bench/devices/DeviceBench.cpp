@@ -104,6 +104,7 @@ void unplugAll(int count) {
         const Message connected = deviceList(0, count);
         pane.allConnectedDevices(&connected);
         std::vector<Message> departures;
+        departures.reserve(static_cast<std::size_t>(count));
         for (int number = 0; number < count; ++number)
             departures.emplace_back(message::deviceDisconnected, device(number));
         return seconds([&] {

@@ -91,7 +91,8 @@ Waits leastWaits(PaneOnFakes& fakes) {
 
 void measure(std::size_t count) {
     const TemporaryHome home;
-    posix::PosixFileManager files(home.path());
+    const fake::StringTable strings;
+    posix::PosixFileManager files(strings, home.path());
     PaneOnFakes fakes(&files);
     fill(files, count);
     const Waits waits = leastWaits(fakes);

@@ -1,7 +1,7 @@
 #include "agent/AgentApplication.h"
 
 #include "agent/Commands.h"
-#include "agent/DeviceFile.h"
+#include "agent/DeviceRecord.h"
 
 #include <QProcess>
 

@@ -121,8 +121,11 @@ bool AgentSettings::write() {
     contents.setObject(savedDevicesKey, savedDevices_);
     QDir().mkpath(QFileInfo(path_).path());
     QSaveFile file(path_);
+    // Flushed by itself: `commit` puts the file in place although what it still held back then does
+    // not fit on the disk.
     if (file.open(QIODevice::WriteOnly) &&
-        file.write(QJsonDocument(jsonFrom(contents)).toJson()) >= 0 && file.commit()) {
+        file.write(QJsonDocument(jsonFrom(contents)).toJson()) >= 0 && file.flush() &&
+        file.commit()) {
         changed_ = false;
         reported_ = false;
         return true;

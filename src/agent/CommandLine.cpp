@@ -78,7 +78,7 @@ ApplicationOptions readCommandLine(const QCoreApplication& application) {
     QCoreApplication::setApplicationName("zarvil-agent");
     QCoreApplication::setApplicationVersion(ZARVIL_VERSION);
     CommandLine line;
-    const ApplicationOptions options = line.read(application);
+    ApplicationOptions options = line.read(application);
     if (line.parser.isSet(line.exitWithParent))
         prctl(PR_SET_PDEATHSIG, SIGTERM);
     return options;

@@ -2,6 +2,9 @@
 
 #include "protocol/Value.h"
 
+#include <QByteArray>
+#include <QStringList>
+
 #include <optional>
 #include <string_view>
 
@@ -21,5 +24,16 @@ std::optional<Dictionary> takeDevice(Array& records, const Dictionary& device);
 
 /// "name, vendor, serial" for a reader.
 [[nodiscard]] std::string describe(const Dictionary& device);
+
+struct DeviceFileContents {
+    /// Dictionaries all of them, with every key that the file gives.
+    Array devices;
+    /// What could not be read, in words.
+    QStringList problems;
+};
+
+/// Reads a JSON list of device records. What is no record is left out and reported.
+[[nodiscard]] DeviceFileContents parseDevices(const QByteArray& json);
+[[nodiscard]] DeviceFileContents readDeviceFile(const QString& path);
 
 } // namespace zarvil::agent

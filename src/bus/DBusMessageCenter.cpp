@@ -45,9 +45,9 @@ Subscription DBusMessageCenter::addObserver(std::string_view name, Handler handl
         });
 }
 
-Subscription DBusMessageCenter::observeLink(LinkObserver observer) {
+Subscription DBusMessageCenter::observeLink(const LinkObserver& observer) {
     observer(link_);
-    return links_.add(std::move(observer));
+    return links_.add(observer);
 }
 
 void DBusMessageCenter::flush() {

@@ -32,7 +32,7 @@ public:
 
     void post(Message message) override;
     Subscription addObserver(std::string_view name, Handler handler) override;
-    Subscription observeLink(LinkObserver observer) override;
+    Subscription observeLink(const LinkObserver& observer) override;
 
     /// Waits, at most a second, until what was posted has reached the bus. For use before the
     /// process is ended: messages leave through another thread, which ends with the process.

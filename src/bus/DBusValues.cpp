@@ -64,9 +64,9 @@ QVariant encode(const Value& value, int depth);
 QVariantMap encodeDictionary(const Dictionary& dictionary, int depth) {
     QVariantMap map;
     for (const auto& [key, value] : dictionary.entries()) {
-        QVariant encoded = encode(value, depth + levelsOfDictionary);
+        const QVariant encoded = encode(value, depth + levelsOfDictionary);
         if (encoded.isValid())
-            map.insert(encodeText(key), std::move(encoded));
+            map.insert(encodeText(key), encoded);
     }
     return map;
 }

@@ -42,9 +42,10 @@ QStringList tabNames(const QWidget& window) {
 bool turnToTab(const QWidget& window, const QString& name) {
     QTabWidget* tabs = tabsOf(window);
     const auto index = name.isEmpty() ? -1 : namesIn(tabs).indexOf(name.toLower());
-    if (index >= 0)
-        tabs->setCurrentIndex(static_cast<int>(index));
-    return index >= 0;
+    if (!tabs || index < 0)
+        return false;
+    tabs->setCurrentIndex(static_cast<int>(index));
+    return true;
 }
 
 } // namespace zarvil::host

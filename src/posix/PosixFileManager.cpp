@@ -130,6 +130,9 @@ Outcome replace(const std::string& former, const std::string& path, std::string_
     if (outcome.removal == 0 && path == former && isFolder(former))
         outcome.removal = remove(former); // no file can be renamed over a folder
     outcome.write = file.commit();
+    // What could not be removed is replaced all the same; one that was missing is told of.
+    if (outcome.write == 0 && outcome.removal != ENOENT && file.isAt(former))
+        outcome.removal = 0;
     if (outcome.write != 0 || outcome.removal != 0)
         return outcome;
     // Two spellings may name one file, which then takes the new one, as where case is ignored.
@@ -140,21 +143,31 @@ Outcome replace(const std::string& former, const std::string& path, std::string_
     return outcome;
 }
 
-std::optional<Error> errorOf(std::string_view attempt, std::string_view path, int failure) {
-    return failure == 0 ? std::nullopt : std::optional(systemError(attempt, path, failure));
-}
-
 struct CloseDirectory {
     void operator()(DIR* directory) const { ::closedir(directory); }
 };
 
+// Keys of the string table.
+constexpr std::string_view saveFailed = "Could not save the file “%1”: %2.";
+constexpr std::string_view removeFailed = "Could not remove “%1”: %2.";
+constexpr std::string_view createFailed = "Could not create the folder “%1”: %2.";
+
 } // namespace
 
-PosixFileManager::PosixFileManager() : PosixFileManager(homeFolder()) {}
+PosixFileManager::PosixFileManager(const StringTable& strings)
+    : PosixFileManager(strings, homeFolder()) {}
 
-PosixFileManager::PosixFileManager(std::string home) : home_(std::move(home)) {
+PosixFileManager::PosixFileManager(const StringTable& strings, std::string home)
+    : strings_(strings), home_(std::move(home)) {
     while (home_.size() > 1 && home_.back() == '/')
         home_.pop_back();
+}
+
+std::optional<Error> PosixFileManager::errorOf(std::string_view sentence, std::string_view path,
+                                               int failure) const {
+    if (failure == 0)
+        return std::nullopt;
+    return systemError(strings_, sentence, path, failure);
 }
 
 std::string PosixFileManager::expandingTilde(std::string_view path) const {
@@ -178,11 +191,17 @@ std::vector<std::string> PosixFileManager::visibleContentsOfDirectory(std::strin
     const std::unique_ptr<DIR, CloseDirectory> directory(::opendir(std::string(path).c_str()));
     if (!directory)
         return names;
-    while (const dirent* entry = ::readdir(directory.get())) {
+    while (true) {
+        errno = 0;
+        const dirent* entry = ::readdir(directory.get());
+        if (!entry)
+            break;
         const std::string_view name(entry->d_name);
         if (!name.starts_with('.'))
             names.emplace_back(name);
     }
+    if (errno != 0) // half a list would be taken for the whole
+        names.clear();
     return names;
 }
 
@@ -213,27 +232,27 @@ std::optional<Error> PosixFileManager::writeText(std::string_view text, std::str
         failure = atomicity == Atomicity::Atomic ? writeAtomically(file, text)
                                                  : writeDirectly(file, text);
     }
-    return errorOf("save the file", path, failure);
+    return errorOf(saveFailed, path, failure);
 }
 
 Replacement PosixFileManager::replaceItem(std::string_view former, std::string_view text,
                                           std::string_view path) {
     if (hasNul(former))
-        return {systemError("remove", former, EINVAL), writeText(text, path, Atomicity::Atomic)};
+        return {errorOf(removeFailed, former, EINVAL), writeText(text, path, Atomicity::Atomic)};
     const Outcome outcome = hasNul(path) ? Outcome{refusalToRemove(std::string(former)), EINVAL}
                                          : replace(std::string(former), std::string(path), text);
-    return {errorOf("remove", former, outcome.removal),
-            errorOf("save the file", path, outcome.write)};
+    return {errorOf(removeFailed, former, outcome.removal),
+            errorOf(saveFailed, path, outcome.write)};
 }
 
 std::optional<Error> PosixFileManager::createDirectory(std::string_view path) {
     if (!hasNul(path) && ::mkdir(std::string(path).c_str(), folderMode) == 0)
         return std::nullopt;
-    return systemError("create the folder", path, hasNul(path) ? EINVAL : errno);
+    return errorOf(createFailed, path, hasNul(path) ? EINVAL : errno);
 }
 
 std::optional<Error> PosixFileManager::removeItem(std::string_view path) {
-    return errorOf("remove", path, hasNul(path) ? EINVAL : remove(std::string(path)));
+    return errorOf(removeFailed, path, hasNul(path) ? EINVAL : remove(std::string(path)));
 }
 
 } // namespace zarvil::posix

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "platform/FileManager.h"
+#include "platform/StringTable.h"
 
 namespace zarvil::posix {
 
 /// The file system of a POSIX computer. Names are bytes, taken as they are; one with a NUL names
-/// nothing. Nothing blocks on a pipe or a device that stands where a file is expected.
+/// nothing. Nothing blocks on a pipe or a device that stands where a file is expected. Errors speak
+/// the language of the string table, which must outlive this.
 class PosixFileManager final : public FileManager {
 public:
     /// The home folder is `$HOME`, else the one of the user database.
-    PosixFileManager();
-    explicit PosixFileManager(std::string home);
+    explicit PosixFileManager(const StringTable& strings);
+    PosixFileManager(const StringTable& strings, std::string home);
 
     [[nodiscard]] std::string expandingTilde(std::string_view path) const override;
     [[nodiscard]] FileKind kindOfItem(std::string_view path) const override;
@@ -26,6 +28,10 @@ public:
     [[nodiscard]] std::optional<Error> removeItem(std::string_view path) override;
 
 private:
+    [[nodiscard]] std::optional<Error> errorOf(std::string_view sentence, std::string_view path,
+                                               int failure) const;
+
+    const StringTable& strings_;
     std::string home_;
 };
 

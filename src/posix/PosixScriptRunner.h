@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ScriptRunner.h"
+#include "platform/StringTable.h"
 
 namespace zarvil::posix {
 
@@ -13,12 +14,15 @@ public:
     /// Has a call made on the main thread, soon; itself called on any thread.
     using OnMainThread = std::function<void(std::function<void()>)>;
 
-    explicit PosixScriptRunner(OnMainThread onMainThread)
-        : onMainThread_(std::move(onMainThread)) {}
+    /// Errors speak the language of the string table, which is asked on the main thread and must
+    /// outlive the runs.
+    PosixScriptRunner(const StringTable& strings, OnMainThread onMainThread)
+        : strings_(strings), onMainThread_(std::move(onMainThread)) {}
 
     [[nodiscard]] std::unique_ptr<ScriptRun> start(std::string_view source, Ended ended) override;
 
 private:
+    const StringTable& strings_;
     OnMainThread onMainThread_;
 };
 

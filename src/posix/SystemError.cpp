@@ -32,19 +32,18 @@ constexpr std::array<std::pair<int, std::string_view>, 16> reasons{{
 
 } // namespace
 
-std::string reason(int errorNumber) {
+std::string reason(const StringTable& strings, int errorNumber) {
     for (const auto& [number, words] : reasons) {
         if (number == errorNumber)
-            return std::string(words);
+            return strings.localizedString(words);
     }
     return std::generic_category().message(errorNumber);
 }
 
-Error systemError(std::string_view attempt, std::string_view path, int errorNumber) {
-    std::string description = "Could not ";
-    description.append(attempt).append(" “").append(printableLine(path)).append("”: ");
-    description.append(reason(errorNumber)).append(".");
-    return {std::string(cocoaErrorDomain), errorNumber, std::move(description)};
+Error systemError(const StringTable& strings, std::string_view sentence, std::string_view path,
+                  int errorNumber) {
+    return {std::string(cocoaErrorDomain), errorNumber,
+            strings.localizedString(sentence, {printableLine(path), reason(strings, errorNumber)})};
 }
 
 } // namespace zarvil::posix

@@ -5,6 +5,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace zarvil::agent {
 namespace {
 
@@ -95,6 +98,30 @@ TEST_F(Settings, thatCannotBeWrittenAreReportedKeptInMemoryAndWrittenLater) {
     ASSERT_TRUE(blocking.remove());
     EXPECT_TRUE(waitFor([&] { return QFile::exists(settingsFile()); }));
     EXPECT_EQ(logText().count("Cannot write the settings"), 1);
+}
+
+TEST_F(Settings, stayAsTheyWereWhereTheNewOnesDoNotFit) {
+    AgentLog quiet(folder.filePath("log"));
+    QFile file(folder.filePath("stored"));
+    const auto contents = [&] { return file.open(QIODevice::ReadOnly) ? file.readAll() : "none"; };
+    AgentSettings kept(file.fileName(), quiet);
+    kept.store(setting::shutdownDelay, 5);
+    ASSERT_TRUE(kept.write());
+    const QByteArray before = contents();
+    file.close();
+    rlimit former{};
+    getrlimit(RLIMIT_FSIZE, &former);
+    const rlimit none{0, former.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+    kept.store(setting::shutdownDelay, 6);
+    EXPECT_FALSE(kept.write());
+    setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(contents(), before);
+    file.close();
+    EXPECT_TRUE(kept.write());
+    EXPECT_NE(contents(), before);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "AgentHarness.h"
 #include "agent/Commands.h"
-#include "agent/DeviceFile.h"
+#include "agent/DeviceRecord.h"
 
 namespace zarvil::agent {
 namespace {

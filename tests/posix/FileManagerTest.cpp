@@ -26,7 +26,13 @@ TEST_F(FileManagerTest, onlyALeadingTildeOfItsOwnIsExpanded) {
     EXPECT_EQ(files.expandingTilde("~"), home);
     for (const std::string_view path : {"~other/x", "/a/~/b", "", "~~"})
         EXPECT_EQ(files.expandingTilde(path), path);
-    EXPECT_EQ(PosixFileManager("/").expandingTilde("~/x"), "/x");
+    EXPECT_EQ(PosixFileManager(strings, "/").expandingTilde("~/x"), "/x");
+}
+
+TEST_F(FileManagerTest, errorsSpeakTheLanguageOfTheStringTable) {
+    strings.translations = {{"Could not remove “%1”: %2.", "%2 – „%1“"},
+                            {"there is no such file or folder", "gibt es nicht"}};
+    EXPECT_EQ(files.removeItem("/nowhere")->description, "gibt es nicht – „/nowhere“");
 }
 
 TEST_F(FileManagerTest, readsExactlyWhatIsUtf8) {

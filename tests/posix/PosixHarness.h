@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Fakes.h"
 #include "posix/PosixFileManager.h"
 
 #include <gtest/gtest.h>
@@ -69,7 +70,8 @@ protected:
     }
 
     const fs::path home = makeHome();
-    PosixFileManager files{(home / "").string()};
+    fake::StringTable strings;
+    PosixFileManager files{strings, (home / "").string()};
 };
 
 } // namespace zarvil::posix

@@ -64,7 +64,7 @@ protected:
             std::this_thread::yield();
     }
 
-    PosixScriptRunner runner{[](const std::function<void()>& call) { call(); }};
+    PosixScriptRunner runner{strings, [](const std::function<void()>& call) { call(); }};
 };
 
 TEST_F(ScriptRunnerTest, successIsSilentWhateverTheScriptPrints) {

@@ -8,12 +8,14 @@ namespace zarvil {
 
 /// One pane on fake ports and an in-process bus, not yet loaded.
 struct PaneOnFakes {
-    /// On the caller's file system, if there is one.
-    explicit PaneOnFakes(FileManager* onDisk = nullptr)
-        : disk(onDisk ? *onDisk : files), platform{handlers,     bus,           time,     time,
-                                                   workspace,    disk,          defaults, errors,
-                                                   scriptRunner, authorization, strings,  {},
-                                                   modal,        processes,     ""} {}
+    /// On the caller's file system, with the caller's scripts, if there are such.
+    explicit PaneOnFakes(FileManager* onDisk = nullptr, ScriptRunner* running = nullptr)
+        : disk(onDisk ? *onDisk : files),
+          platform{handlers,      bus,       time,
+                   time,          workspace, disk,
+                   defaults,      errors,    running ? *running : scriptRunner,
+                   authorization, strings,   {},
+                   modal,         processes, ""} {}
 
     HandlerQueue handlers;
     InProcessMessageCenter bus;

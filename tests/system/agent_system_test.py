@@ -1,9 +1,12 @@
 """The agent's program, as its operator and other programs meet it."""
 
+import json
+import os
 import subprocess
 import unittest
 
-from desktop import BUILD, PATIENCE, SystemTest, wait_until
+from desktop import AGENT_NAME, BUILD, PATH, PATIENCE, SystemTest, wait_until
+from gi.repository import Gio, GLib
 
 
 class Program(SystemTest):
@@ -34,6 +37,76 @@ class Program(SystemTest):
         for problem in ("missing.json", "No application opens"):
             wait_until(lambda: problem in self.session.agent_log.read_text(), f"{problem} is told")
         self.assertIsNone(agent.poll())
+
+
+class WrongAgent:
+    """Owns the agent's name in this process and answers as told: replies maps a message's name to
+    what is sent for it, each a name and a payload."""
+
+    def __init__(self, replies, signature="(a{sv})"):
+        self.replies, self.signature = replies, signature
+        self.bus = Gio.DBusConnection.new_for_address_sync(
+            os.environ["DBUS_SESSION_BUS_ADDRESS"],
+            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        self.bus.signal_subscribe(None, AGENT_NAME, None, PATH, None, 0, self.answer)
+        self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                           "RequestName", GLib.Variant("(su)", (AGENT_NAME, 4)), None, 0, -1, None)
+
+    def answer(self, _bus, _sender, _path, _interface, name, _payload):
+        for reply, info in self.replies.get(name, ()):
+            payload = GLib.Variant(self.signature, (info,)) if info is not None else None
+            self.bus.emit_signal(None, PATH, AGENT_NAME, reply, payload)
+
+
+class Check(SystemTest):
+    def check(self, *options):
+        """The status and the rules that are broken."""
+        process = self.session.start(BUILD / "bin/zarvil-check-agent", *options,
+                                     stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        wait_until(lambda: process.poll() is not None, "the check is over")
+        output = process.stdout.read()
+        process.stderr.close()
+        return process.returncode, [line for line in output.splitlines() if "WRONG" in line]
+
+    def test_finds_nothing_wrong_with_an_agent_that_keeps_the_rules(self):
+        self.assertEqual(self.check()[0], 2, "without an agent")
+        agent = self.session.start_agent("--test-duration", "300")
+        self.session.tell(agent, "save Kept|by|1")
+        self.assertEqual(self.check(), (0, []))
+        stored = json.loads(self.session.settings_file.read_text())
+        self.assertEqual([device["DeviceName"] for device in stored["SavedDevices"]], ["Kept"])
+        self.assertEqual(self.check("--all"), (0, []))
+        self.assertEqual(agent.wait(PATIENCE), 0, "it was asked to quit")
+
+    def test_names_the_rules_that_wrong_agents_break(self):
+        flag = GLib.Variant("b", True)
+        nothing = {"devices": GLib.Variant("av", [])}
+        pong = [("ZVPingTest", None)]
+        lists = [(name, nothing)
+                 for name in ("ZVAllSavedDevices", "ZVAllConnectedDevices", "ZVAllDevices")]
+        state = ("ZVState2", {"state": flag})
+        wrong = {
+            "mute": ({}, "(a{sv})", ["answers ZVPing"]),
+            "hasty": ({"ZVPing": pong, "ZVState": [state],
+                       "ZVPrefsLoaded": [state, *lists, ("ZVSavedPrefs", {"Testing": flag}),
+                                         ("ZVQuitPrefs", None)]},
+                      "(a{sv})", ["in this order", "report back what ZVState",
+                                  "no ZVQuitPrefs unasked: ZVQuitPrefs", "stores every setting"]),
+            "foreign": ({"ZVPing": pong * 2,
+                         "ZVPrefsLoaded": [("ZVSavedPrefs", "text"), *[(name, "text") for name, _ in lists],
+                                           ("ZVState2", "text")]},
+                        "(s)", ["each of many pings once", "the type a{sv}", "the state as a boolean", "devices as records"]),
+        }
+        for kind, (replies, signature, broken) in wrong.items():
+            agent = WrongAgent(replies, signature)
+            try:
+                status, rules = self.check()
+            finally:  # whoever owns the name at the session's end is killed
+                agent.bus.close_sync()
+            self.assertEqual(status, 1, kind)
+            for rule in broken:
+                self.assertTrue(any(rule in line for line in rules), f"{kind}: {rule} not in {rules}")
 
 
 if __name__ == "__main__":

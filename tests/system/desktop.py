@@ -158,7 +158,8 @@ class Session:
     def kill_owner(self, name):
         """Ends an agent that the pane itself has launched in this session."""
         with contextlib.suppress(GLib.Error, ProcessLookupError):
-            if pid := self.owner(name):
+            pid = self.owner(name)
+            if pid and pid != os.getpid():
                 os.kill(pid, signal.SIGKILL)
 
     def broadcast(self, message, info=None):

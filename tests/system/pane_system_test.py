@@ -77,6 +77,19 @@ class Assistive(SystemTest):
             ("Check for Updates Now", "push button"): None, ("View Log", "push button"): None,
             ("Uninstall…", "push button"): None}}
 
+    # What is typed into a field and the setting that then holds it.
+    ENTERED = {
+        "Alerts": (("Address", "me@example.org", "EmailAddress"),
+                   ("Pushover user ID", "user", "PushUserId"),
+                   ("Pushover device ID", "phone", "PushDeviceId"))}
+    # What a press shows; links, log, updates, scripts and uninstalling have tests of their own.
+    SHOWN = {
+        "General": (("Delay in minutes", "check box",
+                     "Minutes from the power failure. Return stores the number."),
+                    ("Test Shutdown", "push button", "A test is running. Nothing is shut down.")),
+        "Alerts": (("Send a Test", "push button", "Settings are valid!"),),
+        "About": (("Help", "push button", "Help: About"),)}
+
     def operable(self):
         """What shows and takes the keyboard, apart from tabs, lists and the lock."""
         return {(desktop.clear(node.get_name()), node.get_role_name())
@@ -87,6 +100,7 @@ class Assistive(SystemTest):
 
     def test_every_control_has_its_name_and_role_and_is_pressed_by_name(self):
         self.start()
+        self.tell("push 0")
         self.tell("state on")
         wait_until(lambda: self.pane.checked("Power protection"), "the protection is on")
         for tab, controls in self.CONTROLS.items():
@@ -99,11 +113,25 @@ class Assistive(SystemTest):
                     if before:
                         self.pane.press(name)
                         wait_until(lambda: self.pane.checked(name), "it is ticked again")
+            for name, text, key in self.ENTERED.get(tab, ()):
+                self.pane.enter(name, text)
+                wait_until(lambda: self.session.stored(key) == text, f"{key} is stored")
             expected = set(self.AROUND) | set(controls)
             try:
                 wait_until(lambda: self.operable() == expected, f"{tab} is complete", 10)
             except AssertionError:
                 self.assertEqual(self.operable(), expected)
+            if tab == "About":
+                self.one_frame_and_what_stands_around()
+            for name, role, words in self.SHOWN.get(tab, ()):
+                self.pane.press(name, role)
+                wait_until(lambda: self.pane.showing(words), f"{name} shows {words}")
+        for name in ("Connected", "Watched", "Scripts"):
+            self.pane.get(name, "list")
+        self.pane.press("Quit Zarvil", "push button")
+        self.agent.wait(desktop.PATIENCE)
+
+    def one_frame_and_what_stands_around(self):
         frames = [node.get_name() for node in self.pane.shown_things()
                   if node.get_role_name() == "frame"]
         self.assertEqual(frames, ["Zarvil"])
@@ -111,20 +139,31 @@ class Assistive(SystemTest):
             self.pane.press(name, role)
         wait_until(lambda: self.pane.page_shows(0), "the link leads to the devices")
         wait_until(lambda: self.pane.showing("Protection is off"), "the switch has been pressed")
+        self.pane.press("Power protection", "check box")
+        wait_until(lambda: self.pane.showing("Protection is on"), "and once more")
+        self.pane.choose_tab("About")
 
     def test_what_happens_elsewhere_is_announced(self):
         heard = []
         listener = Atspi.EventListener.new(lambda event: heard.append(event.any_data))
         listener.register("object:announcement")
+        self.session.settings_file.parent.mkdir(parents=True)
+        self.session.settings_file.write_text('{"UsePushover": true, "PushUserId": "user"}')
         self.start()
         wait_until(lambda: self.pane.showing("Zarvil is running"), "the pane is alive")
         self.tell("plug UPS|Maker|1")
         self.tell("unplug UPS|Maker|1")
         wait_until(lambda: len(heard) >= 2, "the device is announced")
+        self.tell("push 1")
+        self.pane.choose_tab("Alerts")
+        self.pane.press("Send a Test")
+        wait_until(lambda: len(heard) >= 3, "the verdict is announced")
         self.agent.kill()
         self.agent.wait()
-        wait_until(lambda: len(heard) >= 3, "the loss is announced")
-        self.assertEqual(heard, ["Connected: UPS", "Disconnected: UPS", "Zarvil is not running"])
+        wait_until(lambda: len(heard) >= 4, "the loss is announced")
+        self.assertEqual(heard, ["Connected: UPS", "Disconnected: UPS",
+                                 "Connection timeout! Check your Internet connection!",
+                                 "Zarvil is not running"])
 
 
 class Presence(SystemTest):

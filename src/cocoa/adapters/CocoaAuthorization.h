@@ -5,7 +5,7 @@
 #include "interface/AuthorizationView.h"
 #include "platform/Authorization.h"
 #include "platform/StringTable.h"
-#include "platform/Timers.h"
+#include "platform/Time.h"
 
 #include <memory>
 

@@ -39,9 +39,9 @@ private:
     CocoaTimers timers_;
     posix::PosixClock clock_;
     CocoaWorkspace workspace_;
-    posix::PosixFileManager files_;
     CocoaUserDefaults defaults_;
     CocoaStringTable strings_;
+    posix::PosixFileManager files_{strings_};
     AlertQueue alerts_{handlers_, strings_};
     std::unique_ptr<ScriptRunner> scripts_;
     CocoaAuthorization authorization_{timers_, strings_};

@@ -7,7 +7,7 @@
 namespace zarvil::cocoa {
 
 CocoaPlatform::CocoaPlatform(std::string root)
-    : scripts_(makeScriptRunner()),
+    : scripts_(makeScriptRunner(strings_)),
       platform_{.handlers = handlers_,
                 .messages = messages_,
                 .timers = timers_,

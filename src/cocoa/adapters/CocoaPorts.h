@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/StickyClick.h"
+#include "platform/Pointer.h"
 #include "platform/StringTable.h"
 #include "platform/UserDefaults.h"
 

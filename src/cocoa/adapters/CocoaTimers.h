@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Timers.h"
+#include "platform/Time.h"
 
 namespace zarvil::cocoa {
 

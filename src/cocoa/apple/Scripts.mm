@@ -32,6 +32,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<ScriptRunner> makeScriptRunner() { return std::make_unique<AppleScriptRunner>(); }
+std::unique_ptr<ScriptRunner> makeScriptRunner(const StringTable& /*strings*/) {
+    return std::make_unique<AppleScriptRunner>();
+}
 
 } // namespace zarvil::cocoa

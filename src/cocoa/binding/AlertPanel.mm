@@ -1,31 +1,14 @@
 #import "cocoa/binding/AlertPanel.h"
 
+#import "cocoa/binding/Alert.h"
 #import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"
-#import "cocoa/support/Ref.h"
 
 #include "platform/AlertQueue.h"
-
-#import <AppKit/AppKit.h>
 
 #include <memory>
 
 namespace zarvil::cocoa {
-
-namespace {
-
-void showAlert(AlertQueue& alerts) {
-    const auto& text = alerts.textProperty().get();
-    if (!text)
-        return;
-    const auto alert = Ref<NSAlert>::adopt([[NSAlert alloc] init]);
-    [alert.get() setAlertStyle:NSWarningAlertStyle];
-    [alert.get() setMessageText:toCocoa(*text)];
-    [alert.get() addButtonWithTitle:toCocoa(alerts.buttonTitle())];
-    [alert.get() runModal];
-}
-
-} // namespace
 
 Subscription presentAlerts(AlertQueue& alerts) {
     AlertQueue* queue = &alerts;
@@ -37,7 +20,7 @@ Subscription presentAlerts(AlertQueue& alerts) {
                 callOnMainThread([=] {
                     if (!*alive)
                         return;
-                    showAlert(*queue);
+                    runAlert(toCocoa(*text), toCocoa(queue->buttonTitle()));
                     if (*alive)
                         queue->dismiss();
                 });

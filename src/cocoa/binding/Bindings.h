@@ -34,6 +34,9 @@ using Subscriptions = std::vector<Subscription>;
 /// To be called when the bound control has sent its action.
 using Operated = std::function<void()>;
 
+/// Gives an object a delegate until the subscription ends, which shares it: the object does not.
+[[nodiscard]] Subscription setDelegate(id object, id delegate);
+
 void bindView(View& model, NSView* view, Subscriptions& kept);
 [[nodiscard]] Operated bindButton(Button& model, NSButton* view, Subscriptions& kept);
 void bindLabel(TextField& model, NSTextField* view, Subscriptions& kept);

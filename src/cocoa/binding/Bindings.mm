@@ -101,6 +101,17 @@ void bindText(TextField& model, NSTextField* view, Subscriptions& kept) {
 
 } // namespace
 
+Subscription setDelegate(id object, id delegate) {
+    [object setDelegate:delegate];
+    const Ref<NSObject> shared(object);
+    const Ref<NSObject> owned(delegate);
+    return Subscription([=] {
+        id delegating = shared.get();
+        if ([delegating delegate] == owned.get())
+            [delegating setDelegate:nil];
+    });
+}
+
 void bindView(View& model, NSView* view, Subscriptions& kept) {
     const Ref<NSView> shared(view);
     kept.push_back(model.hiddenProperty().observe(
@@ -234,7 +245,7 @@ void bindPanel(Panel& model, NSWindow* window, CocoaModalLoop& modal,
     const Ref<NSWindow> shared(window);
     const auto delegate = Ref<ZVPanelDelegate>::adopt([[ZVPanelDelegate alloc] init]);
     delegate.get()->cancelled = [[ZVCall callWithFunction:cancelled] retain];
-    [window setDelegate:static_cast<id>(delegate.get())];
+    kept.push_back(setDelegate(window, delegate.get()));
     [window setReleasedWhenClosed:NO];
     modal.setWindow(model, window);
     Panel* panel = &model;
@@ -251,7 +262,6 @@ void bindPanel(Panel& model, NSWindow* window, CocoaModalLoop& modal,
             [shown orderOut:nil];
         }
     }));
-    kept.push_back(Subscription([=] { [shared.get() setDelegate:nil]; }));
 }
 
 } // namespace zarvil::cocoa

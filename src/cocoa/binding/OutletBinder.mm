@@ -148,17 +148,12 @@ public:
             guidance->selectTab(static_cast<Tab>(index));
         };
         observer.get()->chosen = [[ZVCall callWithFunction:choose] retain];
-        [tabs setDelegate:static_cast<id>(observer.get())];
+        kept_.push_back(setDelegate(tabs, observer.get()));
         const Ref<NSTabView> shared(tabs);
         kept_.push_back(pane_.guidance.selectedTabProperty().observe([=](Tab tab, Transition) {
             const auto index = static_cast<NSInteger>(tab);
             if (index < [shared.get() numberOfTabViewItems])
                 [shared.get() selectTabViewItemAtIndex:index];
-        }));
-        // Shares the observer, which the tabs do not.
-        kept_.push_back(Subscription([=] {
-            if (observer.get())
-                [shared.get() setDelegate:nil];
         }));
     }
 

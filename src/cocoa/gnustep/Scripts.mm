@@ -6,8 +6,8 @@
 
 namespace zarvil::cocoa {
 
-std::unique_ptr<ScriptRunner> makeScriptRunner() {
-    return std::make_unique<posix::PosixScriptRunner>(callOnMainThread);
+std::unique_ptr<ScriptRunner> makeScriptRunner(const StringTable& strings) {
+    return std::make_unique<posix::PosixScriptRunner>(strings, callOnMainThread);
 }
 
 } // namespace zarvil::cocoa

@@ -5,11 +5,17 @@
 #import "cocoa/binding/Localization.h"
 #import "cocoa/binding/OutletBinder.h"
 #import "cocoa/binding/ScriptPanel.h"
+#import "cocoa/pane/Layout.h"
 #import "cocoa/support/Convert.h"
+#import "cocoa/support/Guard.h"
 
 #include "pane/Zarvil_Preferences.h"
 
 #include <cstdlib>
+
+@interface Zarvil_Preferences ()
+- (NSView*)loadLayout;
+@end
 
 namespace zarvil::cocoa {
 
@@ -19,6 +25,20 @@ namespace {
 std::string trialRoot() {
     const char* root = std::getenv("ZARVIL_ROOT");
     return root ? root : "";
+}
+
+/// What stands for a layout that does not load: a host wants a view of every pane.
+NSView* newViewOfNoLayout() {
+    constexpr NSRect frame{{0, 0}, {595, 160}};
+    // Without any font no layout loads, and no text can be drawn.
+    if (![NSFont systemFontOfSize:0])
+        return [[NSView alloc] initWithFrame:frame];
+    ZVPlaceholderView* view = [[ZVPlaceholderView alloc] initWithFrame:frame];
+    const CocoaStringTable strings;
+    const Placeholder::Text text{
+        Symbol::Warning, strings.localizedString("The operation could not be completed."), {}};
+    [view showText:text];
+    return view;
 }
 
 } // namespace
@@ -57,6 +77,28 @@ ZV_OUTLETS(ZV_ACCESSORS)
 }
 
 // Life within the host.
+
+- (NSView*)loadLayout {
+    return [super loadMainView];
+}
+
+// A layout that is damaged may raise.
+- (NSView*)loadMainView {
+    NSView* view = nil;
+    NSView** loaded = &view;
+    Zarvil_Preferences* pane = self;
+    if (NSException* raised = zarvil::cocoa::guarded([=] { *loaded = [pane loadLayout]; }))
+        NSLog(@"Zarvil: the layout does not load: %@", [raised reason]);
+    if (!view) {
+        [self setMainView:zarvil::cocoa::newViewOfNoLayout()];
+        [[self mainView] release];
+        return [self mainView];
+    }
+    zarvil::cocoa::releaseTopLevelObjects([NSArray arrayWithObjects:uninstallModal, arrayController,
+                                                                    savedArrayController,
+                                                                    scriptsArrayController, nil]);
+    return view;
+}
 
 - (void)mainViewDidLoad {
     if (_loaded || ![self mainView])

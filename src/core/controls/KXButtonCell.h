@@ -2,8 +2,8 @@
 
 #include "interface/ButtonCell.h"
 #include "platform/Canvas.h"
-#include "platform/Clock.h"
-#include "platform/StickyClick.h"
+#include "platform/Pointer.h"
+#include "platform/Time.h"
 
 #include <memory>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "interface/Button.h"
-#include "platform/Cursor.h"
+#include "platform/Pointer.h"
 
 namespace zarvil {
 

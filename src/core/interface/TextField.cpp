@@ -36,7 +36,7 @@ void TextField::setStringValue(std::string_view value) {
     text_.set(settledText_);
 }
 
-void TextField::showNumber(Number number, std::string text) {
+void TextField::showNumber(Number number, std::string_view text) {
     setStringValue(text);
     settledNumber_ = number;
 }

@@ -64,7 +64,7 @@ private:
     using Number = std::variant<std::int64_t, float>;
 
     void endEdit(bool isLeft);
-    void showNumber(Number number, std::string text);
+    void showNumber(Number number, std::string_view text);
     /// The number that the field was set to, while it shows it.
     [[nodiscard]] const Number* shownNumber() const;
     [[nodiscard]] std::string numericText() const;

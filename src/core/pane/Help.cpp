@@ -148,6 +148,7 @@ constexpr std::array controls{
 HelpPage helpOf(Tab tab, std::string_view scriptsFolder, const StringTable& strings) {
     const PageKeys& keys = pages.at(static_cast<std::size_t>(tab));
     HelpPage page{strings.localizedString(keys.title), {}};
+    page.sections.reserve(keys.sections.size());
     for (const auto& [heading, text] : keys.sections)
         page.sections.push_back(
             {strings.localizedString(heading), strings.localizedString(text, {scriptsFolder})});
@@ -156,6 +157,7 @@ HelpPage helpOf(Tab tab, std::string_view scriptsFolder, const StringTable& stri
 
 std::vector<ControlHelp> helpOfControls(const StringTable& strings) {
     std::vector<ControlHelp> help;
+    help.reserve(controls.size());
     for (const auto& [outlet, text] : controls)
         help.push_back({outlet, strings.localizedString(text)});
     return help;

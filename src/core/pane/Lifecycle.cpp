@@ -47,8 +47,8 @@ void Zarvil_Preferences::mainViewDidLoad() {
     appTimer = platform_.handlers.schedule(platform_.timers, pingPeriod, Repetition::Repeating,
                                            [this] { appStatus(); });
     if (auto* cell = toggleMinSec.cellAs<KXButtonCell>()) {
-        cell->setOnTitle("Min");
-        cell->setOffTitle("Sec");
+        cell->setOnTitle(platform_.strings.localizedString("Min"));
+        cell->setOffTitle(platform_.strings.localizedString("Sec"));
         cell->setShowStateExtras(true);
     }
     restoreDelayUnit();

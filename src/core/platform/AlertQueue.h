@@ -1,7 +1,7 @@
 #pragma once
 
 #include "interface/Property.h"
-#include "platform/ErrorPresenter.h"
+#include "platform/Error.h"
 #include "platform/HandlerQueue.h"
 #include "platform/StringTable.h"
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/NonCopyable.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,5 +18,14 @@ struct Error {
 
 /// The domain of errors that the original platform's frameworks report.
 inline constexpr std::string_view cocoaErrorDomain = "NSCocoaErrorDomain";
+
+/// Shows errors to the user in the application's standard alert.
+class ErrorPresenter : NonCopyable {
+public:
+    virtual ~ErrorPresenter() = default;
+
+    /// Takes the error and returns at once; runs no event loop.
+    virtual void presentError(const Error& error) = 0;
+};
 
 } // namespace zarvil

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Timers.h"
+#include "platform/Time.h"
 #include "protocol/NonCopyable.h"
 #include "protocol/ObserverList.h"
 

@@ -3,10 +3,8 @@
 #include "protocol/NonCopyable.h"
 
 namespace zarvil {
-class Panel;
-}
 
-namespace zarvil {
+class Panel;
 
 /// Nested run loops that a panel waits in.
 class ModalLoop : NonCopyable {

@@ -8,9 +8,9 @@ Subscription InProcessMessageCenter::addObserver(std::string_view name, Handler 
     return observers_.try_emplace(std::string(name)).first->second.add(std::move(handler));
 }
 
-Subscription InProcessMessageCenter::observeLink(LinkObserver observer) {
+Subscription InProcessMessageCenter::observeLink(const LinkObserver& observer) {
     observer(LinkEvent::Up);
-    return links_.add(std::move(observer));
+    return links_.add(observer);
 }
 
 void InProcessMessageCenter::deliver() {

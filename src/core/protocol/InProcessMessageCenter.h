@@ -15,7 +15,7 @@ public:
     void post(Message message) override;
     Subscription addObserver(std::string_view name, Handler handler) override;
 
-    Subscription observeLink(LinkObserver observer) override;
+    Subscription observeLink(const LinkObserver& observer) override;
     /// Plays the fate of a bus.
     void announce(LinkEvent event) { links_.notify(event); }
 

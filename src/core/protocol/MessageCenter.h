@@ -60,7 +60,7 @@ public:
 
     /// Calls the observer at once with `Up` or `Down`, then with every event, in order with the
     /// messages. A center that nothing can cut off is always up.
-    virtual Subscription observeLink(LinkObserver observer) {
+    virtual Subscription observeLink(const LinkObserver& observer) {
         observer(LinkEvent::Up);
         return {};
     }

@@ -92,12 +92,14 @@ void AreaCoverage::addInRow(float* cells, double fromX, double toX, double heigh
 }
 
 void AreaCoverage::row(int y, Coverage* coverage) const {
+    if (region_.isEmpty())
+        return;
     const float* changes = changes_.data() + static_cast<std::size_t>(y) *
                                                  (static_cast<std::size_t>(region_.width) + 1);
     float covered = 0;
     for (int x = 0; x < region_.width; ++x) {
         covered += changes[x];
-        coverage[x] = static_cast<Coverage>(std::min(std::abs(covered), 1.0F) * 65535.0F + 0.5F);
+        coverage[x] = coverageOf(std::min(std::abs(covered), 1.0F));
     }
 }
 

@@ -19,7 +19,8 @@ public:
     void cover(const Outline& outline, const PixelRect& region);
 
     [[nodiscard]] const PixelRect& region() const { return region_; }
-    /// Writes as many values as the region is wide; y counts from the region's top.
+    /// Writes as many values as the region is wide; y counts from the region's top. Of an empty
+    /// region, which may have rows without pixels, there is nothing to write.
     void row(int y, Coverage* coverage) const;
 
 private:

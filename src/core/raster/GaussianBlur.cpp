@@ -51,6 +51,7 @@ void GaussianBlur::apply(Plane& plane, double standardDeviation, const PixelRect
     if (reach == 0 || window.isEmpty())
         return;
     setKernel(kernel_, std::min(standardDeviation, maxDeviation), reach);
+    const float* const weights = kernel_.data() + reach; // by the distance, which may be negative
     const int top = std::max(0, window.y - reach);
     const int bottom = std::min(plane.height, window.bottom() + reach);
     along_.reset(plane.width, plane.height);
@@ -59,14 +60,13 @@ void GaussianBlur::apply(Plane& plane, double standardDeviation, const PixelRect
             const int first = std::max(window.x, -offset);
             const int last = std::min(window.right(), plane.width - offset);
             addScaled(along_.row(y) + first, plane.row(y) + first + offset, last - first,
-                      kernel_[static_cast<std::size_t>(offset + reach)]);
+                      weights[offset]);
         }
     for (int y = window.y; y < window.bottom(); ++y) {
         float* row = plane.row(y) + window.x;
         std::fill_n(row, window.width, 0.0F);
         for (int from = std::max(top, y - reach); from <= std::min(bottom - 1, y + reach); ++from)
-            addScaled(row, along_.row(from) + window.x, window.width,
-                      kernel_[static_cast<std::size_t>(from - y + reach)]);
+            addScaled(row, along_.row(from) + window.x, window.width, weights[from - y]);
     }
 }
 

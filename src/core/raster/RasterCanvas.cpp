@@ -7,7 +7,6 @@
 
 namespace zarvil {
 
-using raster::AreaCoverage;
 using raster::Coverage;
 using raster::fullCoverage;
 using raster::Mask;

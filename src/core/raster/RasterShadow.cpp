@@ -150,8 +150,7 @@ void RasterCanvas::blurInto(Mask& shadow, const PixelRect& region, const PixelRe
     for (int y = window.y; y < window.bottom(); ++y) {
         const float* values = memory_.shadowPlane_.row(y - plane.y) + (window.x - plane.x);
         std::transform(values, values + window.width, shadow.row(y), [](float value) {
-            const float level = std::clamp(value, 0.0F, 1.0F) * float{fullCoverage};
-            return static_cast<Coverage>(level + 0.5F);
+            return raster::coverageOf(std::clamp(value, 0.0F, 1.0F));
         });
     }
 }

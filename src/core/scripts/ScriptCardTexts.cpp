@@ -37,7 +37,7 @@ std::string ZVScriptCollectionItem::localized(std::string_view key) const {
 }
 
 std::string ZVScriptCollectionItem::failureText(const ScriptError& error) const {
-    const std::string message = showableText(error.message, longestShownLine);
+    std::string message = showableText(error.message, longestShownLine);
     if (!error.inItsOwnWords)
         return message;
     return platform_.strings.localizedString("Failed with exit status %1: %2",

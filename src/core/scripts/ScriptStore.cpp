@@ -58,8 +58,11 @@ void Zarvil_Preferences::loadScripts() {
         return;
     }
     // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
-    for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder))
-        listScript(scriptTexts_.makeScript(script::titleOfFile(name), folder + "/" + name));
+    for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
+        std::string path = folder;
+        path.append("/").append(name);
+        listScript(scriptTexts_.makeScript(script::titleOfFile(name), std::move(path)));
+    }
     resumeDrafts();
 }
 

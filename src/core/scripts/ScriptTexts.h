@@ -2,7 +2,7 @@
 
 #include "interface/Record.h"
 #include "platform/FileManager.h"
-#include "platform/Timers.h"
+#include "platform/Time.h"
 
 #include <deque>
 #include <memory>

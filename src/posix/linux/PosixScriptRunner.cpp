@@ -80,68 +80,86 @@ private:
     int failure_ = 0;
 };
 
-ScriptError startError(const std::string& interpreter, int errorNumber) {
-    return {errorNumber, "Could not start the script's interpreter “" + printableLine(interpreter) +
-                             "”: " + reason(errorNumber) + "."};
+/// Why a script did not run to a good end, as it is told on the main thread.
+struct Failure {
+    std::int64_t number = 0;
+    std::string_view text; ///< a key of the string table; none for the script's own words
+    std::string detail = {};
+    std::string further = {};
+    int errorNumber = 0; ///< why, in place of the first detail that is empty
+};
+
+ScriptError told(const StringTable& strings, Failure failure) {
+    if (failure.text.empty())
+        return {failure.number, std::move(failure.detail), true};
+    if (failure.errorNumber != 0)
+        (failure.detail.empty() ? failure.detail : failure.further) =
+            reason(strings, failure.errorNumber);
+    return {failure.number,
+            strings.localizedString(failure.text, {failure.detail, failure.further})};
 }
 
-std::string signalText(int signal) {
-    std::string text = "Signal " + std::to_string(signal);
-    if (const char* name = ::sigdescr_np(signal))
-        text += std::string(" (") + name + ")";
-    return text + " ended the script.";
+Failure signalFailure(int signal) {
+    const char* name = ::sigdescr_np(signal);
+    return {signalBase + signal,
+            name ? "Signal %1 (%2) ended the script." : "Signal %1 ended the script.",
+            std::to_string(signal), name ? name : ""};
 }
 
-std::optional<ScriptError> errorOf(const ProcessOutcome& outcome, const std::string& interpreter) {
+std::optional<Failure> failureOf(const ProcessOutcome& outcome, const std::string& interpreter) {
     switch (outcome.kind) {
     case ProcessOutcome::Kind::NotStarted:
-        return startError(interpreter, outcome.number);
+        return Failure{outcome.number,
+                       "Could not start the script's interpreter “%1”: %2.",
+                       printableLine(interpreter),
+                       {},
+                       outcome.number};
     case ProcessOutcome::Kind::Signalled:
-        return ScriptError{signalBase + outcome.number, signalText(outcome.number)};
+        return signalFailure(outcome.number);
     case ProcessOutcome::Kind::Unknown:
-        return ScriptError{ECHILD, "The script has ended, but its result got lost."};
+        return Failure{ECHILD, "The script has ended, but its result got lost."};
     case ProcessOutcome::Kind::Exited:
         break;
     }
     if (outcome.number == 0)
         return std::nullopt;
     if (!outcome.lastErrorLine.empty())
-        return ScriptError{outcome.number, outcome.lastErrorLine, true};
-    return ScriptError{outcome.number, "The script failed with exit status " +
-                                           std::to_string(outcome.number) + " and gave no reason."};
+        return Failure{outcome.number, {}, outcome.lastErrorLine};
+    return Failure{outcome.number, "The script failed with exit status %1 and gave no reason.",
+                   std::to_string(outcome.number)};
 }
 
-ScriptError preparationError(int errorNumber) {
-    return {errorNumber, "Could not prepare the script for running: " + reason(errorNumber) + "."};
+Failure preparationFailure(int errorNumber) {
+    return {errorNumber, "Could not prepare the script for running: %1.", {}, {}, errorNumber};
 }
 
 /// Returns when the script has ended.
-std::optional<ScriptError> runScript(std::string_view source, const RunControl& control) {
+std::optional<Failure> runScript(std::string_view source, const RunControl& control) {
     if (source.find('\0') != std::string_view::npos)
-        return ScriptError{EINVAL, "The script contains a NUL character, so it cannot be run."};
+        return Failure{EINVAL, "The script contains a NUL character, so it cannot be run."};
     TemporaryScript script;
     ProcessGuard guard(script.path());
     script.write(source);
     for (const int failure : {control.failure(), script.failure(), guard.failure()}) {
         if (failure != 0)
-            return preparationError(failure);
+            return preparationFailure(failure);
     }
     std::vector<std::string> command = interpreterOf(source);
     const std::string interpreter = command.front();
     command.push_back(script.path());
-    return errorOf(ScriptProcess::run(command, guard, control), interpreter);
+    return failureOf(ScriptProcess::run(command, guard, control), interpreter);
 }
 
 class PosixScriptRun final : public ScriptRun {
 public:
-    PosixScriptRun(std::string source, ScriptRunner::Ended ended,
+    PosixScriptRun(std::string source, ScriptRunner::Ended ended, const StringTable& strings,
                    PosixScriptRunner::OnMainThread onMainThread)
         : ended_(std::make_shared<ScriptRunner::Ended>(std::move(ended))) {
-        const auto report = [onMainThread = std::move(onMainThread),
-                             weak = std::weak_ptr(ended_)](std::optional<ScriptError> error) {
-            onMainThread([weak, error = std::move(error)] {
-                if (const auto told = weak.lock())
-                    (*told)(error);
+        const auto report = [&strings, onMainThread = std::move(onMainThread),
+                             weak = std::weak_ptr(ended_)](std::optional<Failure> failure) {
+            onMainThread([&strings, weak, failure = std::move(failure)] {
+                if (const auto listener = weak.lock())
+                    (*listener)(failure ? std::optional(told(strings, *failure)) : std::nullopt);
             });
         };
         try {
@@ -149,7 +167,7 @@ public:
                 report(runScript(source, control_));
             });
         } catch (const std::system_error& error) {
-            report(preparationError(error.code().value()));
+            report(preparationFailure(error.code().value()));
         }
     }
     ~PosixScriptRun() override {
@@ -171,7 +189,8 @@ private:
 } // namespace
 
 std::unique_ptr<ScriptRun> PosixScriptRunner::start(std::string_view source, Ended ended) {
-    return std::make_unique<PosixScriptRun>(std::string(source), std::move(ended), onMainThread_);
+    return std::make_unique<PosixScriptRun>(std::string(source), std::move(ended), strings_,
+                                            onMainThread_);
 }
 
 } // namespace zarvil::posix

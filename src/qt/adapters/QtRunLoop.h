@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/ModalLoop.h"
-#include "platform/Timers.h"
+#include "platform/Time.h"
 
 #include <vector>
 

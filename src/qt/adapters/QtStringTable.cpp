@@ -25,9 +25,11 @@ std::string QtStringTable::localizedCount(std::string_view one, std::string_view
     const auto number = static_cast<int>(std::clamp<std::int64_t>(count, INT_MIN, INT_MAX));
     const QString pattern = QString::fromUtf8(source);
     const QString text = QCoreApplication::translate(context, source.c_str(), nullptr, number);
+    // A table of plurals may give the key itself; it has no singular then, or it is not needed.
     const bool isTranslated =
         QString(pattern).replace(QLatin1String("%n"), QString::number(number)) != text;
-    return isTranslated ? text.toStdString() : StringTable::localizedCount(one, many, count);
+    return isTranslated || count != 1 ? text.toStdString()
+                                      : StringTable::localizedCount(one, many, count);
 }
 
 } // namespace zarvil

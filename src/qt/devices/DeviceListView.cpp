@@ -3,6 +3,7 @@
 #include "qt/devices/AccessibleDeviceList.h"
 #include "qt/devices/DeviceItemDelegate.h"
 #include "qt/devices/DeviceListModel.h"
+#include "qt/widgets/MarginScrollBar.h"
 
 namespace zarvil::qt {
 
@@ -31,6 +32,7 @@ DeviceListView::DeviceListView(QWidget* parent)
     setResizeMode(QListView::Adjust);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    MarginScrollBar::attachTo(*this);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
 }

@@ -49,14 +49,16 @@ private:
     posix::PosixProcessControl processes_;
 };
 
-QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
+QtPlatform::Parts partsOfThePlatform(MessageBus& session, const StringTable& strings) {
     auto messages = std::make_unique<DBusMessageCenter>(session, bus::agentName);
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
     return {std::move(messages), std::make_unique<posix::PosixClock>(),
-            std::make_unique<posix::PosixFileManager>(),
-            std::make_unique<posix::PosixScriptRunner>([](const std::function<void()>& call) {
-                QMetaObject::invokeMethod(qApp, call, Qt::QueuedConnection);
-            }),
+            std::make_unique<posix::PosixFileManager>(strings),
+            std::make_unique<posix::PosixScriptRunner>(strings,
+                                                       [](const std::function<void()>& call) {
+                                                           QMetaObject::invokeMethod(
+                                                               qApp, call, Qt::QueuedConnection);
+                                                       }),
             std::move(processes)};
 }
 
@@ -65,7 +67,7 @@ QtPlatform::Parts partsOfThePlatform(MessageBus& session) {
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
     explicit Loaded(const PaneOptions& options)
-        : platform(partsOfThePlatform(*options.session), *options.session,
+        : platform(partsOfThePlatform(*options.session, strings), *options.session,
                    options.root.toStdString()),
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
@@ -80,6 +82,7 @@ struct ZarvilPane::Loaded {
     }
 
     qt::Translation translation{qt::Translation::Toolkit::Left};
+    QtStringTable strings;
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;

@@ -53,6 +53,20 @@ void setInk(QLabel& label, const QColor& ink) {
     label.setPalette(palette);
 }
 
+/// Its lines as far as they fit beside each other; the accessible name is the whole text.
+void elide(QLabel& label) {
+    QStringList lines = label.accessibleName().split(u'\n');
+    for (QString& line : lines)
+        line = label.fontMetrics().elidedText(line, Qt::ElideRight, label.width());
+    label.setText(lines.join(u'\n'));
+}
+
+/// Of the whole text, however wide it is.
+int heightOfLines(const QLabel& label) {
+    const QString text = label.accessibleName();
+    return text.isEmpty() ? 0 : label.fontMetrics().size(0, text).height();
+}
+
 QFont textFontOf(const QWidget& widget) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(widget.font().pointSizeF() > 0 ? widget.font().pointSizeF()
@@ -136,7 +150,7 @@ void ScriptCard::showItem() {
     const bool empty = lines.isEmpty();
     text_->setFont(empty ? theme::scaled(font(), mutedScale) : textFontOf(*this));
     setInk(*text_, empty ? theme::mutedText(palette()) : palette().color(QPalette::WindowText));
-    text_->setText(empty ? QString::fromUtf8(item_->emptyText()) : lines.join(u'\n'));
+    text_->setAccessibleName(empty ? QString::fromUtf8(item_->emptyText()) : lines.join(u'\n'));
     showState();
 }
 
@@ -144,8 +158,9 @@ void ScriptCard::showState() {
     const ScriptNote& note = item_->noteProperty().get();
     const std::string& failure = item_->failureProperty().get();
     const QString reason = QString::fromUtf8(note.reason);
-    state_->setText(QString::fromUtf8(failure.empty() ? note.caption : failure));
-    state_->setToolTip(plainToolTip(failure.empty() ? reason : state_->text()));
+    const QString said = QString::fromUtf8(failure.empty() ? note.caption : failure);
+    state_->setAccessibleName(said);
+    state_->setToolTip(plainToolTip(failure.empty() ? reason : said));
     state_->setAccessibleDescription(reason);
     showCaption(*run_, item_->runCaption());
     showCaption(*edit_, item_->editCaption());
@@ -244,10 +259,10 @@ int ScriptCard::headerHeight(int width) const {
 
 int ScriptCard::heightForWidth(int width) const {
     const int header = topPadding + headerHeight(width);
-    const int state = state_->text().isEmpty() ? 0 : lineGap + state_->sizeHint().height();
+    const int state = heightOfLines(*state_) > 0 ? lineGap + heightOfLines(*state_) : 0;
     if (isEditing())
         return header + lineGap + state + qRound(ScriptItemView::minimumSize.height);
-    return header + lineGap + text_->sizeHint().height() + state + bottomPadding;
+    return header + lineGap + heightOfLines(*text_) + state + bottomPadding;
 }
 
 QRect ScriptCard::mirrored(const QRect& place) const {
@@ -264,7 +279,10 @@ void ScriptCard::layOutHeader() {
     const QRect line(sidePadding, topPadding, std::max(0, right - sidePadding), height);
     for (QLabel* label : {title_, hint_})
         label->setGeometry(mirrored(line));
-    elideTitle();
+    elide(*title_);
+    title_->setToolTip(title_->text() == title_->accessibleName()
+                           ? QString()
+                           : plainToolTip(title_->accessibleName()));
     title_->setVisible(!isEditing());
     // Its buttons say it as well.
     hint_->setVisible(isEditing() && hint_->sizeHint().width() <= line.width());
@@ -275,15 +293,17 @@ void ScriptCard::layOut() {
     layOutHeader();
     const int inner = std::max(0, width() - 2 * sidePadding);
     int top = topPadding + headerHeight(width()) + lineGap;
-    text_->setGeometry(mirrored({sidePadding, top, inner, text_->sizeHint().height()}));
+    text_->setGeometry(mirrored({sidePadding, top, inner, heightOfLines(*text_)}));
+    elide(*text_);
     if (!isEditing())
         top += text_->height() + lineGap;
     const int indent = stateIcon + lineGap;
-    state_->setGeometry(mirrored(
-        {sidePadding + indent, top, std::max(0, inner - indent), state_->sizeHint().height()}));
+    state_->setGeometry(
+        mirrored({sidePadding + indent, top, std::max(0, inner - indent), heightOfLines(*state_)}));
+    elide(*state_);
     text_->setVisible(!isEditing());
     textCaption_->setVisible(isEditing());
-    state_->setVisible(!state_->text().isEmpty());
+    state_->setVisible(!state_->accessibleName().isEmpty());
     placeFields();
     update();
 }
@@ -299,12 +319,6 @@ void ScriptCard::placeFields() {
     place(*textCaption_, captionFrame);
     for (const auto& editor : editors_)
         place(*editor->widget(), editor->field()->frame());
-}
-
-void ScriptCard::elideTitle() {
-    const QString title = title_->accessibleName();
-    title_->setText(title_->fontMetrics().elidedText(title, Qt::ElideRight, title_->width()));
-    title_->setToolTip(title_->text() == title ? QString() : plainToolTip(title));
 }
 
 void ScriptCard::updateLook() {
@@ -341,6 +355,7 @@ void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
                             theme::cardRadius);
+    theme::paintControlOutlines(painter, *this);
     if (state_->isHidden())
         return;
     const int middle = state_->geometry().center().y();

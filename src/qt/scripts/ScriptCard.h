@@ -59,7 +59,6 @@ private:
     void layOut();
     void layOutHeader();
     void placeFields();
-    void elideTitle();
     [[nodiscard]] bool isEditing() const { return !editors_.empty(); }
     struct Placed {
         QPushButton* button;

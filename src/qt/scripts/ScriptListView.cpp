@@ -1,7 +1,9 @@
 #include "qt/scripts/ScriptListView.h"
 
 #include "qt/scripts/ScriptCard.h"
+#include "qt/widgets/MarginScrollBar.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -19,9 +21,12 @@ constexpr int fewestCharacters = 24;
 } // namespace
 
 ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
+    // The toolkit knows no role of a list for a scroll area.
+    QAccessible::registerAccessibleInterface(new QAccessibleWidget(this, QAccessible::List));
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    MarginScrollBar::attachTo(*this);
     // The cards stand on the window's ground.
     viewport()->setAutoFillBackground(false);
     layoutTimer_.setSingleShot(true);
@@ -123,6 +128,8 @@ void ScriptListView::layOut() {
     updateScrollBar();
     bindCards();
     placeCards();
+    if (const int least = minimumSizeHint().height(); least != std::exchange(leastHeight_, least))
+        updateGeometry();
     // One more script in a list that was shown before is one that the user has just made.
     const bool created = addedSinceLayout_ == 1 && rowCount() > 1;
     addedSinceLayout_ = 0;
@@ -308,8 +315,9 @@ void ScriptListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 QSize ScriptListView::minimumSizeHint() const {
+    const int most = fewestRows * (ScriptCard::typicalHeight(*this) + spacing);
     return {fontMetrics().averageCharWidth() * fewestCharacters,
-            fewestRows * (ScriptCard::typicalHeight(*this) + spacing)};
+            rowCount() == 0 ? most : std::min(topOf(rowCount()), most)};
 }
 
 QSize ScriptListView::sizeHint() const { return minimumSizeHint(); }

@@ -64,6 +64,7 @@ private:
 
     CollectionView* model_ = nullptr;
     std::map<int, int> heights_; ///< by row, of the cards that have been seen
+    int leastHeight_ = 0;        ///< as the layout around knows it
     int addedSinceLayout_ = 0;
     int lastAddedRow_ = 0;
     int focusedRow_ = -1;              ///< of a card that went with the keyboard

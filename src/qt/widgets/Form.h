@@ -84,6 +84,9 @@ public:
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
 
 protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     /// Gives the children their places within the present size.
     virtual void arrangeChildren() = 0;
 
@@ -128,7 +131,6 @@ public:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void arrangeChildren() override;
     [[nodiscard]] virtual QMargins padding() const;
     /// How far pictures stand from the row's edge.

@@ -68,8 +68,8 @@ void LinkButtonWidget::showTitle() {
 }
 
 QSize LinkButtonWidget::sizeHint() const {
-    return textSize(*this, font(), Qt::TextSingleLine, text()) +
-           QSize(2 * focusMargin, 2 * focusMargin);
+    // As high as a line of text: nothing around it moves when it comes and goes.
+    return textSize(*this, font(), Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 0);
 }
 
 /// The given color where it can be read on the window, else the desktop's color of links, else
@@ -100,7 +100,7 @@ void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(isEnabled() ? readable(color)
                                : palette().color(QPalette::Disabled, QPalette::WindowText));
     const TextAlignment alignment = look.alignment.value_or(TextAlignment::Left);
-    painter.drawText(rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin),
+    painter.drawText(rect().adjusted(focusMargin, 0, -focusMargin, 0),
                      static_cast<int>(toQt(alignment) | Qt::AlignVCenter) | Qt::TextSingleLine,
                      text());
     if (hasFocus()) {

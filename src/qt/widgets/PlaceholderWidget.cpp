@@ -67,10 +67,10 @@ void PlaceholderWidget::setVisible(bool visible) {
     QWidget* list = hidesCovered_ ? covered() : nullptr;
     if (!list)
         return;
-    QSizePolicy policy = list->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    list->setSizePolicy(policy);
-    list->setVisible(!visible);
+    // What it holds, for a widget that is hidden itself does not tell where it is laid out.
+    for (auto* part : list->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        part->setVisible(!visible);
+    list->setMinimumHeight(visible ? minimumSizeHint().height() : 0);
 }
 
 QWidget* PlaceholderWidget::covered() {

@@ -64,6 +64,8 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return arranger_.sizeHint(); }
     [[nodiscard]] QSize minimumSize() const override { return arranger_.minimumSizeHint(); }
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    /// A row is never higher than what it holds: what is left of a page lies below all rows.
+    [[nodiscard]] Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
     [[nodiscard]] int heightForWidth(int width) const override {
         return arranger_.heightForWidth(width);
     }
@@ -87,6 +89,23 @@ Arranger::Arranger(QWidget* parent) : QWidget(parent) {
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     new Layout(*this);
+}
+
+bool Arranger::event(QEvent* event) {
+    if (event->type() == QEvent::ChildAdded)
+        static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
+    return QWidget::event(event);
+}
+
+bool Arranger::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::EnabledChange)
+        update(); // the outline around the child
+    return QWidget::eventFilter(watched, event);
+}
+
+void Arranger::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    theme::paintControlOutlines(painter, *this);
 }
 
 // Row
@@ -295,16 +314,7 @@ bool Row::eventFilter(QObject* watched, QEvent* event) {
     return Arranger::eventFilter(watched, event);
 }
 
-void Row::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    for (const auto* field : findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly))
-        if (field->isVisible() && field->isEnabled())
-            theme::paintFieldOutline(painter, palette(), field->geometry());
-}
-
 bool Row::event(QEvent* event) {
-    if (event->type() == QEvent::ChildAdded)
-        static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
     if (event->type() == QEvent::Polish)
         greyLabels();
     return Arranger::event(event);
@@ -334,15 +344,18 @@ QMargins BannerRow::padding() const {
 
 int BannerRow::pictureInset() const { return prominent_ ? bannerPictureShift : 0; }
 
-void BannerRow::paintEvent(QPaintEvent* /*event*/) {
-    if (!prominent_)
+void BannerRow::paintEvent(QPaintEvent* event) {
+    if (!prominent_) {
+        Row::paintEvent(event);
         return;
+    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(theme::bannerOutline(palette()));
     painter.setBrush(theme::bannerGround(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
                             theme::cardRadius);
+    theme::paintControlOutlines(painter, *this);
 }
 
 // Flow

@@ -3,7 +3,9 @@
 #include "qt/widgets/Contrast.h"
 #include "qt/widgets/TextMeasure.h"
 
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyle>
 
@@ -92,6 +94,8 @@ QColor mutedText(const QPalette& palette) {
 }
 
 QColor fieldOutline(const QPalette& palette) {
+    if (isHighContrast(palette))
+        return outlineOn(palette, cardGround(palette));
     if (active(palette, QPalette::Window).lightnessF() >=
         active(palette, QPalette::WindowText).lightnessF())
         return {};
@@ -110,6 +114,17 @@ void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& 
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(place).adjusted(-0.5, -0.5, 0.5, 0.5), radius, radius);
     painter.restore();
+}
+
+void paintControlOutlines(QPainter& painter, const QWidget& parent) {
+    const bool withButtons = isHighContrast(parent.palette());
+    for (const auto* child : parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool isFramed = qobject_cast<const QLineEdit*>(child) ||
+                              qobject_cast<const QPlainTextEdit*>(child) ||
+                              (withButtons && qobject_cast<const QPushButton*>(child));
+        if (isFramed && child->isVisible() && child->isEnabled())
+            paintFieldOutline(painter, parent.palette(), child->geometry());
+    }
 }
 
 QPalette disabledTextFor(const QPalette& palette) {

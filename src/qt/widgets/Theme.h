@@ -43,11 +43,13 @@ inline constexpr int sideMargin = 20;
 [[nodiscard]] QColor outlineOn(const QPalette& palette, const QColor& ground);
 /// Text that steps back, as far as it stays legible on the window and on a card.
 [[nodiscard]] QColor mutedText(const QPalette& palette);
-/// What an edit field or a box is framed with on a card, where the styles' own frame, which is
-/// darker than the window, would not be seen; invalid elsewhere.
+/// What an edit field or a box is framed with on a card, where the styles' own frame, a little
+/// darker than the window, would hardly be seen; invalid elsewhere.
 [[nodiscard]] QColor fieldOutline(const QPalette& palette);
 /// Frames a field or a box that stands in `place`, where it needs one.
 void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& place);
+/// Frames the fields among the parent's children, in high contrast its buttons too.
+void paintControlOutlines(QPainter& painter, const QWidget& parent);
 /// What a palette lacks for its disabled text to be told from every ground that it stands on.
 [[nodiscard]] QPalette disabledTextFor(const QPalette& palette);
 [[nodiscard]] QColor bannerGround(const QPalette& palette);

@@ -42,7 +42,7 @@ public:
 
     /// Brings a view to the front: its tab, and what scrolls it.
     void show(NSView* view) const;
-    /// Presses and releases the mouse in the middle of a view.
+    /// Presses and releases the mouse in the middle of a view, of whatever window.
     void click(NSView* view) const;
     /// Replaces the text of a field and presses Return.
     void type(NSTextField* field, std::string_view text) const;

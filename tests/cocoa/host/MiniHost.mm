@@ -146,11 +146,12 @@ void MiniHost::show(NSView* view) const {
 
 void MiniHost::click(NSView* view) const {
     show(view);
+    NSWindow* window = [view window];
     const NSRect bounds = [view bounds];
     const NSPoint place = [view convertPoint:NSMakePoint(NSMidX(bounds), NSMidY(bounds))
                                       toView:nil];
-    post(mouse(NSLeftMouseDown, place, window_.get()));
-    post(mouse(NSLeftMouseUp, place, window_.get()));
+    post(mouse(NSLeftMouseDown, place, window));
+    post(mouse(NSLeftMouseUp, place, window));
     while (NSEvent* event = nextEvent([NSDate distantPast]))
         handOn(event);
 }

@@ -208,6 +208,11 @@ TEST(RasterCanvas, bearsEveryNumber) {
                                                  [](Pixel pixel) { return pixel != 0; });
                 EXPECT_TRUE(drawn == 0 || (scale > 0 && std::isfinite(number))) << number;
             }
+    // Rows beside the bitmap have no pixels.
+    const Drawn beside({8, 8}, 1, Orientation::YDown, [](Canvas& canvas) {
+        canvas.fill(Oval{{-9, 1, 5, 5}}, color::white);
+    });
+    EXPECT_EQ(beside.covered(), 0);
     EXPECT_EQ(Bitmap(-5, 9).bounds(), (PixelRect{0, 0, 0, 9}));
     const Bitmap huge(1 << 30, 1 << 30);
     EXPECT_EQ(huge.width(), Bitmap::maxSide);

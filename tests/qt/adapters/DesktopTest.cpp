@@ -37,7 +37,9 @@ TEST(QtModalLoopTest, stoppingEndsTheInnermostLoopAfterTheAction) {
 
 class Table final : public QTranslator {
 public:
-    QString translate(const char* context, const char* source, const char*, int) const override {
+    QString translate(const char* context, const char* source, const char*, int n) const override {
+        if (QByteArray(source) == "%n rows")
+            return n == 1 || n == -1 ? QStringLiteral("%n row") : QStringLiteral("%n rows");
         const bool known = QByteArray(context) == "MainBundle" && QByteArray(source) == "Message";
         return known ? QStringLiteral("Prüfnachricht") : QString();
     }
@@ -52,6 +54,11 @@ TEST(QtStringTableTest, theKeyStandsInForWhatIsNotTranslated) {
     EXPECT_EQ(strings.localizedString(std::string_view("Message and more", 7)), "Prüfnachricht");
     for (const char* key : {"Unknown", ""})
         EXPECT_EQ(strings.localizedString(key), key);
+    for (const char* known : {"row", "thing"}) {
+        const std::string one = std::string("%n ") + known;
+        EXPECT_EQ(strings.localizedCount(one, one + "s", 1), std::string("1 ") + known);
+        EXPECT_EQ(strings.localizedCount(one, one + "s", 2), std::string("2 ") + known + "s");
+    }
     QCoreApplication::removeTranslator(&table);
 }
 

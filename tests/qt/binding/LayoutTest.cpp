@@ -9,6 +9,8 @@
 #include "qt/pane/HelpWindow.h"
 #include "qt/pane/PaneView.h"
 #include "qt/widgets/Contrast.h"
+#include "qt/widgets/Form.h"
+#include "qt/widgets/MarginScrollBar.h"
 #include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
@@ -20,6 +22,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -86,9 +89,12 @@ constexpr int alertsPage = 2;
 constexpr int scriptsPage = 3;
 
 /// What of the shown widgets does not fit: text that needs more room than it has, a child that
-/// leaves its parent, and neighbours that overlap.
+/// leaves its parent, neighbours that overlap, and a row with an empty space of its own.
 QStringList misfits(const QWidget& top) {
     QStringList found;
+    for (const auto* row : top.findChildren<Row*>())
+        if (row->isVisible() && row->height() != row->heightForWidth(row->width()))
+            found += row->objectName() + " is not as high as what it holds";
     for (const auto* widget : top.findChildren<QWidget*>()) {
         const auto* label = qobject_cast<const TextLabel*>(widget);
         const bool isPart = label || qobject_cast<const QAbstractButton*>(widget) ||
@@ -374,6 +380,32 @@ TEST_F(Layout, theVerdictTheSpinnerAndTheLockShowTheirModels) {
     EXPECT_TRUE(QTest::qWaitFor([&lock] { return lock.accessibleName().contains(": locked"); }));
 }
 
+TEST_F(Layout, aLongListScrollsBesideItsColumn) {
+    loadWithAgent();
+    for (int number = 0; number < 20; ++number)
+        agentSends(Message(message::deviceConnected,
+                           Dictionary{{"DeviceName", "UPS " + std::to_string(number)},
+                                      {"DeviceVendor", "Maker"},
+                                      {"DeviceSerial", "1"}}));
+    view.resize(680, 640);
+    focus(*widget<QTabWidget>("tabView").tabBar(), 0);
+    const auto& list = widget<QAbstractScrollArea>("connectedDevices");
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        view.setLayoutDirection(direction);
+        const auto bars = view.findChildren<MarginScrollBar*>();
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return std::ranges::any_of(bars, &QWidget::isVisible); }));
+        auto& bar = **std::ranges::find_if(bars, &QWidget::isVisible);
+        EXPECT_EQ(list.viewport()->width(), list.width());
+        EXPECT_FALSE(bar.geometry().intersects(
+            QRect(list.mapTo(bar.parentWidget(), QPoint()), list.size())));
+        EXPECT_TRUE(bar.parentWidget()->rect().contains(bar.geometry()));
+        bar.setValue(bar.maximum());
+        EXPECT_GT(bar.maximum(), 0);
+        EXPECT_EQ(list.verticalScrollBar()->value(), bar.maximum());
+    }
+}
+
 TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     load();
     const auto& list = widget<QWidget>("connectedDevices");
@@ -409,6 +441,8 @@ TEST_P(LayoutIn, clipsAndOverlapsNothing) {
             view.resize(c.size);
             view.show();
             EXPECT_EQ(view.size(), c.size) << c.points << " pt";
+            EXPECT_LE(widget<QWidget>("chooseDevices").sizeHint().height(),
+                      widget<QWidget>("statusLine").sizeHint().height());
             const auto& heading = widget<QWidget>("ConnectedCaptionRow");
             const QRect& list = widget<QWidget>("connectedDevices").geometry();
             EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -419,6 +453,9 @@ TEST_P(LayoutIn, clipsAndOverlapsNothing) {
                 static_cast<void>(QTest::qWaitFor([this] { return misfits(view).isEmpty(); }));
                 EXPECT_EQ(misfits(view).join("; ").toStdString(), "")
                     << c.points << " pt, " << c.size.width() << " wide, page " << page;
+                const QRect columns = widget<QWidget>("DeviceColumns").geometry();
+                EXPECT_TRUE(present || page > 0 ||
+                            widget<QWidget>("devicesUnknown").geometry() == columns);
             }
         }
     }

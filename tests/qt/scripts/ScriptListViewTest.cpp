@@ -185,8 +185,10 @@ TEST_F(ScriptListViewTest, aRemovedCardLeavesTheKeyboardToTheOneInItsPlace) {
 }
 
 TEST_F(ScriptListViewTest, nothingLeavesItsCardHoweverNarrowOrLarge) {
-    put("a.zvscript", "echo a");
+    put("a.zvscript", "echo " + std::string(200, 'a'));
     show();
+    const std::string reason(200, 'x');
+    card("a").item()->setFailure("Failed with exit status 3: " + reason);
     for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         for (const int points : {10, 18, 30}) {
             view.setLayoutDirection(direction);
@@ -197,6 +199,10 @@ TEST_F(ScriptListViewTest, nothingLeavesItsCardHoweverNarrowOrLarge) {
                 EXPECT_TRUE(card("a").rect().contains(button(card("a"), text).geometry()))
                     << points << text;
             click(card("a"), "Done");
+            for (const auto* label : card("a").findChildren<QLabel*>())
+                EXPECT_TRUE(!label->isVisible() ||
+                            label->fontMetrics().size(0, label->text()).width() <= label->width())
+                    << label->text().toStdString();
         }
     }
 }

@@ -1,0 +1,205 @@
+#include "PaneOnFakes.h"
+#include "bus/BusConnection.h"
+#include "bus/DBusMessageCenter.h"
+#include "protocol/BusNames.h"
+#include "protocol/Messages.h"
+#include "qt/binding/OutletBinder.h"
+#include "qt/pane/PaneView.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QEvent>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+/// What the pane adds to a message's way over the bus, out and in. The raw hop beside it takes the
+/// same message from connection to connection with nothing but Qt. To be run on a display and a
+/// session bus of its own.
+namespace {
+
+using namespace zarvil;
+using BenchClock = std::chrono::steady_clock;
+
+constexpr int rounds = 3000;
+constexpr int warmUp = 200;
+
+template <typename Condition>
+void turnUntil(Condition condition) {
+    while (!condition())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+double microsecondsSince(BenchClock::time_point start) {
+    return std::chrono::duration<double, std::micro>(BenchClock::now() - start).count();
+}
+
+double percentile(std::vector<double> values, double part) {
+    std::ranges::sort(values);
+    return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
+}
+
+QDBusConnection connection(const char* name) {
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QString::fromLatin1(name));
+}
+
+QDBusMessage signal(std::string_view name, const QVariantMap& info) {
+    auto message = QDBusMessage::createSignal(bus::path, bus::interface, QString::fromUtf8(name));
+    message << info;
+    return message;
+}
+
+/// Hears one message on a plain connection.
+class Receiver final : public QObject {
+    Q_OBJECT
+
+public:
+    Receiver(QDBusConnection bus, std::string_view name) {
+        bus.connect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
+                    SLOT(hear(QDBusMessage)));
+    }
+    int heard = 0;
+    QCheckBox* shows = nullptr;
+
+private Q_SLOTS:
+    void hear(const QDBusMessage& message) {
+        ++heard;
+        if (shows)
+            shows->setChecked(qdbus_cast<QVariantMap>(message.arguments().at(0)).first().toBool());
+    }
+};
+
+/// Notes that a widget is painted.
+class PaintWatch final : public QObject {
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    bool painted = false;
+
+private:
+    bool eventFilter(QObject* /*widget*/, QEvent* event) override {
+        painted = painted || event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+/// The pane's layout on a real bus, and on fake ports for the rest. Its timers stand still.
+struct PaneOnBus : PaneOnFakes {
+    PaneOnBus() {
+        turnUntil([this] { return connection.state() == BusState::Connected; });
+        real.mainViewDidLoad();
+        real.willSelect();
+        view.findChild<QTabWidget*>("tabView")->setCurrentIndex(1);
+        view.show();
+    }
+    ~PaneOnBus() { bindings.clear(); }
+
+    BusConnection connection{BusOptions::sessionBus()};
+    DBusMessageCenter center{connection, bus::agentName};
+    Platform onBus{handlers, center,       time,          time,    workspace, disk,  defaults,
+                   errors,   scriptRunner, authorization, strings, {},        modal, processes,
+                   "",       "."};
+    Zarvil_Preferences real{onBus};
+    qt::PaneView view;
+    qt::Subscriptions bindings;
+    qt::Faults faults = qt::bindOutlets(real, view, bindings);
+};
+
+/// Runs both ways by turns, since a machine is not equally fast all the time.
+template <typename Raw, typename Own>
+void compare(const char* what, Raw raw, Own own) {
+    std::vector<double> rawTimes;
+    std::vector<double> ownTimes;
+    for (int round = 0; round < warmUp + rounds; ++round) {
+        auto start = BenchClock::now();
+        raw(round);
+        const double rawTime = microsecondsSince(start);
+        start = BenchClock::now();
+        own(round);
+        const double ownTime = microsecondsSince(start);
+        if (round < warmUp)
+            continue;
+        rawTimes.push_back(rawTime);
+        ownTimes.push_back(ownTime);
+    }
+    const double median = percentile(rawTimes, 0.5);
+    std::printf("%-32s raw median %5.0f us, p99 %5.0f us   pane median %5.0f us, p99 %5.0f us   "
+                "own layer %+.1f %%\n",
+                what, median, percentile(rawTimes, 0.99), percentile(ownTimes, 0.5),
+                percentile(ownTimes, 0.99), 100 * (percentile(ownTimes, 0.5) - median) / median);
+}
+
+void settingToSignal(PaneOnBus& pane, QDBusConnection raw, QDBusConnection listening) {
+    Receiver receiver(listening, message::prefsChanged);
+    const auto await = [&receiver](int before) {
+        turnUntil([&receiver, before] { return receiver.heard > before; });
+    };
+    compare(
+        "setting changed -> signal",
+        [&](int round) {
+            const int before = receiver.heard;
+            raw.send(signal(message::prefsChanged,
+                            {{"prefKey", "LaunchAtLogin"}, {"prefObj", round % 2 == 0}}));
+            await(before);
+        },
+        [&](int /*round*/) {
+            const int before = receiver.heard;
+            pane.real.launchAtLogin.performClick();
+            await(before);
+        });
+}
+
+void messageToPaint(PaneOnBus& pane, QDBusConnection agent, QDBusConnection listening) {
+    QWidget window;
+    auto* box = new QCheckBox("Launch at login", &window);
+    (new QVBoxLayout(&window))->addWidget(box);
+    window.show();
+    // A name that the pane does not listen for.
+    constexpr std::string_view another = "Raw";
+    Receiver receiver(listening, another);
+    receiver.shows = box;
+    PaintWatch rawPaint(*box);
+    PaintWatch ownPaint(*pane.view.findChild<QCheckBox*>("launchAtLogin"));
+    const auto await = [](PaintWatch& watch) {
+        watch.painted = false;
+        turnUntil([&watch] { return watch.painted; });
+    };
+    compare(
+        "agent message -> painted control",
+        [&](int round) {
+            agent.send(signal(another, {{"LaunchAtLogin", round % 2 == 0}}));
+            await(rawPaint);
+        },
+        [&](int round) {
+            agent.send(signal(message::savedPrefs, {{"LaunchAtLogin", round % 2 == 0}}));
+            await(ownPaint);
+        });
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const QApplication application(argc, argv);
+    QDBusConnection agent = connection("agent");
+    if (!agent.registerService(bus::agentName)) {
+        std::fputs("the bus has an agent already, or there is none\n", stderr);
+        return EXIT_FAILURE;
+    }
+    PaneOnBus pane;
+    agent.send(signal(message::savedPrefs, {{"LaunchAtLogin", true}}));
+    agent.send(signal(message::stateChanged, {{"state", true}}));
+    turnUntil(
+        [&pane] { return pane.real.launchAtLogin.isOn() && pane.real.launchAtLogin.isEnabled(); });
+    std::printf("Medians of %d each, by turns, on one bus:\n", rounds);
+    settingToSignal(pane, connection("raw"), connection("listening"));
+    messageToPaint(pane, agent, connection("listening"));
+    return EXIT_SUCCESS;
+}
+
+#include "HopBench.moc"

@@ -1,0 +1,218 @@
+"""The pane in GNUstep's own preferences application, operated by mouse, and the agent's end in a
+process of its own. To be run on a private display, with private GNUstep folders."""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+BUNDLE = pathlib.Path(os.environ["ZARVIL_PANE_BUNDLE"])
+PLAYED_AGENT = os.environ["ZARVIL_PLAYED_AGENT"]
+PRELOAD = os.environ.get("ZARVIL_PRELOAD", "")
+PATIENCE = 60  # seconds
+
+# In the application's window, at the width that it gives every pane.
+FIRST_ICON, SHOW_ALL, GENERAL, ABOUT = (52, 78), (40, 22), (128, 172), (294, 172)
+LAUNCH_AT_LOGIN, UNINSTALL = (140, 579), (449, 517)
+AGENT_ROW = "300x24+35+124"
+# In the panel that asks.
+CANCEL, CONFIRM = (194, 216), (306, 216)
+
+
+def output(*command):
+    return subprocess.run([str(word) for word in command], check=True, capture_output=True).stdout
+
+
+def wait_until(condition, what):
+    deadline = time.monotonic() + PATIENCE
+    while time.monotonic() < deadline:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError(f"waited {PATIENCE} s in vain: {what}")
+
+
+def paths_below(folder):
+    return {str(path.relative_to(folder)) for path in folder.rglob("*")}
+
+
+class Preferences(unittest.TestCase):
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="zarvil-cocoa-"))
+        self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
+        bundles = pathlib.Path(os.environ["GNUSTEP_CONFIG_FILE"]).parent / "Library/Bundles"
+        self.bundle = bundles / BUNDLE.name
+        shutil.rmtree(self.bundle, ignore_errors=True)
+        shutil.copytree(BUNDLE, self.bundle)
+        self.library = pathlib.Path(os.environ["HOME"]) / "Library"
+        self.lay_out_product()
+        self.start("openbox")
+        # A window that is mapped while the manager starts is managed by nobody.
+        wait_until(lambda: b"window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                   "windows are managed")
+        self.start_agent()
+
+    def start_host(self):
+        sanitized = {"LD_PRELOAD": PRELOAD, "ASAN_OPTIONS": "detect_leaks=0"} if PRELOAD else {}
+        self.host = self.start("SystemPreferences", env=dict(
+            os.environ, ZARVIL_ROOT=str(self.folder / "root"), **sanitized))
+        self.window = self.window_named("^System Preferences")
+        output("xdotool", "windowactivate", "--sync", self.window)
+
+    def start(self, *command, **options):
+        process = subprocess.Popen(command, stderr=subprocess.DEVNULL, **options)
+        self.addCleanup(self.end, process)
+        return process
+
+    @staticmethod
+    def end(process):
+        if process.poll() is None:
+            process.kill()
+        process.wait()
+        for pipe in filter(None, (process.stdin, process.stdout)):
+            pipe.close()
+
+    def lay_out_product(self):
+        installed = self.library / "PreferencePanes" / BUNDLE.name
+        shutil.copytree(BUNDLE, installed, dirs_exist_ok=True)
+        for kept in ("Preferences/com.Tessrow.Zarvil.plist", "Preferences/another.plist",
+                     "PreferencePanes/another.prefPane", "Zarvil Scripts/a.zvscript"):
+            (self.library / kept).parent.mkdir(parents=True, exist_ok=True)
+            (self.library / kept).touch()
+        for application in ("Zarvil.app", "Another.app"):
+            (self.folder / "root/Applications" / application / "Resources").mkdir(parents=True)
+
+    # The agent.
+
+    def start_agent(self):
+        self.agent = self.start(PLAYED_AGENT, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        os.set_blocking(self.agent.stdout.fileno(), False)
+        self.heard = b""
+        self.hear("ready")
+
+    def send(self, message):
+        self.agent.stdin.write(message.encode() + b"\n")
+        self.agent.stdin.flush()
+
+    def hear(self, message):
+        """Waits for a message and forgets what came up to it."""
+        def found():
+            self.heard += self.agent.stdout.read() or b""
+            head, line, rest = self.heard.partition(message.encode() + b"\n")
+            if line:
+                self.heard = rest
+            return line
+        wait_until(found, f"the agent hears {message}")
+
+    # The window.
+
+    @staticmethod
+    def windows_named(name):
+        # Fails when there is none, and when one goes during the search.
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name],
+                              capture_output=True).stdout.decode().split()
+
+    def window_named(self, name):
+        return wait_until(lambda: self.windows_named(name), f"a window {name}")[0]
+
+    def picture(self, region=None):
+        crop = ("-crop", region) if region else ()
+        return output("import", "-silent", "-window", self.window, *crop, "rgb:-")
+
+    def click(self, place, window=None):
+        # Long enough for GNUstep to see both the press and the release.
+        output("xdotool", "mousemove", "--window", window or self.window, *place,
+               "mousedown", 1, "sleep", 0.1, "mouseup", 1)
+
+    def settled(self):
+        picture = None
+        while picture != (picture := self.picture()):
+            time.sleep(0.1)
+        return picture
+
+    def click_until_it_shows(self, place):
+        before = self.settled()
+        self.click(place)
+        wait_until(lambda: self.picture() != before, "the click shows")
+
+    @property
+    def icon(self):
+        # The icons stand in the order of their labels, seven in a row; ours is the last.
+        others = len(list(pathlib.Path("/usr/lib/GNUstep/Bundles").glob("*.prefPane")))
+        return 52 + 80 * (others % 7), 78 + 87 * (others // 7)
+
+    def open_pane(self):
+        self.start_host()
+        self.click_until_it_shows(self.icon)
+        self.hear("ZVPrefsLoaded")
+        self.send("ZVPingTest")
+        self.hear("ZVPrefsLoaded")
+        self.send("ZVSavedPrefs ShutdownDelay=30")
+
+    def toggles_launch_at_login(self, value):
+        self.click(LAUNCH_AT_LOGIN)
+        self.hear(f"ZVPrefsChanged prefKey=LaunchAtLogin prefObj={value}")
+
+    def test_an_agent_that_freezes_ends_and_comes_back_and_one_that_closes_the_host(self):
+        self.open_pane()
+        self.click_until_it_shows(GENERAL)
+        self.toggles_launch_at_login(1)
+        present = self.picture(AGENT_ROW)
+
+        self.agent.send_signal(signal.SIGSTOP)
+        wait_until(lambda: self.picture(AGENT_ROW) != present, "a frozen agent shows")
+        self.agent.send_signal(signal.SIGCONT)
+        self.hear("ZVPrefsLoaded")
+        wait_until(lambda: self.picture(AGENT_ROW) == present, "its return shows")
+
+        self.end(self.agent)
+        wait_until(lambda: self.picture(AGENT_ROW) != present, "an agent that has ended shows")
+        self.start_agent()
+        self.hear("ZVPrefsLoaded")
+        wait_until(lambda: self.picture(AGENT_ROW) == present, "the next one shows")
+        self.send("ZVSavedPrefs LaunchAtLogin=1")
+
+        self.click_until_it_shows(SHOW_ALL)
+        self.assertIsNone(self.host.poll())
+        self.send("ZVQuitPrefs")
+        self.assertEqual(self.host.wait(PATIENCE), 0)
+
+    def test_uninstalling_removes_the_listed_three_alone_and_cancelling_none(self):
+        self.open_pane()
+        self.click_until_it_shows(ABOUT)
+        home, root = paths_below(self.library), paths_below(self.folder)
+
+        for choice in (CANCEL, CONFIRM):
+            self.click(UNINSTALL)
+            panel = self.window_named("^Uninstall Zarvil")
+            self.assertEqual(paths_below(self.library), home)
+            self.settled()
+            self.click(choice, panel)
+            wait_until(lambda: not self.windows_named("^Uninstall Zarvil"), "the panel goes")
+        self.hear("ZVQuit")
+        gone = ("PreferencePanes/" + BUNDLE.name, "Preferences/com.Tessrow.Zarvil.plist")
+        wait_until(lambda: paths_below(self.library) ==
+                   {path for path in home if not path.startswith(gone)}, "what is left of home")
+        self.assertEqual(paths_below(self.folder), {
+            path for path in root if not path.startswith("root/Applications/Zarvil.app")})
+
+    def test_a_layout_that_does_not_load_leaves_the_host_and_its_other_panes(self):
+        layout = self.bundle / "Resources/Main.xib"
+        whole = layout.read_text()
+        layout.write_text(whole[:len(whole) // 2])
+        self.start_host()
+        for place in (self.icon, SHOW_ALL, FIRST_ICON, SHOW_ALL):
+            self.click_until_it_shows(place)
+        self.send("ZVPingTest")
+        self.assertIsNone(self.host.poll())
+        self.assertIsNone(self.agent.stdout.read(), "the pane has asked for nothing")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=[sys.argv[0], *(f"Preferences.{name}" for name in sys.argv[1:])])

@@ -1,0 +1,121 @@
+#include "FailingCalls.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstdarg>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace zarvil::failing {
+
+namespace {
+
+using Errors = std::array<int, errorsOfACall>;
+
+std::atomic<int> callsLeft{0}; ///< the last of them fails
+std::atomic<int> chosen{0};
+std::atomic<pid_t> process{0}; ///< its children are spared
+std::atomic<const char*> failed{nullptr};
+std::atomic<int> failure{0};
+
+bool fails(const char* call, const Errors& errors) {
+    if (callsLeft == 0 || process != ::getpid() || --callsLeft != 0)
+        return false;
+    failed = call;
+    errno = failure = errors.at(static_cast<std::size_t>(chosen.load()));
+    return true;
+}
+
+constexpr Errors opening{EMFILE, EACCES, ENOSPC, EINTR};
+constexpr Errors writing{ENOSPC, EIO, EDQUOT, EINTR};
+constexpr Errors reading{EIO, EINTR, EIO, EINTR};
+constexpr Errors looking{EACCES, ENOENT, EIO, ELOOP};
+constexpr Errors changing{EACCES, ENOENT, EROFS, ENOSPC};
+constexpr Errors starting{EAGAIN, ENOMEM, EMFILE, ENFILE};
+constexpr Errors waiting{EINTR, EINTR, EINTR, EINTR};
+
+} // namespace
+
+void arm(int call, int error) {
+    failed = nullptr;
+    chosen = error;
+    process = ::getpid();
+    callsLeft = call;
+}
+
+std::string disarm() {
+    callsLeft = 0;
+    const char* call = failed;
+    return call ? std::string(call) + ": " + std::strerror(failure) : std::string();
+}
+
+} // namespace zarvil::failing
+
+// The linker leads the calls here and names the real ones so.
+#define ZARVIL_FAILING(result, failed, name, errors, parameters, arguments)                        \
+    result __real_##name parameters;                                                               \
+    result __wrap_##name parameters {                                                              \
+        return zarvil::failing::fails(#name, zarvil::failing::errors) ? (failed)                   \
+                                                                      : __real_##name arguments;   \
+    }
+
+// NOLINTBEGIN: the names and the variable arguments are those of the system.
+extern "C" {
+
+ZARVIL_FAILING(ssize_t, -1, write, writing, (int file, const void* bytes, std::size_t count),
+               (file, bytes, count))
+ZARVIL_FAILING(ssize_t, -1, read, reading, (int file, void* bytes, std::size_t count),
+               (file, bytes, count))
+ZARVIL_FAILING(int, -1, fsync, writing, (int file), (file))
+ZARVIL_FAILING(int, -1, fchmod, changing, (int file, mode_t mode), (file, mode))
+ZARVIL_FAILING(int, -1, fstat, looking, (int file, struct stat* status), (file, status))
+ZARVIL_FAILING(int, -1, stat, looking, (const char* path, struct stat* status), (path, status))
+ZARVIL_FAILING(int, -1, lstat, looking, (const char* path, struct stat* status), (path, status))
+ZARVIL_FAILING(int, -1, faccessat, looking, (int folder, const char* path, int mode, int flags),
+               (folder, path, mode, flags))
+ZARVIL_FAILING(int, -1, mkdir, changing, (const char* path, mode_t mode), (path, mode))
+ZARVIL_FAILING(int, -1, unlink, changing, (const char* path), (path))
+ZARVIL_FAILING(int, -1, unlinkat, changing, (int folder, const char* path, int flags),
+               (folder, path, flags))
+ZARVIL_FAILING(int, -1, rename, changing, (const char* from, const char* to), (from, to))
+ZARVIL_FAILING(int, -1, renameat, changing,
+               (int folder, const char* from, int other, const char* to), (folder, from, other, to))
+ZARVIL_FAILING(DIR*, nullptr, opendir, opening, (const char* path), (path))
+ZARVIL_FAILING(dirent*, nullptr, readdir, reading, (DIR * folder), (folder))
+ZARVIL_FAILING(int, -1, mkostemp, opening, (char* path, int flags), (path, flags))
+ZARVIL_FAILING(int, -1, pipe2, starting, (int* ends, int flags), (ends, flags))
+ZARVIL_FAILING(int, -1, socketpair, starting, (int domain, int type, int protocol, int* ends),
+               (domain, type, protocol, ends))
+ZARVIL_FAILING(pid_t, -1, fork, starting, (), ())
+ZARVIL_FAILING(int, -1, poll, waiting, (pollfd * files, nfds_t count, int timeout),
+               (files, count, timeout))
+
+int __real_open(const char* path, int flags, ...);
+int __wrap_open(const char* path, int flags, ...) {
+    std::va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    if (zarvil::failing::fails("open", zarvil::failing::opening))
+        return -1;
+    return __real_open(path, flags, mode);
+}
+
+int __real_openat(int folder, const char* path, int flags, ...);
+int __wrap_openat(int folder, const char* path, int flags, ...) {
+    std::va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    if (zarvil::failing::fails("openat", zarvil::failing::opening))
+        return -1;
+    return __real_openat(folder, path, flags, mode);
+}
+}
+// NOLINTEND
