@@ -1,5 +1,6 @@
 #include "PaneOnFakes.h"
 #include "bus/BusConnection.h"
+#include "bus/BusDaemon.h"
 #include "bus/DBusMessageCenter.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
@@ -56,6 +57,9 @@ QDBusMessage signal(std::string_view name, const QVariantMap& info) {
     return message;
 }
 
+/// Once the bus has answered it knows what the connection listens for.
+void settle(const QDBusConnection& bus) { bus.call(busCall("GetId")); }
+
 /// Hears one message on a plain connection.
 class Receiver final : public QObject {
     Q_OBJECT
@@ -64,6 +68,7 @@ public:
     Receiver(QDBusConnection bus, std::string_view name) {
         bus.connect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
                     SLOT(hear(QDBusMessage)));
+        settle(bus);
     }
     int heard = 0;
     QCheckBox* shows = nullptr;
@@ -95,6 +100,7 @@ struct PaneOnBus : PaneOnFakes {
         turnUntil([this] { return connection.state() == BusState::Connected; });
         real.mainViewDidLoad();
         real.willSelect();
+        settle(*connection.connection());
         view.findChild<QTabWidget*>("tabView")->setCurrentIndex(1);
         view.show();
     }
@@ -159,13 +165,14 @@ void messageToPaint(PaneOnBus& pane, QDBusConnection agent, QDBusConnection list
     QWidget window;
     auto* box = new QCheckBox("Launch at login", &window);
     (new QVBoxLayout(&window))->addWidget(box);
+    window.move(pane.view.width() + 50, 0);
     window.show();
     // A name that the pane does not listen for.
     constexpr std::string_view another = "Raw";
     Receiver receiver(listening, another);
     receiver.shows = box;
     PaintWatch rawPaint(*box);
-    PaintWatch ownPaint(*pane.view.findChild<QCheckBox*>("launchAtLogin"));
+    PaintWatch ownPaint(*pane.view.findChild<QCheckBox*>("forceQuit"));
     const auto await = [](PaintWatch& watch) {
         watch.painted = false;
         turnUntil([&watch] { return watch.painted; });
@@ -177,7 +184,7 @@ void messageToPaint(PaneOnBus& pane, QDBusConnection agent, QDBusConnection list
             await(rawPaint);
         },
         [&](int round) {
-            agent.send(signal(message::savedPrefs, {{"LaunchAtLogin", round % 2 == 0}}));
+            agent.send(signal(message::savedPrefs, {{"UseForce", round % 2 == 0}}));
             await(ownPaint);
         });
 }

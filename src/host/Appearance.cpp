@@ -1,5 +1,7 @@
 #include "host/Appearance.h"
 
+#include "host/ContrastStyle.h"
+
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -121,7 +123,11 @@ void Appearance::apply() {
     const Look wanted = look();
     const bool desktopFits = !wanted.highContrast && wanted.dark == isDark(desktopPalette_);
     const QString style = desktopFits ? desktopStyle_ : QStringLiteral("fusion");
-    if (QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0)
+    const bool isContrast = qobject_cast<ContrastStyle*>(QApplication::style());
+    if (wanted.highContrast && !isContrast)
+        QApplication::setStyle(new ContrastStyle);
+    else if (!wanted.highContrast &&
+             (isContrast || QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0))
         QApplication::setStyle(style);
     const QPalette palette = desktopFits ? desktopPalette_ : paletteFor(wanted);
     if (QApplication::palette() == palette)

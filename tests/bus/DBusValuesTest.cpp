@@ -122,12 +122,30 @@ TEST_F(Values, ofForeignTypesAreDroppedAlone) {
     }
 }
 
+TEST(NameOutcome, isOwnedOnlyByWhoGotItNow) {
+    const auto call = QDBusMessage::createMethodCall("a.b", "/", "a.b", "c");
+    const auto outcome = [&](uint code) { return nameOutcome(call.createReply(code)); };
+    EXPECT_EQ(outcome(1), NameOutcome::Owned);
+    EXPECT_EQ(outcome(2), NameOutcome::Refused); // queued, which was not asked for
+    EXPECT_EQ(outcome(3), NameOutcome::Taken);
+    EXPECT_EQ(outcome(4), NameOutcome::Owned);
+    EXPECT_EQ(nameOutcome(call.createErrorReply("a.b.c", "d")), NameOutcome::Refused);
+}
+
+/// How many warnings there have been.
+int warnings = 0;
+
 TEST_F(Values, ofAWrongPayloadReadAsNone) {
+    const auto former =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*place*/,
+                                  const QString& /*text*/) { warnings += type == QtWarningMsg; });
     for (const QVariantList& wrong : {QVariantList{}, QVariantList{QVariantMap{}},
                                       QVariantList{"text"}, QVariantList{QPoint(1, 2)}})
         EXPECT_EQ(received(wrong).userInfo, std::nullopt);
     EXPECT_EQ(received(QVariantList{QVariantMap{{"a", 1}}, "further"}).info(),
               (Dictionary{{"a", 1}}));
+    qInstallMessageHandler(former);
+    EXPECT_EQ(warnings, 3); // not for one that is missing or empty
 }
 
 /// A value within the given number of arrays or dictionaries.

@@ -114,16 +114,22 @@ class Preferences(unittest.TestCase):
 
     @staticmethod
     def windows_named(name):
-        # Fails when there is none, and when one goes during the search.
-        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name],
-                              capture_output=True).stdout.decode().split()
+        # Fails when there is none, and with words when a window goes during the search.
+        def search():
+            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name],
+                                   capture_output=True)
+            return None if found.stderr else (found.stdout.decode().split(),)
+        return wait_until(search, "a search of the windows")[0]
 
     def window_named(self, name):
         return wait_until(lambda: self.windows_named(name), f"a window {name}")[0]
 
     def picture(self, region=None):
         crop = ("-crop", region) if region else ()
-        return output("import", "-silent", "-window", self.window, *crop, "rgb:-")
+        # Fails when the window changes its size meanwhile.
+        return wait_until(lambda: subprocess.run(
+            ["import", "-silent", "-window", self.window, *crop, "rgb:-"],
+            capture_output=True).stdout, "a picture of the window")
 
     def click(self, place, window=None):
         # Long enough for GNUstep to see both the press and the release.

@@ -2,8 +2,10 @@
 #include "Bundles.h"
 #include "FakeServices.h"
 #include "PrivateBus.h"
+#include "host/ContrastStyle.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QSettings>
 #include <QStyle>
 #include <QTabWidget>
@@ -134,6 +136,19 @@ TEST_F(AppearanceTest, textsOnATabsPageAreReadable) {
                     << dark << highContrast << text << ground.name().toStdString();
         }
     QApplication::setStyle(style);
+}
+
+TEST_F(AppearanceTest, buttonsStandOutFromAWindowOfHighContrast) {
+    ContrastStyle style;
+    for (const bool dark : {false, true}) {
+        QPushButton button("Button");
+        button.setStyle(&style);
+        button.setPalette(paletteFor({dark, true}));
+        const QImage shown = button.grab().toImage();
+        EXPECT_GE(contrast(shown.pixelColor(0, shown.height() / 2),
+                           button.palette().color(QPalette::Window)),
+                  4.5);
+    }
 }
 
 } // namespace

@@ -14,6 +14,9 @@ namespace zarvil::cocoa {
 class CocoaStringTable final : public StringTable {
 public:
     [[nodiscard]] std::string localizedString(std::string_view key) const override;
+    [[nodiscard]] std::string localizedCount(std::string_view one, std::string_view many,
+                                             std::int64_t count) const override;
+    using StringTable::localizedString;
 };
 
 /// The user's standard defaults.

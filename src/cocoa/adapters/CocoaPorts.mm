@@ -14,6 +14,22 @@ std::string CocoaStringTable::localizedString(std::string_view key) const {
                                                             table:nil]);
 }
 
+// A table says by a digit for each number which form of a text its language asks for. A form's key
+// bears that digit.
+std::string CocoaStringTable::localizedCount(std::string_view one, std::string_view many,
+                                             std::int64_t count) const {
+    constexpr std::int64_t listed = 200;
+    constexpr std::int64_t period = 100;
+    constexpr std::string_view countForms = "%n";
+    const std::string forms = localizedString(countForms);
+    if (count < 0 || forms.size() != listed)
+        return StringTable::localizedCount(one, many, count);
+    const std::int64_t like = count < listed ? count : period + count % period;
+    const std::string key = std::string(many) + " [" + forms[static_cast<std::size_t>(like)] + "]";
+    return localizedString(key) == key ? StringTable::localizedCount(one, many, count)
+                                       : StringTable::localizedCount(key, key, count);
+}
+
 bool CocoaUserDefaults::boolForKey(std::string_view key) const {
     return [[NSUserDefaults standardUserDefaults] boolForKey:toCocoa(key)];
 }

@@ -2,6 +2,7 @@
 
 #import "cocoa/adapters/CocoaModalLoop.h"
 #import "cocoa/binding/Dimming.h"
+#import "cocoa/binding/Fitting.h"
 #import "cocoa/controls/KXButtonCell.h"
 #import "cocoa/controls/ZVPlaceholderView.h"
 #import "cocoa/controls/ZVRowViews.h"
@@ -162,6 +163,11 @@ void bindLabel(TextField& model, NSTextField* view, Subscriptions& kept) {
     if (model.stringValue().empty())
         model.setStringValue(fromCocoa([view stringValue]));
     bindText(model, view, kept);
+    const Ref<NSTextField> shared(view);
+    const Ref<NSFont> designed([view font]);
+    kept.push_back(model.stringProperty().observe([=](const std::string& text, Transition) {
+        fitText(shared.get(), toCocoa(text), designed.get());
+    }));
 }
 
 Operated bindField(TextField& model, NSTextField* view, Subscriptions& kept) {

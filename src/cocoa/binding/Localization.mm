@@ -1,5 +1,6 @@
 #import "cocoa/binding/Localization.h"
 
+#import "cocoa/binding/Fitting.h"
 #import "cocoa/support/Convert.h"
 
 #include "platform/StringTable.h"
@@ -18,9 +19,12 @@ void localizeText(NSView* view, const StringTable& strings) {
     if ([view isKindOfClass:[NSButton class]]) {
         NSButton* button = static_cast<NSButton*>(view);
         [button setTitle:localized([button title], strings)];
+        fitText(button, [button title], [button font]);
     } else if ([view isKindOfClass:[NSTextField class]]) {
         NSTextField* field = static_cast<NSTextField*>(view);
         [field setStringValue:localized([field stringValue], strings)];
+        if (![field isEditable])
+            fitText(field, [field stringValue], [field font]);
         NSTextFieldCell* cell = [field cell];
         if ([cell placeholderString])
             [cell setPlaceholderString:localized([cell placeholderString], strings)];

@@ -1,5 +1,6 @@
 #import "cocoa/binding/ScriptPanel.h"
 
+#import "cocoa/controls/Label.h"
 #import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Ref.h"
@@ -65,10 +66,7 @@ public:
 private:
     void makePanel() {
         [panel_.get() setReleasedWhenClosed:NO];
-        [text_.get() setEditable:NO];
-        [text_.get() setSelectable:NO];
-        [text_.get() setBezeled:NO];
-        [text_.get() setDrawsBackground:NO];
+        [text_.get() setFrame:textFrame];
         [bar_.get() setIndeterminate:YES];
         [stop_.get() setTitle:toCocoa(progress_.stopTitle())];
         [stop_.get() setBezelStyle:NSRoundedBezelStyle];
@@ -116,7 +114,7 @@ private:
                                                        styleMask:NSTitledWindowMask
                                                          backing:NSBackingStoreBuffered
                                                            defer:YES]);
-    Ref<NSTextField> text_ = made<NSTextField>(textFrame);
+    Ref<NSTextField> text_{makeLabel()};
     Ref<NSProgressIndicator> bar_ = made<NSProgressIndicator>(barFrame);
     Ref<NSButton> stop_ = made<NSButton>(stopFrame);
     Ref<ZVCall> stopCall_{[ZVCall callWithFunction:[this] { progress_.stop(); }]};

@@ -1,6 +1,6 @@
 #pragma once
 
-#import <AppKit/AppKit.h>
+#import "cocoa/controls/ZVMadeView.h"
 
 #include <memory>
 #include <vector>
@@ -11,7 +11,7 @@ class PointerArea;
 
 /// A bevelled dark panel with an etched groove below its top edge. Its picture is made once and
 /// used again until the view's size changes.
-@interface ZVMessageView : NSView {
+@interface ZVMessageView : ZVMadeView {
     std::vector<std::unique_ptr<zarvil::cocoa::PointerArea>> _areas;
     NSShadow* shadow;
     NSImage* _background;

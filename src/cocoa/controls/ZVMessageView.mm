@@ -26,16 +26,8 @@ void tell(id delegate, SEL message) {
 
 @synthesize background = _background;
 
-- (instancetype)initWithFrame:(NSRect)frame {
-    if ((self = [super initWithFrame:frame]))
-        [self setBackground:[self generateBackground]];
-    return self;
-}
-
-- (instancetype)initWithCoder:(NSCoder*)coder {
-    if ((self = [super initWithCoder:coder]))
-        [self setBackground:[self generateBackground]];
-    return self;
+- (void)setup {
+    [self setBackground:[self generateBackground]];
 }
 
 - (void)dealloc {

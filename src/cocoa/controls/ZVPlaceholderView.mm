@@ -1,5 +1,6 @@
 #import "cocoa/controls/ZVPlaceholderView.h"
 
+#import "cocoa/controls/Label.h"
 #import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Convert.h"
 
@@ -12,12 +13,8 @@ constexpr CGFloat gap = 8;
 constexpr CGFloat titleHeight = 20;
 constexpr CGFloat wordsHeight = 64;
 
-NSTextField* newLabel(NSFont* font) {
-    NSTextField* label = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
-    [label setEditable:NO];
-    [label setSelectable:NO];
-    [label setBezeled:NO];
-    [label setDrawsBackground:NO];
+NSTextField* centredLabel(NSFont* font) {
+    NSTextField* label = zarvil::cocoa::makeLabel();
     [label setAlignment:NSCenterTextAlignment];
     [label setFont:font];
     return label;
@@ -39,25 +36,12 @@ NSTextField* newLabel(NSFont* font) {
 
 - (void)setup {
     _symbol = [[[ZVSymbolView alloc] initWithFrame:NSZeroRect] autorelease];
-    _title = newLabel([NSFont boldSystemFontOfSize:[NSFont systemFontSize]]);
-    _words = newLabel([NSFont systemFontOfSize:[NSFont systemFontSize]]);
-    [[_words cell] setWraps:YES];
+    _title = centredLabel([NSFont boldSystemFontOfSize:[NSFont systemFontSize]]);
+    _words = centredLabel([NSFont systemFontOfSize:[NSFont systemFontSize]]);
     [self addSubview:_symbol];
     [self addSubview:_title];
     [self addSubview:_words];
     [self layOut];
-}
-
-- (instancetype)initWithFrame:(NSRect)frame {
-    if ((self = [super initWithFrame:frame]))
-        [self setup];
-    return self;
-}
-
-- (instancetype)initWithCoder:(NSCoder*)coder {
-    if ((self = [super initWithCoder:coder]))
-        [self setup];
-    return self;
 }
 
 - (BOOL)isFlipped {

@@ -27,8 +27,19 @@ constexpr unsigned options =
 
 - (void)setTitle:(NSString*)title {
     [super setTitle:title];
-    if ([title length] != 0)
-        [self setAttributedTitle:[NSAttributedString hyperlinkFromString:title withURL:nil]];
+    if ([title length] == 0)
+        return;
+    NSMutableAttributedString* link =
+        [[[NSAttributedString hyperlinkFromString:title withURL:nil] mutableCopy] autorelease];
+    if (NSFont* font = [self font])
+        [link addAttribute:NSFontAttributeName value:font range:NSMakeRange(0, [link length])];
+    [self setAttributedTitle:link];
+}
+
+// The attributed title has a font of its own.
+- (void)setFont:(NSFont*)font {
+    [super setFont:font];
+    [self setTitle:[self title]];
 }
 
 - (void)setupTracking {

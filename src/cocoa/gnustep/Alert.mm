@@ -1,5 +1,6 @@
 #import "cocoa/binding/Alert.h"
 
+#import "cocoa/controls/Label.h"
 #import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Ref.h"
 
@@ -26,17 +27,6 @@ CGFloat heightOf(NSTextField* label) {
     return std::ceil(lines.size.height) + 2 * inset;
 }
 
-NSTextField* newLabel(NSString* text) {
-    NSTextField* made = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
-    [made setEditable:NO];
-    [made setSelectable:NO];
-    [made setBezeled:NO];
-    [made setDrawsBackground:NO];
-    [[made cell] setWraps:YES];
-    [made setStringValue:text];
-    return made;
-}
-
 NSButton* newButton(NSString* title) {
     NSButton* made = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
     [made setTitle:title];
@@ -51,7 +41,8 @@ NSButton* newButton(NSString* title) {
 
 /// The system's own alert leaves long text in one line, which it cuts off.
 void runAlert(NSString* text, NSString* buttonTitle) {
-    NSTextField* words = newLabel(text);
+    NSTextField* words = makeLabel();
+    [words setStringValue:text];
     const CGFloat textHeight = std::max(symbolSide, heightOf(words));
     const CGFloat width = textLeft + textWidth + margin;
     const CGFloat textBottom = margin + buttonSize.height + margin;

@@ -144,6 +144,8 @@ ZV_OUTLETS(ZV_PROPERTY)
 ZV_ACTIONS(ZV_METHOD)
 #undef ZV_METHOD
 
+/// Explains the page that is shown, in a window of its own.
+- (IBAction)showHelp:(id)sender;
 /// Whether the user has opened the lock.
 - (BOOL)isUnlocked;
 - (void)setInterfaceEnabled:(BOOL)enabled;

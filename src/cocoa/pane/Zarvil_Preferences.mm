@@ -2,6 +2,8 @@
 
 #import "cocoa/adapters/CocoaPlatform.h"
 #import "cocoa/binding/AlertPanel.h"
+#import "cocoa/binding/Assistance.h"
+#import "cocoa/binding/HelpPanel.h"
 #import "cocoa/binding/Localization.h"
 #import "cocoa/binding/OutletBinder.h"
 #import "cocoa/binding/ScriptPanel.h"
@@ -9,6 +11,7 @@
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Guard.h"
 
+#include "pane/Help.h"
 #include "pane/Zarvil_Preferences.h"
 
 #include <cstdlib>
@@ -53,6 +56,10 @@ struct LoadedPane {
              bindOutlets(controller, owner, platform, controls, bindings))
             NSLog(@"Zarvil: layout: %@", toCocoa(fault));
         bindings.push_back(presentAlerts(platform.alerts()));
+        bindings.push_back(controller.guidance.observeAnnouncements(
+            [](const std::string& words) { announce(toCocoa(words)); }));
+        for (const auto& [outlet, text] : helpOfControls(platform.platform().strings))
+            setAssistiveHelp([owner valueForKey:toCocoa(outlet)], toCocoa(text));
         bindings.push_back(showScriptProgress(controller.scriptProgress, [owner mainView]));
     }
 
@@ -60,6 +67,7 @@ struct LoadedPane {
     zarvil::Zarvil_Preferences controller;
     OperatedControls controls;
     Subscriptions bindings;
+    HelpPanel help{controller.guidance, platform.platform().strings};
 };
 
 } // namespace zarvil::cocoa
@@ -126,6 +134,12 @@ ZV_OUTLETS(ZV_ACCESSORS)
 - (void)didUnselect {
     if (_loaded)
         _loaded->controller.didUnselect();
+}
+
+- (IBAction)showHelp:(id)sender {
+    (void)sender;
+    if (_loaded)
+        _loaded->help.present();
 }
 
 - (BOOL)isUnlocked {

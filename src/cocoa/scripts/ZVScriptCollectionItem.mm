@@ -1,6 +1,7 @@
 #import "cocoa/scripts/ZVScriptCollectionItem.h"
 
 #import "cocoa/binding/Bindings.h"
+#import "cocoa/binding/Fitting.h"
 #import "cocoa/controls/ZVSymbolView.h"
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/PropertyLists.h"
@@ -77,6 +78,7 @@ namespace {
 
 void showCaption(NSButton* button, const ButtonCaption& caption) {
     [button setTitle:toCocoa(caption.title)];
+    fitText(button, [button title], [NSFont systemFontOfSize:[NSFont systemFontSize]]);
     [button setToolTip:toCocoa(caption.toolTip)];
 }
 

@@ -77,6 +77,7 @@ void DeviceListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, 
 }
 
 // The base class would lay all rows out anew to count the hidden ones before its own; none is.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 void DeviceListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QAbstractItemView::currentChanged(current, previous);
     announceCurrentRow();
@@ -88,6 +89,7 @@ void DeviceListView::selectionChanged(const QItemSelection& selected,
     tellOfRow(this, QAccessible::SelectionRemove, deselected.indexes().value(0));
     tellOfRow(this, QAccessible::Selection, selected.indexes().value(0));
 }
+// NOLINTEND(bugprone-parent-virtual-call)
 
 void DeviceListView::focusInEvent(QFocusEvent* event) {
     QListView::focusInEvent(event);

@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help."));
     parser.addOptions({renderer, help});
-    const bool understood = parser.parse(application.arguments());
+    const bool understood = parser.parse(QGuiApplication::arguments());
     if (parser.isSet(help)) {
         std::fputs(qPrintable(parser.helpText()), stdout);
         return 0;

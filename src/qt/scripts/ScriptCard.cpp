@@ -355,7 +355,7 @@ void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
                             theme::cardRadius);
-    theme::paintControlOutlines(painter, *this);
+    theme::paintFieldOutlines(painter, *this);
     if (state_->isHidden())
         return;
     const int middle = state_->geometry().center().y();

@@ -18,6 +18,21 @@ constexpr int spacing = 8; // between cards
 constexpr int fewestRows = 3;
 constexpr int fewestCharacters = 24;
 
+/// -1 for the row that went.
+int rowAfterRemoval(int former, int removed) {
+    if (former == removed)
+        return -1;
+    return former < removed ? former : former - 1;
+}
+
+int rowAfterMove(int former, int from, int to) {
+    if (former == from)
+        return to;
+    if (from < to)
+        return former > from && former <= to ? former - 1 : former;
+    return former >= to && former < from ? former + 1 : former;
+}
+
 } // namespace
 
 ScriptListView::ScriptListView(QWidget* parent) : QAbstractScrollArea(parent) {
@@ -60,18 +75,10 @@ void ScriptListView::rowsDidChange(const RowChange& change) {
         break;
     case RowChange::Kind::Removed:
         noteFocus();
-        renumber([row](int former) {
-            return former == row ? -1 : former < row ? former : former - 1;
-        });
+        renumber([row](int former) { return rowAfterRemoval(former, row); });
         break;
     case RowChange::Kind::Moved:
-        renumber([row, to](int former) {
-            if (former == row)
-                return to;
-            if (row < to)
-                return former > row && former <= to ? former - 1 : former;
-            return former >= to && former < row ? former + 1 : former;
-        });
+        renumber([row, to](int former) { return rowAfterMove(former, row, to); });
         break;
     case RowChange::Kind::Cleared:
         noteFocus();

@@ -105,7 +105,7 @@ bool Arranger::eventFilter(QObject* watched, QEvent* event) {
 
 void Arranger::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    theme::paintControlOutlines(painter, *this);
+    theme::paintFieldOutlines(painter, *this);
 }
 
 // Row
@@ -344,18 +344,15 @@ QMargins BannerRow::padding() const {
 
 int BannerRow::pictureInset() const { return prominent_ ? bannerPictureShift : 0; }
 
-void BannerRow::paintEvent(QPaintEvent* event) {
-    if (!prominent_) {
-        Row::paintEvent(event);
+void BannerRow::paintEvent(QPaintEvent* /*event*/) {
+    if (!prominent_)
         return;
-    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(theme::bannerOutline(palette()));
     painter.setBrush(theme::bannerGround(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
                             theme::cardRadius);
-    theme::paintControlOutlines(painter, *this);
 }
 
 // Flow

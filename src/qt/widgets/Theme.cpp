@@ -116,13 +116,11 @@ void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& 
     painter.restore();
 }
 
-void paintControlOutlines(QPainter& painter, const QWidget& parent) {
-    const bool withButtons = isHighContrast(parent.palette());
+void paintFieldOutlines(QPainter& painter, const QWidget& parent) {
     for (const auto* child : parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        const bool isFramed = qobject_cast<const QLineEdit*>(child) ||
-                              qobject_cast<const QPlainTextEdit*>(child) ||
-                              (withButtons && qobject_cast<const QPushButton*>(child));
-        if (isFramed && child->isVisible() && child->isEnabled())
+        const bool isField =
+            qobject_cast<const QLineEdit*>(child) || qobject_cast<const QPlainTextEdit*>(child);
+        if (isField && child->isVisible() && child->isEnabled())
             paintFieldOutline(painter, parent.palette(), child->geometry());
     }
 }

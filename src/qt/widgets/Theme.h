@@ -48,8 +48,8 @@ inline constexpr int sideMargin = 20;
 [[nodiscard]] QColor fieldOutline(const QPalette& palette);
 /// Frames a field or a box that stands in `place`, where it needs one.
 void paintFieldOutline(QPainter& painter, const QPalette& palette, const QRect& place);
-/// Frames the fields among the parent's children, in high contrast its buttons too.
-void paintControlOutlines(QPainter& painter, const QWidget& parent);
+/// The same for the fields among the parent's children.
+void paintFieldOutlines(QPainter& painter, const QWidget& parent);
 /// What a palette lacks for its disabled text to be told from every ground that it stands on.
 [[nodiscard]] QPalette disabledTextFor(const QPalette& palette);
 [[nodiscard]] QColor bannerGround(const QPalette& palette);

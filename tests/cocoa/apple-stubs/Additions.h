@@ -21,6 +21,15 @@
 - (instancetype)animator;
 @end
 
+@interface NSView (AppleAccessibilityStub)
+- (void)setAccessibilityHelp:(NSString*)help;
+@end
+
+extern NSString* const NSAccessibilityAnnouncementRequestedNotification;
+extern NSString* const NSAccessibilityAnnouncementKey;
+extern "C" void NSAccessibilityPostNotificationWithUserInfo(id element, NSString* notification,
+                                                            NSDictionary* userInfo);
+
 @interface NSWindow (AppleStub)
 - (CGFloat)backingScaleFactor;
 @end

@@ -63,14 +63,14 @@ struct Host : ::testing::Test {
         (void)sentBy([] {});
     }
 
-    /// What the pane sends for an act of the user; it comes before what another control sends.
-    std::string sentBy(const std::function<void()>& act) {
+    /// What the pane sends for an act of the user with a control; it comes before what another
+    /// control sends.
+    std::string sentBy(const std::function<void()>& act, std::string_view control = {}) {
+        const bool isLog = control == "viewLogButton";
         act();
-        const auto marks = std::ranges::count(agent.heard, message::viewLog, &Message::name);
-        host.click(host.outlet("viewLogButton"));
-        EXPECT_TRUE(runUntil([&] {
-            return std::ranges::count(agent.heard, message::viewLog, &Message::name) > marks;
-        }));
+        host.click(host.outlet(isLog ? "checkForUpdatesNow" : "viewLogButton"));
+        EXPECT_TRUE(runUntil(
+            [=, this] { return heardOf(isLog ? message::checkForUpdates : message::viewLog); }));
         agent.heard.pop_back();
         std::string all;
         for (const Message& sent : agent.heard)
@@ -91,12 +91,14 @@ TEST_F(Host, everyControlSendsWhatTheTableSays) {
         reset();
         NSControl* control = host.outlet<NSControl>(c.outlet);
         ASSERT_TRUE(control) << c.outlet;
-        EXPECT_EQ(sentBy([&] {
-                      if (c.typed.empty())
-                          host.click(control);
-                      else
-                          host.type(static_cast<NSTextField*>(control), c.typed);
-                  }),
+        EXPECT_EQ(sentBy(
+                      [&] {
+                          if (c.typed.empty())
+                              host.click(control);
+                          else
+                              host.type(static_cast<NSTextField*>(control), c.typed);
+                      },
+                      c.outlet),
                   c.sent)
             << c.outlet;
     }
@@ -294,6 +296,24 @@ TEST_F(Host, goesOnWhenTheNotificationServerIsKilledUnderLoad) {
     agent.heard.clear();
     host.click(host.outlet("launchAtLogin"));
     EXPECT_TRUE(runUntil([this] { return heardOf(message::prefsChanged); }));
+}
+
+/// To be run in Ukrainian, which has three forms.
+TEST_F(Host, DISABLED_speaksTheUsersLanguageWithItsForms) {
+    const NSTabView* tabs = host.outlet<NSTabView>("tabView");
+    EXPECT_EQ(fromCocoa([[tabs tabViewItemAtIndex:0] label]), "Пристрої");
+    Array devices;
+    for (const auto& [count, words] : std::initializer_list<std::pair<std::size_t, const char*>>{
+             {1, "1 пристрій під наглядом"},
+             {2, "2 пристрої під наглядом"},
+             {5, "5 пристроїв під наглядом"},
+             {21, "21 пристрій під наглядом"}}) {
+        while (devices.size() < count)
+            devices.emplace_back(Dictionary{{"DeviceName", std::to_string(devices.size())}});
+        agent.send(Message(message::allSavedDevices, Dictionary{{"devices", devices}}));
+        EXPECT_TRUE(runUntil([&] { return text("statusLine").starts_with(words); }, 5))
+            << text("statusLine");
+    }
 }
 
 /// Of every text; the whole process runs without any.

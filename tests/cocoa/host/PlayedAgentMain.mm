@@ -39,7 +39,7 @@ Message parsed(const std::string& line) {
 
 bool inputWaits() {
     pollfd input{STDIN_FILENO, POLLIN, 0};
-    return ::poll(&input, 1, 0) != 0;
+    return std::cin.rdbuf()->in_avail() > 0 || ::poll(&input, 1, 0) != 0;
 }
 
 } // namespace

@@ -176,7 +176,10 @@ TEST_F(Lists, rowsAreSortedForDisplayAndToldOfOneByOne) {
         EXPECT_EQ(nameAt(row), sorted[row]);
         EXPECT_EQ(view.rowOfSerial(view.serialAtRow(row)), row);
     }
+    const auto kept = view.itemAtRow(0);
+    EXPECT_EQ(kept->collectionView(), &view);
     list.removeAllArrangedObjects();
+    EXPECT_EQ(kept->collectionView(), nullptr);
     EXPECT_TRUE(told.empty());
 }
 

@@ -102,6 +102,16 @@ TEST(RasterCanvas, lightensWithThePremultipliedFormula) {
         EXPECT_NEAR(image.red(1, 1), shown.red, exact);
         EXPECT_NEAR(image.alpha(1, 1), shown.alpha, exact);
     }
+    const auto pixel = [](const Color& below, const Color& above) {
+        const Drawn image({1, 1}, 1, Orientation::YDown, [&](Canvas& canvas) {
+            canvas.fill(Rect{0, 0, 1, 1}, below);
+            canvas.setBlendMode(BlendMode::Lighten);
+            canvas.fill(Rect{0, 0, 1, 1}, above);
+        });
+        return *image.bitmap.row(0);
+    };
+    EXPECT_EQ(pixel({0.2, 0.8, 0.4, 1}, {0.6, 0.2, 0.6, 1}),
+              pixel(color::clear, {0.6, 0.8, 0.6, 1}));
 }
 
 TEST(RasterCanvas, drawsALayerOnceWithTheStateOfItsBeginning) {

@@ -83,6 +83,19 @@ TEST(Shadow, andClipsAreFoundAgainOnlyWhereTheyLookTheSame) {
             }
 }
 
+TEST(Shadow, thatWasDrawnLongestAgoIsForgottenFirst) {
+    raster::ShadowCache cache;
+    constexpr int side = 500; // two of them fit
+    for (const double number : {1.0, 2.0, 1.0, 3.0})
+        if (!cache.find({number})) {
+            raster::Mask mask;
+            mask.reset({0, 0, side, side});
+            cache.insert({number}, std::move(mask));
+        }
+    EXPECT_EQ(cache.find({2.0}), nullptr);
+    EXPECT_TRUE(cache.find({1.0}) && cache.find({3.0}));
+}
+
 TEST(Shadow, ofALayerIsTheShadowOfItsPicture) {
     const Drawn image({60, 40}, 1, Orientation::YDown, [](Canvas& canvas) {
         canvas.setShadow({Color::gray(0), 0, {20, 0}});

@@ -33,7 +33,9 @@ TEST_F(ScriptItem, editingLaysTheFilledFieldsOverTheCardTheTitleOnTop) {
     EXPECT_EQ(text.fontSize(), 13);
     EXPECT_EQ(title.stringValue(), "a");
     EXPECT_EQ(text.stringValue(), "echo a");
+    EXPECT_EQ(script->editCaption().accessibleName, "Save “a”");
     script->edit();
+    EXPECT_EQ(script->editCaption().accessibleName, "Edit “a”");
     EXPECT_FALSE(script->editing());
     EXPECT_THAT(script->view().subviews(), IsEmpty());
     EXPECT_EQ(script->eTitle(), nullptr);
@@ -212,8 +214,9 @@ TEST_F(ScriptItem, anEmptyScriptIsRefusedInTheUsersLanguage) {
 
 TEST_F(ScriptItem, removingDeletesTheFileAndLeavesTheOthersTheirItems) {
     const auto second = item(1);
-    item(0)->remove();
+    item(0)->userDidPressRemove();
     EXPECT_FALSE(files.files.contains(pathOf("a.zvscript")));
+    second->userDidPressRemove(); // the second half of a double click
     EXPECT_THAT(titles(), ElementsAre("b"));
     EXPECT_EQ(item(0), second);
 }

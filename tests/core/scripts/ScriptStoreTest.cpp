@@ -167,6 +167,7 @@ TEST_F(ScriptStore, theSwitchLoadsAndEmptiesTheListAndTellsTheAgent) {
     pane.useScriptsButton.setAction("useScripts:");
     pane.useScriptsButton.performClick();
     EXPECT_THAT(titles(), ElementsAre("a"));
+    EXPECT_TRUE(pane.placeholders.noScripts.isHidden());
     EXPECT_EQ(pane.scriptsCollection.alphaValue(), alpha::active);
     EXPECT_TRUE(pane.scriptsTitle.isEnabled());
     EXPECT_FALSE(pane.createNewScript.isEnabled());
@@ -175,6 +176,7 @@ TEST_F(ScriptStore, theSwitchLoadsAndEmptiesTheListAndTellsTheAgent) {
     pane.scriptsTitle.userDidEdit("half typed");
     pane.useScriptsButton.performClick();
     EXPECT_EQ(count(), 0U);
+    EXPECT_FALSE(pane.placeholders.noScripts.isHidden());
     EXPECT_EQ(pane.scriptsCollection.alphaValue(), alpha::dimmed);
     EXPECT_FALSE(pane.scriptsTitle.isEnabled());
     EXPECT_EQ(pane.scriptsTitle.stringValue(), "");

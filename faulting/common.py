@@ -8,7 +8,7 @@ import sys
 import time
 import xml.etree.ElementTree
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests/system"))
 import desktop  # noqa: E402
 from desktop import AGENT_NAME, BUILD, HOST_NAME, PATH, Pane, Session, wait_until  # noqa: E402
 from gi.repository import Gio, GLib  # noqa: E402
