@@ -134,7 +134,7 @@ void warnOfForeign(const QVariant& variant, const QString& where) {
 }
 
 Dictionary decodeDictionary(const QDBusArgument& argument) {
-    Dictionary dictionary;
+    Dictionary::Entries entries;
     argument.beginMap();
     while (!argument.atEnd()) {
         argument.beginMapEntry();
@@ -145,12 +145,12 @@ Dictionary decodeDictionary(const QDBusArgument& argument) {
         if (!text)
             continue;
         if (std::optional<Value> value = decode(variant))
-            dictionary.setObject(*text, std::move(*value));
+            entries.push_back({*text, std::move(*value)});
         else
             warnOfForeign(variant, "under \"" + QString::fromUtf8(*text) + '"');
     }
     argument.endMap();
-    return dictionary;
+    return Dictionary::ofEntries(std::move(entries));
 }
 
 Array decodeArray(const QDBusArgument& argument) {

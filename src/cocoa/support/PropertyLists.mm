@@ -60,15 +60,15 @@ Value decodeArray(NSArray* array, int depth) {
 }
 
 Dictionary decodeDictionary(NSDictionary* dictionary, int depth) {
-    Dictionary decoded;
+    Dictionary::Entries decoded;
     NSEnumerator* keys = [dictionary keyEnumerator];
     while (id key = [keys nextObject]) {
         if (![key isKindOfClass:[NSString class]])
             continue;
         if (auto value = decode([dictionary objectForKey:key], depth + 1))
-            decoded.setObject(fromCocoa(key), std::move(*value));
+            decoded.push_back({fromCocoa(key), std::move(*value)});
     }
-    return decoded;
+    return Dictionary::ofEntries(std::move(decoded));
 }
 
 std::optional<Value> decode(id object, int depth) {

@@ -47,37 +47,25 @@ Record firstSameDevice(const ArrayController& list, const Dictionary& device) {
     });
 }
 
-void DeviceList::add(Record record) {
-    const Dictionary& device = record->contents();
-    if (const Value* serial = device.objectForKey(payload::deviceSerial))
+void DeviceList::add(const Record& record) {
+    if (const Value* serial = record->contents().objectForKey(payload::deviceSerial))
         ++serials_[*serial];
-    auto& sameHash = positions_[identityHash(device)];
-    sameHash.push_back(records_.insert(records_.end(), std::move(record)));
+    list_.addObject(record);
 }
 
 void DeviceList::removeSameDevice(const Dictionary& device) {
-    const auto listed = positions_.find(identityHash(device));
-    if (listed == positions_.end())
+    const Record same = firstSameDevice(list_, device);
+    if (!same)
         return;
-    auto& sameHash = listed->second;
-    const auto found = std::ranges::find_if(sameHash, [&device](Position position) {
-        return isSameDevice((*position)->contents(), device);
-    });
-    if (found == sameHash.end())
-        return;
+    list_.removeObject(same);
     const auto serial = serials_.find(*device.objectForKey(payload::deviceSerial));
     if (--serial->second == 0)
         serials_.erase(serial);
-    records_.erase(*found);
-    sameHash.erase(found);
-    if (sameHash.empty())
-        positions_.erase(listed);
 }
 
 void DeviceList::clear() {
     serials_.clear();
-    positions_.clear();
-    records_.clear();
+    list_.removeAllArrangedObjects();
 }
 
 bool DeviceList::containsSerial(const Value& serial) const { return serials_.contains(serial); }

@@ -3,9 +3,7 @@
 #include "interface/ArrayController.h"
 #include "protocol/NonCopyable.h"
 
-#include <list>
 #include <unordered_map>
-#include <vector>
 
 namespace zarvil {
 
@@ -23,24 +21,23 @@ namespace zarvil {
 /// while they are listed.
 class DeviceList : NonCopyable {
 public:
-    void add(Record record);
+    void add(const Record& record);
     /// Removes the first same device, if there is one.
     void removeSameDevice(const Dictionary& device);
     void clear();
 
     /// Whether a record's serial is an equal object, whatever its kind.
     [[nodiscard]] bool containsSerial(const Value& serial) const;
-    [[nodiscard]] const std::list<Record>& records() const { return records_; }
+    [[nodiscard]] ArrayController::ArrangedObjects records() const {
+        return list_.arrangedObjects();
+    }
 
 private:
-    using Position = std::list<Record>::iterator;
     struct ContentHash {
         std::size_t operator()(const Value& value) const { return contentHash(value); }
     };
 
-    std::list<Record> records_;
-    /// Positions under one hash stand in the order of arrival.
-    std::unordered_map<std::size_t, std::vector<Position>> positions_;
+    ArrayController list_{&deviceHash};
     std::unordered_map<Value, std::size_t, ContentHash> serials_; ///< how many have each
 };
 

@@ -2,56 +2,54 @@
 
 namespace zarvil {
 
+ArrayController::Entry::Entry(ArrayController& list, RecordSerial ownSerial, Record listed)
+    : owner(list), serial(ownSerial), hash(list.hash_(*listed)), record(std::move(listed)) {
+    record->addWatcher(*this);
+}
+
 void ArrayController::addObject(Record record) {
-    auto added = std::make_unique<Entry>(
-        Entry{nextSerial_++, hash_(*record), std::move(record), Subscription()});
+    auto added = std::make_unique<Entry>(*this, nextSerial_++, std::move(record));
     Entry& entry = *added;
-    entry.edits = entry.record->observeEdits([this, &entry] { recordWasEdited(entry); });
     list(entry);
     entries_.insert(entries_.size(), std::move(added));
     observers_.notify({ListChange::Kind::Inserted, entry.serial, entry.record});
 }
 
 void ArrayController::removeObject(const Record& record) {
-    const Entry* listed =
+    Entry* listed =
         firstEntry(hash_(*record), [&](const Record& candidate) { return candidate == record; });
     if (!listed)
         listed = firstEqual(record);
     if (!listed)
         return;
     unlist(*listed);
-    const auto removed = entries_.take(indexOf(*listed));
+    const auto removed = entries_.take(entries_.indexOf(*listed));
     observers_.notify({ListChange::Kind::Removed, removed->serial, removed->record});
 }
 
 void ArrayController::removeAllArrangedObjects() {
     if (entries_.empty())
         return;
-    entriesByHash_.clear();
+    firstOfHash_.clear();
     entries_.clear();
     observers_.notify({ListChange::Kind::Cleared, 0, nullptr});
 }
 
 std::optional<std::size_t> ArrayController::indexOfObject(const Record& record) const {
     const Entry* equal = firstEqual(record);
-    return equal ? std::optional(indexOf(*equal)) : std::nullopt;
+    return equal ? std::optional(entries_.indexOf(*equal)) : std::nullopt;
 }
 
 Subscription ArrayController::observe(Observer observer) const {
     for (const auto& entry : entries_)
-        observer({ListChange::Kind::Inserted, entry->serial, entry->record});
+        observer({ListChange::Kind::Inserted, entry.serial, entry.record});
     return observers_.add(std::move(observer));
 }
 
-const ArrayController::Entry* ArrayController::firstEqual(const Record& record) const {
+ArrayController::Entry* ArrayController::firstEqual(const Record& record) const {
     return firstEntry(hash_(*record), [&](const Record& candidate) {
         return candidate == record || candidate->contents() == record->contents();
     });
-}
-
-std::size_t ArrayController::indexOf(const Entry& entry) const {
-    return entries_.partitionPoint(
-        [&entry](const auto& candidate) { return candidate->serial < entry.serial; });
 }
 
 void ArrayController::recordWasEdited(Entry& entry) {
@@ -62,16 +60,31 @@ void ArrayController::recordWasEdited(Entry& entry) {
 }
 
 void ArrayController::list(Entry& entry) {
-    auto& sameHash = entriesByHash_[entry.hash];
-    sameHash.insert(std::ranges::upper_bound(sameHash, entry.serial, {}, &Entry::serial), &entry);
+    entry.before = entry.after = &entry;
+    const auto [listed, isOnly] = firstOfHash_.try_emplace(entry.hash, &entry);
+    if (isOnly)
+        return;
+    Entry* const first = listed->second;
+    Entry* smaller = first->before; // a new one follows the last
+    while (smaller != first && smaller->serial > entry.serial)
+        smaller = smaller->before;
+    if (smaller->serial > entry.serial) {
+        smaller = first->before;
+        listed->second = &entry;
+    }
+    entry.before = smaller;
+    entry.after = smaller->after;
+    entry.before->after = entry.after->before = &entry;
 }
 
-void ArrayController::unlist(const Entry& entry) {
-    const auto listed = entriesByHash_.find(entry.hash);
-    auto& sameHash = listed->second;
-    sameHash.erase(std::ranges::lower_bound(sameHash, entry.serial, {}, &Entry::serial));
-    if (sameHash.empty())
-        entriesByHash_.erase(listed);
+void ArrayController::unlist(Entry& entry) {
+    const auto listed = firstOfHash_.find(entry.hash);
+    if (entry.after == &entry)
+        firstOfHash_.erase(listed);
+    else if (listed->second == &entry)
+        listed->second = entry.after;
+    entry.before->after = entry.after;
+    entry.after->before = entry.before;
 }
 
 } // namespace zarvil

@@ -27,13 +27,21 @@ struct ListChange {
 /// The records of a list in the order of their addition. Looking a record up answers as a walk in
 /// order would, in constant time.
 class ArrayController : NonCopyable {
-    struct Entry {
+    /// Watches its record.
+    struct Entry final : Chunked, RecordWatcher {
+        Entry(ArrayController& list, RecordSerial ownSerial, Record listed);
+        ~Entry() { record->removeWatcher(*this); }
+        void recordWasEdited() override { owner.recordWasEdited(*this); }
+
+        ArrayController& owner;
         RecordSerial serial;
-        std::size_t hash; ///< kept current by watching the record's edits
+        std::size_t hash; ///< kept current by watching
         Record record;
-        Subscription edits;
+        /// The ring of the entries of this hash, by serial.
+        Entry* before = this;
+        Entry* after = this;
     };
-    using Entries = ChunkedList<std::unique_ptr<Entry>>;
+    using Entries = ChunkedList<Entry>;
 
 public:
     using Observer = std::function<void(const ListChange&)>;
@@ -50,7 +58,7 @@ public:
 
             Iterator() = default;
             explicit Iterator(Entries::Iterator entry) : entry_(entry) {}
-            const Record& operator*() const { return (*entry_)->record; }
+            const Record& operator*() const { return (*entry_).record; }
             Iterator& operator++() {
                 ++entry_;
                 return *this;
@@ -67,11 +75,11 @@ public:
         [[nodiscard]] Iterator end() const { return Iterator(entries_->end()); }
         [[nodiscard]] std::size_t size() const { return entries_->size(); }
         [[nodiscard]] const Record& operator[](std::size_t index) const {
-            return (*entries_)[index]->record;
+            return (*entries_)[index].record;
         }
         /// Throws behind the end.
         [[nodiscard]] const Record& at(std::size_t index) const {
-            return entries_->at(index)->record;
+            return entries_->at(index).record;
         }
 
     private:
@@ -95,7 +103,7 @@ public:
     /// Index of the first record of contents equal to those of this one.
     [[nodiscard]] std::optional<std::size_t> indexOfObject(const Record& record) const;
     [[nodiscard]] RecordSerial serialAtIndex(std::size_t index) const {
-        return entries_[index]->serial;
+        return entries_[index].serial;
     }
     /// The first record that a walk over those of one hash finds, or null.
     template <typename Predicate>
@@ -113,24 +121,27 @@ public:
 
 private:
     template <typename Predicate>
-    [[nodiscard]] const Entry* firstEntry(std::size_t hash, Predicate&& matches) const {
-        const auto listed = entriesByHash_.find(hash);
-        if (listed == entriesByHash_.end())
+    [[nodiscard]] Entry* firstEntry(std::size_t hash, Predicate&& matches) const {
+        const auto listed = firstOfHash_.find(hash);
+        if (listed == firstOfHash_.end())
             return nullptr;
-        const auto found = std::ranges::find_if(
-            listed->second, [&](const Entry* entry) { return matches(entry->record); });
-        return found == listed->second.end() ? nullptr : *found;
+        Entry* const first = listed->second;
+        for (Entry* entry = first;; entry = entry->after) {
+            if (matches(entry->record))
+                return entry;
+            if (entry->after == first)
+                return nullptr;
+        }
     }
-    [[nodiscard]] const Entry* firstEqual(const Record& record) const;
-    [[nodiscard]] std::size_t indexOf(const Entry& entry) const;
+    [[nodiscard]] Entry* firstEqual(const Record& record) const;
     void recordWasEdited(Entry& entry);
     void list(Entry& entry);
-    void unlist(const Entry& entry);
+    void unlist(Entry& entry);
 
     Hash hash_;
     Entries entries_; ///< with ascending serials
-    /// In the order of their serials, so that the first match is the walk's answer.
-    std::unordered_map<std::size_t, std::vector<Entry*>> entriesByHash_;
+    /// By serial, so that the first match is the walk's answer.
+    std::unordered_map<std::size_t, Entry*> firstOfHash_;
     RecordSerial nextSerial_ = 1;
     mutable ObserverList<const ListChange&> observers_;
 };

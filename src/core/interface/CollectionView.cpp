@@ -22,8 +22,8 @@ CollectionView::CollectionView(ArrayController& content, Prototype prototype, So
           content.observe([this](const ListChange& change) { contentDidChange(change); })) {}
 
 CollectionView::~CollectionView() {
-    for (const auto& row : rows_)
-        release(*row);
+    for (const Row& row : rows_)
+        release(row);
 }
 
 std::shared_ptr<CollectionViewItem> CollectionView::itemAtIndex(std::size_t index) {
@@ -34,17 +34,17 @@ std::shared_ptr<CollectionViewItem> CollectionView::itemAtIndex(std::size_t inde
 }
 
 std::shared_ptr<CollectionViewItem> CollectionView::itemAtRow(std::size_t row) {
-    return row < rows_.size() ? itemOf(*rows_[row]) : nullptr;
+    return row < rows_.size() ? itemOf(rows_[row]) : nullptr;
 }
 
 RecordSerial CollectionView::serialAtRow(std::size_t row) const {
-    return row < rows_.size() ? rows_[row]->serial : 0;
+    return row < rows_.size() ? rows_[row].serial : 0;
 }
 
 std::optional<std::size_t> CollectionView::rowOfSerial(RecordSerial serial) const {
     const auto listed = rowsBySerial_.find(serial);
     return listed == rowsBySerial_.end() ? std::nullopt
-                                         : std::optional(placeOf(listed->second->key, serial));
+                                         : std::optional(rows_.indexOf(*listed->second));
 }
 
 Subscription CollectionView::observeRows(RowObserver observer) const {
@@ -71,8 +71,8 @@ void CollectionView::contentDidChange(const ListChange& change) {
 }
 
 void CollectionView::insert(const ListChange& change) {
-    auto added = std::make_unique<Row>(Row{sortKey_ ? sortKey_(*change.record) : std::string(),
-                                           change.serial, change.record, nullptr});
+    auto added = std::make_unique<Row>(sortKey_ ? sortKey_(*change.record) : std::string(),
+                                       change.serial, change.record);
     Row& row = *added;
     const std::size_t place = placeOf(row.key, row.serial);
     notify(Kind::Inserted, Phase::Before, place);
@@ -83,10 +83,10 @@ void CollectionView::insert(const ListChange& change) {
 
 void CollectionView::remove(RecordSerial serial) {
     const auto listed = rowsBySerial_.find(serial);
-    const std::size_t place = placeOf(listed->second->key, serial);
+    const std::size_t place = rows_.indexOf(*listed->second);
     notify(Kind::Removed, Phase::Before, place);
     const auto removed = rows_.take(place);
-    rowsBySerial_.erase(serial);
+    rowsBySerial_.erase(listed);
     release(*removed);
     notify(Kind::Removed, Phase::After, place);
 }
@@ -96,7 +96,7 @@ void CollectionView::moveToItsPlace(RecordSerial serial) {
         return;
     Row& row = *rowsBySerial_.find(serial)->second;
     std::string key = sortKey_(*row.record);
-    const std::size_t from = placeOf(row.key, serial);
+    const std::size_t from = rows_.indexOf(row);
     const std::size_t behind = placeOf(key, serial);
     const std::size_t to = behind > from ? behind - 1 : behind;
     if (to == from) {
@@ -114,14 +114,14 @@ void CollectionView::clear() {
     notify(Kind::Cleared, Phase::Before, 0);
     const auto gone = std::exchange(rows_, {});
     rowsBySerial_.clear();
-    for (const auto& row : gone)
-        release(*row);
+    for (const Row& row : gone)
+        release(row);
     notify(Kind::Cleared, Phase::After, 0);
 }
 
 std::size_t CollectionView::placeOf(const std::string& key, RecordSerial serial) const {
-    return rows_.partitionPoint([&](const auto& other) {
-        return std::tie(other->key, other->serial) < std::tie(key, serial);
+    return rows_.partitionPoint([&](const Row& other) {
+        return std::tie(other.key, other.serial) < std::tie(key, serial);
     });
 }
 
@@ -131,6 +131,8 @@ std::shared_ptr<CollectionViewItem> CollectionView::itemOf(Row& row) {
         row.item->representedObject_ = row.record;
         row.item->serial_ = row.serial;
         row.item->collectionView_ = this;
+        if (itemWasMade_)
+            itemWasMade_(*row.item);
     }
     return row.item;
 }

@@ -62,6 +62,7 @@ public:
     /// addition, and without this all do.
     using SortKey = std::string (*)(const MutableRecord&);
     using RowObserver = std::function<void(const RowChange&)>;
+    using ItemObserver = std::function<void(CollectionViewItem&)>;
 
     /// The content is not owned and must outlive the view.
     CollectionView(ArrayController& content, Prototype prototype, SortKey sortKey = nullptr);
@@ -72,12 +73,23 @@ public:
     void setDelegate(CollectionViewDelegate* delegate) { delegate_ = delegate; }
     [[nodiscard]] CollectionViewDelegate* delegate() const { return delegate_; }
 
+    /// Told of every item that is made, before anybody else sees it.
+    void setItemWasMade(ItemObserver itemWasMade) { itemWasMade_ = std::move(itemWasMade); }
+
     /// The item of an arranged object. Null behind the end, and while the content is ahead of the
     /// rows within one change.
     std::shared_ptr<CollectionViewItem> itemAtIndex(std::size_t index);
     template <typename Item>
     std::shared_ptr<Item> itemAtIndexAs(std::size_t index) {
         return std::dynamic_pointer_cast<Item>(itemAtIndex(index));
+    }
+
+    /// The items that were asked for so far, by row.
+    template <typename Item, typename Callback>
+    void forEachMadeItem(Callback&& callback) const {
+        for (const Row& row : rows_)
+            if (const auto* item = dynamic_cast<const Item*>(row.item.get()))
+                callback(*item);
     }
 
     [[nodiscard]] std::size_t rowCount() const { return rows_.size(); }
@@ -97,7 +109,10 @@ public:
 
 private:
     friend class CollectionViewItem;
-    struct Row {
+    struct Row final : Chunked {
+        Row(std::string sortedBy, RecordSerial ownSerial, Record shown)
+            : key(std::move(sortedBy)), serial(ownSerial), record(std::move(shown)) {}
+
         std::string key;
         RecordSerial serial;
         Record record;
@@ -117,8 +132,9 @@ private:
     ArrayController& content_;
     Prototype prototype_;
     SortKey sortKey_;
+    ItemObserver itemWasMade_;
     CollectionViewDelegate* delegate_ = nullptr;
-    ChunkedList<std::unique_ptr<Row>> rows_; ///< by key, then serial
+    ChunkedList<Row> rows_; ///< by key, then serial
     std::unordered_map<RecordSerial, Row*> rowsBySerial_;
     Property<std::size_t> rowCount_;
     mutable ObserverList<const RowChange&> observers_;

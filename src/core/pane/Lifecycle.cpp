@@ -19,6 +19,7 @@ Zarvil_Preferences::Zarvil_Preferences(Platform& platform)
       scriptTexts_(platform.timers, platform.files) {
     connectedDevices.setDelegate(this);
     selectedDevices.setDelegate(this);
+    scriptsCollection.setItemWasMade([this](CollectionViewItem& item) { scriptItemWasMade(item); });
     visitOutlets(*this, [this](std::string_view /*name*/, View& outlet) {
         if (auto* control = dynamic_cast<Control*>(&outlet))
             control->setTarget(this);

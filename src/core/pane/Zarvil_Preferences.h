@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace zarvil {
@@ -192,7 +193,9 @@ private:
     void resetUserAndDeviceSettings();
 
     [[nodiscard]] bool scriptExists(std::string_view title) const;
+    void listScript(const Record& record);
     void handToItem(const Record& record);
+    void scriptItemWasMade(CollectionViewItem& item);
     void keepDrafts();
     void resumeDrafts();
     std::shared_ptr<ZVScriptCollectionItem> itemOfDraft(const ScriptDraft& draft);
@@ -211,6 +214,8 @@ private:
     std::unique_ptr<Timer> appTimer;
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
+    /// Listed scripts whose items get them when they are made.
+    std::unordered_set<const MutableRecord*> unhandedScripts_;
     /// Of scripts that are not listed at the moment.
     std::vector<ScriptDraft> scriptDrafts_;
     std::optional<double> lastRemoval_; ///< by a press, as the clock tells

@@ -59,16 +59,31 @@ std::size_t hashOf(const Array& array) {
 
 } // namespace
 
-Dictionary::Dictionary(std::initializer_list<std::pair<const std::string, Value>> entries)
-    : entries_(entries) {}
+Dictionary::Dictionary(std::initializer_list<std::pair<const std::string, Value>> entries) {
+    entries_.reserve(entries.size());
+    for (const auto& [key, value] : entries)
+        setObject(key, value);
+}
+
+Dictionary Dictionary::ofEntries(Entries entries) {
+    Dictionary dictionary;
+    std::ranges::stable_sort(entries, {}, &Entry::key);
+    for (auto& [key, value] : entries)
+        dictionary.setObject(key, std::move(value)); // at the end
+    return dictionary;
+}
 
 const Value* Dictionary::objectForKey(std::string_view key) const {
-    const auto found = entries_.find(key);
-    return found == entries_.end() ? nullptr : &found->second;
+    const auto found = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
+    return found == entries_.end() || found->key != key ? nullptr : &found->value;
 }
 
 void Dictionary::setObject(std::string_view key, Value value) {
-    entries_.insert_or_assign(std::string(key), std::move(value));
+    const auto place = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
+    if (place != entries_.end() && place->key == key)
+        place->value = std::move(value);
+    else
+        entries_.insert(place, {std::string(key), std::move(value)});
 }
 
 bool Dictionary::boolForKey(std::string_view key) const {

@@ -20,6 +20,25 @@ bool Zarvil_Preferences::scriptExists(std::string_view title) const {
     return scriptOfTitle(scriptsArrayController, title) != nullptr;
 }
 
+/// Items of thousands of scripts are made, and handed their records, when they are first seen.
+/// Those that share a title are compared at once, with the contents that they have now.
+void Zarvil_Preferences::listScript(const Record& record) {
+    scriptsArrayController.addObject(record);
+    const std::string* title = record->stringForKey(script::title);
+    if (title && onlyScriptOfTitle(scriptsArrayController, *title) == record)
+        unhandedScripts_.insert(record.get());
+    else
+        handToItem(record);
+}
+
+void Zarvil_Preferences::scriptItemWasMade(CollectionViewItem& item) {
+    auto* script = dynamic_cast<ZVScriptCollectionItem*>(&item);
+    if (!script || unhandedScripts_.erase(item.representedObject().get()) == 0)
+        return;
+    script->setData(item.representedObject());
+    script->setOwner(this);
+}
+
 void Zarvil_Preferences::handToItem(const Record& record) {
     // By contents: of equal scripts only the first one's item is given a record, on purpose.
     const auto index = scriptsArrayController.indexOfObject(record);
@@ -42,20 +61,18 @@ void Zarvil_Preferences::loadScripts() {
     for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
         std::string path = folder;
         path.append("/").append(name);
-        const Record record = scriptTexts_.makeScript(script::titleOfFile(name), std::move(path));
-        scriptsArrayController.addObject(record);
-        handToItem(record);
+        listScript(scriptTexts_.makeScript(script::titleOfFile(name), std::move(path)));
     }
     resumeDrafts();
 }
 
 // The list is emptied whenever the agent misses a ping, in the middle of a word.
 void Zarvil_Preferences::keepDrafts() {
-    for (std::size_t index = 0; index < scriptsArrayController.arrangedObjects().size(); ++index) {
-        const auto item = scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(index);
-        if (auto draft = item ? item->draft() : std::nullopt)
-            scriptDrafts_.push_back(*std::move(draft));
-    }
+    scriptsCollection.forEachMadeItem<ZVScriptCollectionItem>(
+        [this](const ZVScriptCollectionItem& item) {
+            if (auto draft = item.draft())
+                scriptDrafts_.push_back(*std::move(draft));
+        });
 }
 
 void Zarvil_Preferences::resumeDrafts() {
@@ -81,6 +98,7 @@ std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const Sc
 
 void Zarvil_Preferences::unloadScripts() {
     keepDrafts();
+    unhandedScripts_.clear();
     scriptsArrayController.removeAllArrangedObjects();
     scriptsArrayController.rearrangeObjects();
 }
@@ -98,17 +116,17 @@ void Zarvil_Preferences::create(Control* /*sender*/) {
         platform_.errors.presentError(*error);
         return;
     }
-    const Record record = makeScript(title, "");
-    scriptsArrayController.addObject(record);
+    listScript(makeScript(title, ""));
     scriptsTitle.setStringValue("");
     createNewScript.setEnabled(false);
     scriptsArrayController.rearrangeObjects();
-    handToItem(record);
 }
 
 void Zarvil_Preferences::removeScript(const Record& record) {
-    if (record)
+    if (record) {
+        unhandedScripts_.erase(record.get());
         scriptsArrayController.removeObject(record);
+    }
     scriptsArrayController.rearrangeObjects();
     showTitleFault();
 }

@@ -1,6 +1,7 @@
 #include "qt/devices/DeviceItemDelegate.h"
 
 #include "qt/devices/DeviceListModel.h"
+#include "qt/devices/DeviceListView.h"
 #include "qt/widgets/NoteCard.h"
 
 #include <QApplication>
@@ -136,6 +137,8 @@ void DeviceItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(Qt::LayoutDirectionAuto);
+    if (const auto* list = qobject_cast<const DeviceListView*>(option.widget))
+        painter->setOpacity(list->opacity());
     paintNoteCard(*painter, option.rect, painter->device()->devicePixelRatio());
     if (option.state & QStyle::State_HasFocus)
         paintFocus(*painter, option.rect);

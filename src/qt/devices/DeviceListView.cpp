@@ -45,6 +45,11 @@ void DeviceListView::setModel(zarvil::CollectionView& view) {
     connect(devices_, &DeviceListModel::userDidToggle, this, &DeviceListView::passFocusWhenEmpty);
 }
 
+void DeviceListView::setOpacity(double opacity) {
+    opacity_ = opacity;
+    viewport()->update();
+}
+
 // Enough for the words in place of the rows as well; what is lower scrolls with the page.
 QSize DeviceListView::minimumSizeHint() const {
     constexpr int fewestCards = 2;

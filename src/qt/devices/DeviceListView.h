@@ -17,6 +17,8 @@ class DeviceListView final : public QListView {
     Q_OBJECT
     /// Object name of the list that takes the keyboard when the user's tick empties this one.
     Q_PROPERTY(QString passesFocusTo READ passesFocusTo WRITE setPassesFocusTo)
+    /// Of its cards, from 0 to 1.
+    Q_PROPERTY(double opacity READ opacity WRITE setOpacity)
 
 public:
     explicit DeviceListView(QWidget* parent = nullptr);
@@ -28,6 +30,9 @@ public:
 
     [[nodiscard]] QString passesFocusTo() const { return passesFocusTo_; }
     void setPassesFocusTo(const QString& list) { passesFocusTo_ = list; }
+
+    [[nodiscard]] double opacity() const { return opacity_; }
+    void setOpacity(double opacity);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
     void reset() override;
@@ -50,6 +55,7 @@ private:
     AccessibleDeviceList* accessible_; ///< belongs to the toolkit's cache
     DeviceListModel* devices_ = nullptr;
     QString passesFocusTo_;
+    double opacity_ = 1;
 };
 
 } // namespace zarvil::qt

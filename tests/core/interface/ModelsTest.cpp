@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 
 namespace zarvil {
 namespace {
@@ -85,6 +86,38 @@ TEST_F(Lists, findTheEarlierOfTwoRecordsThatAnEditMadeEqual) {
     list.removeAllArrangedObjects();
     early->setObject("name", "z");
     EXPECT_FALSE(list.indexOfObject(early));
+}
+
+// A plain vector plays against the list.
+TEST_F(Lists, findTheFirstOfEqualOnesAfterAnyAdditionsEditsAndRemovals) {
+    std::mt19937 random(1); // NOLINT: the same walk in every run
+    std::vector<Record> model;
+    const auto first = [&model](const Record& wanted) {
+        return std::ranges::find_if(model, [&wanted](const Record& candidate) {
+            return candidate->contents() == wanted->contents();
+        });
+    };
+    for (int step = 0; step < 500; ++step) {
+        const std::vector<Record> wanted{record("a"), record("b"), record("c")};
+        const Record& one = wanted[random() % wanted.size()];
+        const auto kind = random() % 3;
+        if (kind == 0 || model.empty()) {
+            model.push_back(makeRecord(one->contents()));
+            list.addObject(model.back());
+        } else if (kind == 1) {
+            model[random() % model.size()]->setObject("name",
+                                                      *one->contents().stringForKey("name"));
+        } else if (const auto found = first(one); found != model.end()) {
+            list.removeObject(one);
+            model.erase(found);
+        }
+        for (const Record& equal : wanted) {
+            const auto found = first(equal);
+            ASSERT_EQ(list.indexOfObject(equal).value_or(model.size()),
+                      static_cast<std::size_t>(found - model.begin()))
+                << "step " << step;
+        }
+    }
 }
 
 // A plain sorted vector plays against the view; the observer keeps the rows by what it is told.

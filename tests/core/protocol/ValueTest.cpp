@@ -31,6 +31,19 @@ TEST(Dictionary, readsForgivinglyWhateverTheTypeOfTheValue) {
     EXPECT_EQ(dictionary.dictionaryForKey("list"), nullptr);
 }
 
+TEST(Dictionary, holdsEveryKeyOnceWithItsLastValueHoweverItIsFilled) {
+    Dictionary oneByOne;
+    Dictionary::Entries entries;
+    for (const char* key : {"b", "c", "a", "b", "", "c"}) {
+        const Value value(static_cast<int>(entries.size()));
+        oneByOne.setObject(key, value);
+        entries.push_back({key, value});
+    }
+    EXPECT_EQ(oneByOne, Dictionary::ofEntries(entries));
+    EXPECT_EQ(oneByOne, (Dictionary{{"", 4}, {"a", 2}, {"b", 3}, {"c", 5}}));
+    EXPECT_EQ(oneByOne.objectForKey("bb"), nullptr);
+}
+
 TEST(Value, equalsByContentsAndNumbersByTheirValue) {
     const Value equal[][2] = {{true, 1},
                               {1, 1.0},
