@@ -103,7 +103,7 @@ bool isSame(const Value& left, const Value& right) {
     return !nested || std::equal(nested->entries().begin(), nested->entries().end(),
                                  right.as<Dictionary>()->entries().begin(),
                                  [](const auto& one, const auto& other) {
-                                     return isSame(one.second, other.second);
+                                     return isSame(one.value, other.value);
                                  });
 }
 

@@ -168,9 +168,16 @@ bool Rules::presence() {
     const std::size_t moment = agent_.heard().size();
     for (std::size_t count = 0; count < pings; ++count)
         agent_.send(Message(message::ping));
+    // What answers this has answered all pings: no answer too many is still under way.
+    agent_.send(Message(message::prefsLoaded));
     static_cast<void>(agent_.waitFor(
-        [&] { return agent_.countSince(moment, message::pingAnswer) >= pings; }, pingLimit));
+        [&] {
+            return agent_.countSince(moment, message::pingAnswer) >= pings &&
+                   agent_.countSince(moment, message::stateChanged) > 0;
+        },
+        pingLimit));
     const std::size_t answered = agent_.countSince(moment, message::pingAnswer);
+    static_cast<void>(heardBeforePing());
     tell("answers each of many pings once",
          answered == pings ? QString()
                            : QStringLiteral("%1 answers to %2").arg(answered).arg(pings));

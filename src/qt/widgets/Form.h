@@ -147,13 +147,31 @@ private:
         QWidget* widget;
         QRect rect;
     };
+    using Places = std::vector<Place>;
+    /// What the parts get of a row's width. Label and controls go above and below the text where
+    /// too little would be left for it.
+    struct Measures {
+        int step;  ///< between controls
+        int left;  ///< of all that is no picture
+        int room;  ///< from there to the padding
+        int label; ///< 0 where there is none beside the text
+        int text;
+        QSize end{0, 0}; ///< of all controls at the end, side by side
+        bool labelAbove;
+        bool endBelow;
+    };
 
     [[nodiscard]] Parts parts() const;
     [[nodiscard]] QWidget* followed() const;
     [[nodiscard]] int labelWidth() const;
     [[nodiscard]] int startSpace(const Parts& parts) const;
+    [[nodiscard]] Measures measure(int width, const Parts& group) const;
+    /// One below the other; gives the height.
+    int placeTexts(const Parts& group, QPoint corner, int width, Places& places) const;
+    /// Centred in the height.
+    void placePictures(const Parts& group, int y, int height, Places& places) const;
     /// Places everything into a width; gives the height.
-    int arrange(int width, std::vector<Place>& places) const;
+    int arrange(int width, Places& places) const;
     void greyLabels();
 
     Kind kind_ = CardRow;

@@ -177,100 +177,106 @@ int Row::labelWidth() const {
     return widest;
 }
 
-int Row::arrange(int width, std::vector<Place>& places) const {
-    const Parts group = parts();
-    const QMargins pad = padding();
-    const int step = theme::unit(*this);
-    const int fewest = theme::charactersWide(*this, theme::fewestCharacters);
-    const int left = pad.left() + startSpace(group);
-    const int room = std::max(0, width - left - pad.right());
-    int endWidth = 0;
-    int endHeight = 0;
+Row::Measures Row::measure(int width, const Parts& group) const {
+    Measures is{};
+    is.step = theme::unit(*this);
+    is.left = padding().left() + startSpace(group);
+    is.room = std::max(0, width - is.left - padding().right());
     for (const QWidget* control : group.end) {
-        endWidth += wishOf(*control).width() + (endWidth > 0 ? step : 0);
-        endHeight = std::max(endHeight, wishOf(*control).height());
+        const QSize size = wishOf(*control);
+        is.end.rwidth() += size.width() + (is.end.width() > 0 ? is.step : 0);
+        is.end.setHeight(std::max(is.end.height(), size.height()));
     }
-    int label = group.label.empty() ? 0 : labelWidth() + 2 * step;
-    const bool labelAbove = label > 0 && room - label < fewest;
-    const bool endBelow =
-        endWidth > 0 && !group.text.empty() && room - label - endWidth - 2 * step < fewest;
-    const int besides = endWidth > 0 && !endBelow ? endWidth + 2 * step : 0;
-    int y = pad.top();
-    if (labelAbove) {
-        for (QWidget* widget : group.label) {
-            const int height = heightOf(*widget, room);
-            places.push_back({widget, QRect(left, y, room, height)});
-            y += height + theme::textGap;
-        }
-        label = 0;
-    }
-    const int textLeft = left + label;
-    const int textWidth = std::max(0, room - label - besides);
-    const std::size_t firstText = places.size();
-    int textHeight = 0;
+    const int fewest = theme::charactersWide(*this, theme::fewestCharacters);
+    const int gap = 2 * is.step;
+    const int label = group.label.empty() ? 0 : labelWidth() + gap;
+    is.labelAbove = label > 0 && is.room - label < fewest;
+    is.label = is.labelAbove ? 0 : label;
+    is.endBelow = is.end.width() > 0 && !group.text.empty() &&
+                  is.room - label - is.end.width() - gap < fewest;
+    is.text = std::max(0, is.room - is.label -
+                              (is.end.width() > 0 && !is.endBelow ? is.end.width() + gap : 0));
+    return is;
+}
+
+int Row::placeTexts(const Parts& group, QPoint corner, int width, Places& places) const {
+    int height = 0;
     int indent = 0;
     for (QWidget* widget : group.text) {
-        if (textHeight > 0)
-            textHeight += theme::textGap;
+        if (height > 0)
+            height += theme::textGap;
         const int inset = qobject_cast<QLabel*>(widget) ? indent : 0;
-        const int height = heightOf(*widget, textWidth - inset);
-        places.push_back(
-            {widget, QRect(textLeft + inset, y + textHeight, textWidth - inset, height)});
-        textHeight += height;
+        const QSize size(width - inset, heightOf(*widget, width - inset));
+        places.push_back({widget, QRect(corner + QPoint(inset, height), size)});
+        height += size.height();
         if (qobject_cast<QCheckBox*>(widget))
             indent = theme::checkBoxIndent(*this);
     }
-    const int firstHeight = group.text.empty() ? 0 : places[firstText].rect.height();
-    int bodyHeight = textHeight;
-    if (!endBelow)
-        bodyHeight = std::max(bodyHeight, endHeight);
-    for (const QWidget* picture : group.start)
-        bodyHeight = std::max(bodyHeight, wishOf(*picture).height());
-    for (std::size_t index = firstText; index < places.size(); ++index)
-        places[index].rect.translate(0, (bodyHeight - textHeight) / 2);
-    if (!labelAbove) {
-        for (QWidget* widget : group.label) {
-            const int height = heightOf(*widget, label);
-            places.push_back({widget, QRect(left, y + (firstHeight - height) / 2, label, height)});
-        }
-    }
+    return height;
+}
+
+void Row::placePictures(const Parts& group, int y, int height, Places& places) const {
     int x = pictureInset();
     for (QWidget* picture : group.start) {
         const QSize size = wishOf(*picture);
         // Pictures of several rows share their centre, whatever their size.
         const int slot = startWidth_ > 0 ? startWidth_ : size.width();
-        places.push_back({picture, QRect(QPoint(x + (slot - size.width()) / 2,
-                                                y + (bodyHeight - size.height()) / 2),
-                                         size)});
+        const QPoint corner(x + (slot - size.width()) / 2, y + (height - size.height()) / 2);
+        places.push_back({picture, QRect(corner, size)});
         if (startWidth_ == 0)
-            x += size.width() + 2 * step;
+            x += size.width() + 2 * theme::unit(*this);
     }
-    y += bodyHeight;
-    int endX = endBelow ? textLeft : width - pad.right() - endWidth;
-    int endTop = y - bodyHeight;
-    if (endBelow) {
-        endTop = y + step;
-        y = endTop + endHeight;
-        bodyHeight = endHeight;
+}
+
+int Row::arrange(int width, Places& places) const {
+    const Parts group = parts();
+    const Measures is = measure(width, group);
+    int y = padding().top();
+    if (is.labelAbove) {
+        for (QWidget* widget : group.label) {
+            const QSize size(is.room, heightOf(*widget, is.room));
+            places.push_back({widget, QRect(QPoint(is.left, y), size)});
+            y += size.height() + theme::textGap;
+        }
     }
+    const int textLeft = is.left + is.label;
+    const std::size_t firstText = places.size();
+    const int textHeight = placeTexts(group, {textLeft, y}, is.text, places);
+    const int firstHeight = group.text.empty() ? 0 : places[firstText].rect.height();
+    int height = is.endBelow ? textHeight : std::max(textHeight, is.end.height());
+    for (const QWidget* picture : group.start)
+        height = std::max(height, wishOf(*picture).height());
+    for (std::size_t index = firstText; index < places.size(); ++index)
+        places[index].rect.translate(0, (height - textHeight) / 2);
+    if (!is.labelAbove) {
+        for (QWidget* widget : group.label) {
+            const QSize size(is.label, heightOf(*widget, is.label));
+            const QPoint corner(is.left, y + (firstHeight - size.height()) / 2);
+            places.push_back({widget, QRect(corner, size)});
+        }
+    }
+    placePictures(group, y, height, places);
+    if (is.endBelow)
+        y += height + is.step;
+    const int endHeight = is.endBelow ? is.end.height() : height;
+    int x = is.endBelow ? textLeft : width - padding().right() - is.end.width();
     for (QWidget* control : group.end) {
         const QSize size = wishOf(*control);
-        places.push_back(
-            {control, QRect(QPoint(endX, endTop + (bodyHeight - size.height()) / 2), size)});
-        endX += size.width() + step;
+        places.push_back({control, QRect(QPoint(x, y + (endHeight - size.height()) / 2), size)});
+        x += size.width() + is.step;
     }
-    return y + pad.bottom();
+    return y + endHeight + padding().bottom();
 }
 
 void Row::arrangeChildren() {
-    std::vector<Place> places;
+    Places places;
     arrange(width(), places);
     for (const Place& place : places)
         place.widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place.rect));
 }
 
 int Row::heightForWidth(int width) const {
-    std::vector<Place> places;
+    Places places;
     return arrange(width, places);
 }
 
