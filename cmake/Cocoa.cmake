@@ -35,6 +35,9 @@ else()
     set(ZARVIL_COCOA_SYSTEM gnustep)
     execute_process(COMMAND "${GNUSTEP_CONFIG}" --objc-flags OUTPUT_VARIABLE flags
                     OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    if(flags STREQUAL "") # what it says when it finds no make to ask
+        message(FATAL_ERROR "gnustep-config gives no flags: is make installed?")
+    endif()
     execute_process(COMMAND "${GNUSTEP_CONFIG}" --gui-libs OUTPUT_VARIABLE libraries
                     OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     separate_arguments(flags UNIX_COMMAND "${flags}")
