@@ -1094,6 +1094,10 @@
         <source>your share of the disk is used up</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Ended without an error.</source>
+        <translation>انتهى دون خطأ.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -1082,6 +1082,10 @@
         <source>your share of the disk is used up</source>
         <translation>Ihr Anteil am Speicherplatz ist aufgebraucht</translation>
     </message>
+    <message>
+        <source>Ended without an error.</source>
+        <translation>Ohne Fehler beendet.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -1082,6 +1082,10 @@
         <source>your share of the disk is used up</source>
         <translation>su cuota de disco está agotada</translation>
     </message>
+    <message>
+        <source>Ended without an error.</source>
+        <translation>Terminado sin errores.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -976,23 +976,23 @@
     </message>
     <message>
         <source>Could not create the folder “%1”: %2.</source>
-        <translation>Impossible de créer le dossier « %1 » : %2.</translation>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Could not prepare the script for running: %1.</source>
-        <translation>Impossible de préparer l’exécution du script : %1.</translation>
+        <translation>Impossible de préparer l’exécution du script&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Could not remove “%1”: %2.</source>
-        <translation>Impossible de supprimer « %1 » : %2.</translation>
+        <translation>Impossible de supprimer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Could not save the file “%1”: %2.</source>
-        <translation>Impossible d’enregistrer le fichier « %1 » : %2.</translation>
+        <translation>Impossible d’enregistrer le fichier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Could not start the script&apos;s interpreter “%1”: %2.</source>
-        <translation>Impossible de lancer l’interpréteur du script « %1 » : %2.</translation>
+        <translation>Impossible de lancer l’interpréteur du script «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Min</source>
@@ -1081,6 +1081,10 @@
     <message>
         <source>your share of the disk is used up</source>
         <translation>votre quota de disque est épuisé</translation>
+    </message>
+    <message>
+        <source>Ended without an error.</source>
+        <translation>Terminé sans erreur.</translation>
     </message>
 </context>
 <context>

@@ -1085,6 +1085,10 @@
         <source>your share of the disk is used up</source>
         <translation>вашу квоту на диску вичерпано</translation>
     </message>
+    <message>
+        <source>Ended without an error.</source>
+        <translation>Завершено без помилок.</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

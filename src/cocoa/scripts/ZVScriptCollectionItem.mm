@@ -126,7 +126,6 @@ using zarvil::cocoa::toCocoa;
     _parts->item = item;
     if (!item)
         return;
-    [stateSymbol showSymbol:zarvil::Symbol::Warning];
     ZVScriptCollectionItem* card = self;
     auto& changes = _parts->changes;
     if (const zarvil::Record& record = item->representedObject())
@@ -138,7 +137,7 @@ using zarvil::cocoa::toCocoa;
         }));
     changes.push_back(
         item->runningProperty().observe([card](bool, zarvil::Transition) { [card showState]; }));
-    changes.push_back(item->failureProperty().observe(
+    changes.push_back(item->outcomeProperty().observe(
         [card](const std::string&, zarvil::Transition) { [card showState]; }));
     changes.push_back(item->noteProperty().observe(
         [card](const zarvil::ScriptNote&, zarvil::Transition) { [card showState]; }));
@@ -165,14 +164,13 @@ using zarvil::cocoa::toCocoa;
     const auto model = [self model];
     if (!model)
         return;
-    const zarvil::ScriptNote& note = model->noteProperty().get();
-    const std::string& failure = model->failureProperty().get();
-    const std::string& state = failure.empty() ? note.caption : failure;
-    [stateLabel setStringValue:toCocoa(state)];
-    [stateLabel setToolTip:toCocoa(failure.empty() ? note.reason : failure)];
-    [stateLabel setHidden:state.empty()];
-    [stateSymbol setHidden:state.empty()];
-    [hintLabel setHidden:!state.empty() || model->view().subviews().empty()];
+    const zarvil::ScriptState state = model->shownState();
+    [stateLabel setStringValue:toCocoa(state.line)];
+    [stateLabel setToolTip:toCocoa(state.reason.empty() ? state.line : state.reason)];
+    [stateLabel setHidden:state.line.empty()];
+    [stateSymbol showSymbol:state.symbol];
+    [stateSymbol setHidden:state.line.empty()];
+    [hintLabel setHidden:!state.line.empty() || model->view().subviews().empty()];
     zarvil::cocoa::showCaption(runButton, model->runCaption());
     zarvil::cocoa::showCaption(editButton, model->editCaption());
     [runButton setEnabled:!model->runningProperty().get()];

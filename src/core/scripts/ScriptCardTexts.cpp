@@ -36,12 +36,26 @@ std::string ZVScriptCollectionItem::localized(std::string_view key) const {
     return platform_.strings.localizedString(key);
 }
 
-std::string ZVScriptCollectionItem::failureText(const ScriptError& error) const {
-    std::string message = showableText(error.message, longestShownLine);
-    if (!error.inItsOwnWords)
-        return message;
-    return platform_.strings.localizedString("Failed with exit status %1: %2",
-                                             {std::to_string(error.number), message});
+ScriptOutcome ZVScriptCollectionItem::outcomeOf(const ScriptError* error) const {
+    if (!error && progress_.stoppingProperty().get())
+        return {};
+    if (!error)
+        return {localized("Ended without an error."), false};
+    std::string message = showableText(error->message, longestShownLine);
+    if (!error->inItsOwnWords)
+        return {std::move(message), true};
+    return {platform_.strings.localizedString("Failed with exit status %1: %2",
+                                              {std::to_string(error->number), message}),
+            true};
+}
+
+ScriptState ZVScriptCollectionItem::shownState() const {
+    const ScriptOutcome& outcome = outcome_.get();
+    const ScriptNote& note = note_.get();
+    // What is not saved matters more than a run that went well.
+    if (outcome.failed || (!outcome.line.empty() && note.caption.empty()))
+        return {outcome.failed ? Symbol::Warning : Symbol::Tick, outcome.line, {}};
+    return {Symbol::Warning, note.caption, note.reason};
 }
 
 std::string ZVScriptCollectionItem::aboutThis(std::string_view key) const {

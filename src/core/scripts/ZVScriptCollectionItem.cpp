@@ -74,7 +74,7 @@ void ZVScriptCollectionItem::remove(Control* /*sender*/) {
 }
 
 void ZVScriptCollectionItem::toggleEditing() {
-    setFailure({});
+    setOutcome({});
     setEditing(!editing());
     if (editing())
         beginEditing();
@@ -221,7 +221,7 @@ void ZVScriptCollectionItem::executeNow() {
         return;
     }
     const std::string* title = stringOfRecord(script::title);
-    setFailure({});
+    setOutcome({});
     setRunning(true);
     progress_.run(showableText(isEmpty(title) ? untitled : *title, longestShownLine), *stored,
                   [weak = weak_from_this()](const ScriptError* error) {
@@ -229,7 +229,7 @@ void ZVScriptCollectionItem::executeNow() {
                       if (!item)
                           return;
                       item->setRunning(false);
-                      item->setFailure(error ? item->failureText(*error) : std::string());
+                      item->setOutcome(item->outcomeOf(error));
                   });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interface/CollectionView.h"
+#include "interface/Symbol.h"
 #include "interface/TextField.h"
 #include "pane/Platform.h"
 #include "protocol/NonCopyable.h"
@@ -90,6 +91,20 @@ struct ScriptNote {
     bool operator==(const ScriptNote&) const = default;
 };
 
+/// How the last run ended, as the card says it; an empty line says nothing.
+struct ScriptOutcome {
+    std::string line;
+    bool failed = false;
+    bool operator==(const ScriptOutcome&) const = default;
+};
+
+/// What a card says of its script's last run and save; an empty line says nothing.
+struct ScriptState {
+    Symbol symbol;
+    std::string line;
+    std::string reason; ///< what stands behind it, if there is more to say
+};
+
 /// A button of a card as it is shown; the accessible name tells it from those of other cards.
 struct ButtonCaption {
     std::string title;
@@ -149,9 +164,11 @@ public:
     /// The script runs at the moment; its card says so and cannot run it again.
     [[nodiscard]] const Property<bool>& runningProperty() const { return running_; }
     void setRunning(bool running) { running_.set(running); }
-    /// Why the last run failed, as the card says it until the next run or edit; empty otherwise.
-    [[nodiscard]] const Property<std::string>& failureProperty() const { return failure_; }
-    void setFailure(std::string line) { failure_.set(std::move(line)); }
+    /// Until the next run or edit.
+    [[nodiscard]] const Property<ScriptOutcome>& outcomeProperty() const { return outcome_; }
+    void setOutcome(ScriptOutcome outcome) { outcome_.set(std::move(outcome)); }
+    /// Of outcome and note together.
+    [[nodiscard]] ScriptState shownState() const;
 
     // Texts of the card, fit for display.
     [[nodiscard]] std::string shownTitle() const;
@@ -202,7 +219,7 @@ private:
     /// `before` is the record as the file had it.
     void noteFailure(const std::optional<Error>& failure, Dictionary before);
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
-    [[nodiscard]] std::string failureText(const ScriptError& error) const;
+    [[nodiscard]] ScriptOutcome outcomeOf(const ScriptError* error) const;
     [[nodiscard]] std::string localized(std::string_view key) const;
     [[nodiscard]] std::string aboutThis(std::string_view key) const;
     /// Of the record of this row, which an item without `data` shows as well.
@@ -215,7 +232,7 @@ private:
     ScriptEditField* eText_ = nullptr;
     bool editing_ = false;
     Property<bool> running_{false};
-    Property<std::string> failure_;
+    Property<ScriptOutcome> outcome_;
     Record data_;
     /// While the last save has failed: the record as its file still has it, and why.
     std::optional<Dictionary> saved_;

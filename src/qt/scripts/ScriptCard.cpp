@@ -122,7 +122,7 @@ void ScriptCard::observe() {
         changes_.push_back(record->observeEdits([this] { showItem(); }));
     changes_.push_back(item_->runningProperty().observe([this](bool, Transition) { showState(); }));
     changes_.push_back(
-        item_->failureProperty().observe([this](const auto&, Transition) { showState(); }));
+        item_->outcomeProperty().observe([this](const auto&, Transition) { showState(); }));
     changes_.push_back(
         item_->noteProperty().observe([this](const auto&, Transition) { showState(); }));
     changes_.push_back(item_->view().subviewsProperty().observe(
@@ -155,12 +155,11 @@ void ScriptCard::showItem() {
 }
 
 void ScriptCard::showState() {
-    const ScriptNote& note = item_->noteProperty().get();
-    const std::string& failure = item_->failureProperty().get();
-    const QString reason = QString::fromUtf8(note.reason);
-    const QString said = QString::fromUtf8(failure.empty() ? note.caption : failure);
-    state_->setAccessibleName(said);
-    state_->setToolTip(plainToolTip(failure.empty() ? reason : said));
+    const ScriptState state = item_->shownState();
+    const QString line = QString::fromUtf8(state.line);
+    const QString reason = QString::fromUtf8(state.reason);
+    state_->setAccessibleName(line);
+    state_->setToolTip(plainToolTip(reason.isEmpty() ? line : reason));
     state_->setAccessibleDescription(reason);
     showCaption(*run_, item_->runCaption());
     showCaption(*edit_, item_->editCaption());
@@ -360,7 +359,8 @@ void ScriptCard::paintEvent(QPaintEvent* /*event*/) {
         return;
     const int middle = state_->geometry().center().y();
     const QRect square = mirrored({sidePadding, middle - stateIcon / 2, stateIcon, stateIcon});
-    paintSymbol(painter, Symbol::Warning, square, palette(), palette().color(QPalette::WindowText));
+    paintSymbol(painter, item_->shownState().symbol, square, palette(),
+                palette().color(QPalette::WindowText));
 }
 
 void ScriptCard::resizeEvent(QResizeEvent* /*event*/) { layOut(); }

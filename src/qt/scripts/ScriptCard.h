@@ -74,7 +74,7 @@ private:
     QLabel* hint_; ///< in place of the title while editing
     QLabel* text_;
     QLabel* textCaption_; ///< between the fields
-    QLabel* state_;       ///< what is wrong: a failed run, a save that failed
+    QLabel* state_;       ///< how the last run ended, or that a save failed
     QPushButton* cancel_; ///< seen while editing
     QPushButton* run_;
     QPushButton* edit_;

@@ -195,11 +195,16 @@ TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
 TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {
     scriptRunner.outcome = ScriptError{-2741, "Expected end of line."};
     item(0)->execute();
-    EXPECT_EQ(item(0)->failureProperty().get(), "Expected end of line.");
+    EXPECT_EQ(item(0)->shownState().line, "Expected end of line.");
+    EXPECT_EQ(item(0)->shownState().symbol, Symbol::Warning);
     item(0)->edit();
-    EXPECT_EQ(item(0)->failureProperty().get(), "");
+    EXPECT_EQ(item(0)->shownState().line, "");
     EXPECT_THAT(errors.presented,
                 ElementsAre(Error{"NSCocoaErrorDomain", -2741, "Expected end of line."}));
+    scriptRunner.outcome.reset();
+    item(0)->execute();
+    EXPECT_EQ(item(0)->shownState().line, "Ended without an error.");
+    EXPECT_EQ(item(0)->shownState().symbol, Symbol::Tick);
 }
 
 TEST_F(ScriptItem, anEmptyScriptIsRefusedInTheUsersLanguage) {
@@ -248,7 +253,7 @@ TEST_F(ScriptItem, aRunBlocksThePaneAndWhatCameMeanwhileFollowsInOrder) {
     EXPECT_TRUE(second->runningProperty().get());
     scriptRunner.end(ScriptError{3, "b failed"});
     EXPECT_FALSE(second->runningProperty().get());
-    EXPECT_EQ(second->failureProperty().get(), "b failed");
+    EXPECT_EQ(second->shownState().line, "b failed");
     EXPECT_FALSE(pane.testing);
     EXPECT_THAT(takeSentNames(), ElementsAre("ZVViewLog", "ZVPing"));
     EXPECT_THAT(errors.presented, ElementsAre(Error{"NSCocoaErrorDomain", 3, "b failed"}));
@@ -274,6 +279,7 @@ TEST_F(ScriptItem, afterASecondAWindowTellsWhichScriptRunsAndCanStopIt) {
     EXPECT_FALSE(progress.runningProperty().get());
     EXPECT_THAT(errors.presented, IsEmpty()) << "the user knows why it ended";
     EXPECT_THAT(scriptRunner.log, ElementsAre("stop", "over"));
+    EXPECT_EQ(item(0)->shownState().line, "") << "stopped is neither well nor failed";
 }
 
 } // namespace

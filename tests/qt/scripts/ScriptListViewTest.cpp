@@ -188,7 +188,7 @@ TEST_F(ScriptListViewTest, nothingLeavesItsCardHoweverNarrowOrLarge) {
     put("a.zvscript", "echo " + std::string(200, 'a'));
     show();
     const std::string reason(200, 'x');
-    card("a").item()->setFailure("Failed with exit status 3: " + reason);
+    card("a").item()->setOutcome({"Failed with exit status 3: " + reason, true});
     for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         for (const int points : {10, 18, 30}) {
             view.setLayoutDirection(direction);
