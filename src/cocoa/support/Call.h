@@ -22,7 +22,8 @@ struct HeldCall;
 
 namespace zarvil::cocoa {
 
-/// Makes the call soon, from the main thread's run loop. Callable on any thread.
+/// Makes the call soon, from the main thread's run loop in its default mode. Callable on any
+/// thread.
 void callOnMainThread(const std::function<void()>& call);
 
 } // namespace zarvil::cocoa

@@ -35,9 +35,12 @@ namespace zarvil::cocoa {
 
 void callOnMainThread(const std::function<void()>& call) {
     const Pool pool;
+    // Not while a message is handed over, within the handler that sends it.
+    NSArray* modes = [NSArray arrayWithObject:NSDefaultRunLoopMode];
     [[ZVCall callWithFunction:call] performSelectorOnMainThread:@selector(run)
                                                      withObject:nil
-                                                  waitUntilDone:NO];
+                                                  waitUntilDone:NO
+                                                          modes:modes];
 }
 
 } // namespace zarvil::cocoa
