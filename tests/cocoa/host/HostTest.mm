@@ -99,8 +99,7 @@ Class* viewIn(NSView* view, SEL action = nullptr) {
     return nil;
 }
 
-/// With a script that runs until there is a file. Comes first: a process that has started the
-/// notification server anew has GNUstep reap its children, also those that are not GNUstep's.
+/// With a script that runs until there is a file.
 struct HostWithScript : Host {
     HostWithScript() {
         std::filesystem::create_directories(home / "Library/Zarvil Scripts");
