@@ -138,7 +138,7 @@ using zarvil::cocoa::toCocoa;
     changes.push_back(
         item->runningProperty().observe([card](bool, zarvil::Transition) { [card showState]; }));
     changes.push_back(item->outcomeProperty().observe(
-        [card](const std::string&, zarvil::Transition) { [card showState]; }));
+        [card](const zarvil::ScriptOutcome&, zarvil::Transition) { [card showState]; }));
     changes.push_back(item->noteProperty().observe(
         [card](const zarvil::ScriptNote&, zarvil::Transition) { [card showState]; }));
 }
