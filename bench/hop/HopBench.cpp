@@ -141,7 +141,7 @@ void compare(const char* what, Raw raw, Own own) {
                 percentile(ownTimes, 0.99), 100 * (percentile(ownTimes, 0.5) - median) / median);
 }
 
-void settingToSignal(PaneOnBus& pane, QDBusConnection raw, QDBusConnection listening) {
+void settingToSignal(PaneOnBus& pane, QDBusConnection raw, const QDBusConnection& listening) {
     Receiver receiver(listening, message::prefsChanged);
     const auto await = [&receiver](int before) {
         turnUntil([&receiver, before] { return receiver.heard > before; });
@@ -161,7 +161,7 @@ void settingToSignal(PaneOnBus& pane, QDBusConnection raw, QDBusConnection liste
         });
 }
 
-void messageToPaint(PaneOnBus& pane, QDBusConnection agent, QDBusConnection listening) {
+void messageToPaint(PaneOnBus& pane, QDBusConnection agent, const QDBusConnection& listening) {
     QWidget window;
     auto* box = new QCheckBox("Launch at login", &window);
     (new QVBoxLayout(&window))->addWidget(box);
