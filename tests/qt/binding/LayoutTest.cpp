@@ -180,6 +180,11 @@ TEST_F(Layout, disabledTextStandsOutOnEveryGroundOfAnyPalette) {
         };
         EXPECT_GE(contrastRatio(color(QPalette::WindowText), theme::cardGround(box.palette())), 3);
         EXPECT_GE(contrastRatio(color(QPalette::Text), color(QPalette::Base)), 3);
+        const QColor placeholder = color(QPalette::PlaceholderText);
+        EXPECT_GE(
+            contrastRatio(theme::mixed(color(QPalette::Base), placeholder, placeholder.alphaF()),
+                          color(QPalette::Base)),
+            3);
         EXPECT_GE(contrastRatio(color(QPalette::ButtonText), color(QPalette::Button)), 3);
     }
     QApplication::setPalette(before);
