@@ -150,7 +150,7 @@ TEST_F(Host, everyControlSendsWhatTheTableSays) {
     for (const ControlCase& c : controlCases) {
         reset();
         NSView* control = host.outlet<NSView>(c.outlet);
-        ASSERT_TRUE(control) << c.outlet;
+        ASSERT_TRUE(runUntil([=] { return boxOf(control); })) << c.outlet;
         EXPECT_EQ(sentBy(
                       [&] {
                           if (c.typed.empty())
