@@ -1098,6 +1098,10 @@
         <source>Ended without an error.</source>
         <translation>انتهى دون خطأ.</translation>
     </message>
+    <message>
+        <source>Administrator rights: %1 does not answer</source>
+        <translation>صلاحيات المدير: لا يستجيب %1</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

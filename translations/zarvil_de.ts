@@ -1086,6 +1086,10 @@
         <source>Ended without an error.</source>
         <translation>Ohne Fehler beendet.</translation>
     </message>
+    <message>
+        <source>Administrator rights: %1 does not answer</source>
+        <translation>Administratorrechte: %1 antwortet nicht</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -1086,6 +1086,10 @@
         <source>Ended without an error.</source>
         <translation>Terminado sin errores.</translation>
     </message>
+    <message>
+        <source>Administrator rights: %1 does not answer</source>
+        <translation>Derechos de administrador: %1 no responde</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -1086,6 +1086,10 @@
         <source>Ended without an error.</source>
         <translation>Terminé sans erreur.</translation>
     </message>
+    <message>
+        <source>Administrator rights: %1 does not answer</source>
+        <translation>Droits d’administrateur&#xa0;: %1 ne répond pas</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

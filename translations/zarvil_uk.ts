@@ -1089,6 +1089,10 @@
         <source>Ended without an error.</source>
         <translation>Завершено без помилок.</translation>
     </message>
+    <message>
+        <source>Administrator rights: %1 does not answer</source>
+        <translation>Права адміністратора: %1 не відповідає</translation>
+    </message>
 </context>
 <context>
     <name>PaneView</name>

@@ -120,6 +120,11 @@ void Guidance::lockWasClicked() {
     showLock();
 }
 
+void Guidance::authorityIsMissing(const std::string& name) {
+    missingAuthority_ = name;
+    showLock();
+}
+
 void Guidance::performAction(std::string_view /*action*/, Control* /*sender*/) {
     selectTab(Tab::Devices);
 }
@@ -255,6 +260,9 @@ void Guidance::showLock() {
     std::string line;
     if (state == authorizationState::unlocked)
         line = text("Administrator rights: unlocked");
+    else if (state == authorizationState::locked && !missingAuthority_.empty())
+        line = strings_.localizedString("Administrator rights: %1 does not answer",
+                                        {missingAuthority_});
     else if (state == authorizationState::locked)
         line = text("Administrator rights: locked");
     else

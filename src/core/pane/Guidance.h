@@ -40,6 +40,8 @@ public:
     /// Whether messages can reach an agent at all.
     void busDidChange(bool answers);
     void lockWasClicked();
+    /// The name of the authority that could not be asked about the lock; empty for none.
+    void authorityIsMissing(const std::string& name);
 
     // The page that is shown; the user's choice and the pane's own go the same way.
     void selectTab(Tab tab) { selectedTab_.set(tab); }
@@ -107,6 +109,7 @@ private:
     bool testing_ = false;
     bool testEnded_ = false;
     bool lockClicked_ = false;
+    std::string missingAuthority_;
     std::optional<std::int64_t> delay_;
     ObserverList<const std::string&> announcements_;
     std::vector<Subscription> subscriptions_;

@@ -90,6 +90,7 @@ void Zarvil_Preferences::checkAuthorization(Interaction interaction) {
                 return;
             platform_.handlers.run(
                 [this](const AuthorizationOutcome& decided) {
+                    guidance.authorityIsMissing(decided.missing);
                     authView.show(decided.granted ? authorizationState::unlocked
                                                   : authorizationState::locked,
                                   decided.reason);

@@ -15,6 +15,7 @@ enum class Interaction : std::uint8_t { None, MayAskUser };
 struct AuthorizationOutcome {
     bool granted = false;
     std::string reason;
+    std::string missing{}; ///< the authority's name, when there was none that could decide
 };
 
 /// Asks the system's authority about rights.

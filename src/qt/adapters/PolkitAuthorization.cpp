@@ -80,9 +80,11 @@ QString translated(const char* text) {
 AuthorizationOutcome refusal(const char* text) { return {false, translated(text).toStdString()}; }
 
 AuthorizationOutcome unavailable() {
-    return refusal(QT_TRANSLATE_NOOP("PolkitAuthorization",
-                                     "Administrator rights cannot be checked: the authorization "
-                                     "service (polkit) is not available."));
+    AuthorizationOutcome outcome = refusal(QT_TRANSLATE_NOOP(
+        "PolkitAuthorization", "Administrator rights cannot be checked: the authorization "
+                               "service (polkit) is not available."));
+    outcome.missing = "polkit";
+    return outcome;
 }
 
 AuthorizationOutcome cancelled() {

@@ -37,7 +37,7 @@ TEST(PolkitAuthorizationTest, aSystemBusOrAnAuthorityThatComesLateOrAgainIsUsedA
     PolkitAuthorization authorization(onDemand(bus));
     const auto click = [&] { return ask(authorization, Interaction::MayAskUser); };
     for (int round = 0; round < 2; ++round) {
-        EXPECT_EQ(click().reason, unavailable);
+        EXPECT_EQ(click().missing, "polkit");
         bus.start();
         EXPECT_EQ(click().reason, unavailable) << "nobody owns polkit's name";
         auto daemon = bus.connect(QStringLiteral("authority-%1").arg(round));
@@ -111,6 +111,7 @@ TEST(PolkitAuthorizationTest, theAuthoritysAnswerDecides) {
         const auto outcome = ask(authorization, row.interaction);
         EXPECT_EQ(outcome.reason, row.reason);
         EXPECT_EQ(outcome.granted, outcome.reason.empty());
+        EXPECT_EQ(outcome.missing, "") << row.reason;
         EXPECT_EQ(authority.questions, row.questions) << row.reason;
     }
     EXPECT_EQ(authority.signature, "(sa{sv})sa{ss}us");

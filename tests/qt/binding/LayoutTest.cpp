@@ -1,125 +1,90 @@
 #include "ControlCases.h"
-#include "PaneHarness.h"
+#include "LayoutHarness.h"
 #include "pane/Help.h"
-#include "qt/adapters/QtStringTable.h"
 #include "qt/binding/LockWidget.h"
-#include "qt/binding/OutletBinder.h"
 #include "qt/binding/Spinner.h"
-#include "qt/canvas/Convert.h"
+#include "qt/devices/DeviceListView.h"
 #include "qt/pane/HelpWindow.h"
-#include "qt/pane/PaneView.h"
 #include "qt/widgets/Contrast.h"
-#include "qt/widgets/Form.h"
 #include "qt/widgets/MarginScrollBar.h"
-#include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QGraphicsOpacityEffect>
-#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
 #include <QTextBrowser>
-#include <QTranslator>
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 namespace zarvil::qt {
 namespace {
 
-class Layout : public PaneHarness {
-protected:
-    ~Layout() override { bindings.clear(); }
-
-    template <typename Widget>
-    Widget& widget(const char* name) {
-        auto* found = view.findChild<Widget*>(name);
-        if (!found)
-            throw std::runtime_error(std::string("no widget ") + name);
-        return *found;
-    }
-
-    /// Shows the view on a page and gives a field the keyboard.
-    void focus(QWidget& field, int page) {
-        widget<QTabWidget>("tabView").setCurrentIndex(page);
-        view.show();
-        view.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
-        field.setFocus();
-        ASSERT_TRUE(field.hasFocus());
-    }
-
-    PaneView view;
-    Subscriptions bindings;
-    Faults faults = bindOutlets(pane, view, bindings);
-};
-
-/// The texts in a language, in force before anything shows one.
-class Spoken : public testing::WithParamInterface<const char*> {
-protected:
-    Spoken() {
-        const QString file = QStringLiteral("zarvil_") + GetParam();
-        if (!translator_.load(file, ZARVIL_QM_FOLDER))
-            throw std::runtime_error(std::string("no language ") + GetParam());
-        QCoreApplication::installTranslator(&translator_);
-        fake::StringTable::inherited = &table_;
-    }
-    ~Spoken() { fake::StringTable::inherited = nullptr; }
-
-private:
-    QTranslator translator_;
-    QtStringTable table_;
-};
-
-class LayoutIn : public Spoken, public Layout {};
-INSTANTIATE_TEST_SUITE_P(Languages, LayoutIn,
-                         testing::Values("en", "de", "es", "fr", "uk", "ar", "pseudo"),
-                         [](const auto& language) { return std::string(language.param); });
-
 constexpr int generalPage = 1;
 constexpr int alertsPage = 2;
 constexpr int scriptsPage = 3;
 
-/// What of the shown widgets does not fit: text that needs more room than it has, a child that
-/// leaves its parent, neighbours that overlap, and a row with an empty space of its own.
-QStringList misfits(const QWidget& top) {
-    QStringList found;
-    for (const auto* row : top.findChildren<Row*>())
-        if (row->isVisible() && row->height() != row->heightForWidth(row->width()))
-            found += row->objectName() + " is not as high as what it holds";
-    for (const auto* widget : top.findChildren<QWidget*>()) {
-        const auto* label = qobject_cast<const TextLabel*>(widget);
-        const bool isPart = label || qobject_cast<const QAbstractButton*>(widget) ||
-                            qobject_cast<const QLineEdit*>(widget);
-        // A tab bar that is too narrow scrolls.
-        if (!isPart || !widget->isVisible() || qobject_cast<QTabBar*>(widget->parentWidget()))
-            continue;
-        const QString name = widget->parentWidget()->objectName() + '/' + widget->objectName();
-        if (label && !label->isElided() && label->heightForWidth(label->width()) > label->height())
-            found += name + " is clipped";
-        if (qobject_cast<const QPushButton*>(widget) &&
-            widget->width() < widget->sizeHint().width())
-            found += name + " is too narrow";
-        if (!widget->parentWidget()->rect().contains(widget->geometry()))
-            found += name + " leaves its parent";
-        for (const auto* other :
-             widget->parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-            if (other != widget && other->isVisible() &&
-                other->geometry().intersects(widget->geometry()))
-                found += name + " overlaps " + other->objectName();
-    }
-    return found;
+TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) {
+    EXPECT_EQ(faults, Faults{});
+    EXPECT_EQ(missingOutlets(pane, view), Faults{});
 }
 
-TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) { EXPECT_EQ(faults, Faults{}); }
+/// What a user sees of a control.
+std::string seen(const QWidget& top, std::string_view name) {
+    const auto* widget = top.findChild<QWidget*>(QString::fromUtf8(name));
+    if (!widget)
+        return "nothing";
+    QString found = widget->isHidden() ? "hidden" : "shown";
+    found += widget->isEnabledTo(&top) ? ", enabled" : ", disabled";
+    for (const char* property : {"text", "toolTip", "whatsThis", "checked", "opacity"})
+        found += ' ' + widget->property(property).toString();
+    if (const auto* list = qobject_cast<const QAbstractItemView*>(widget))
+        found += ' ' + QString::number(list->model()->rowCount());
+    return found.toStdString();
+}
+
+TEST_F(Layout, aPageThatIsOpenedLateShowsWhatAnEarlyOneDoes) {
+    loadWithAgent({{"UsePushover", true}, {"ShutdownDelay", 90}, {"EmailAddress", "a@b.de"}});
+    agentSends(Message(message::deviceConnected, Dictionary{{"DeviceName", "UPS"}}));
+    PaneView late;
+    Subscriptions kept;
+    bind(late, kept);
+    EXPECT_EQ(late.findChild<QWidget*>("connectedDevices"), nullptr);
+    late.show();
+    auto& tabs = *late.findChild<QTabWidget*>("tabView");
+    for (int page = tabs.count() - 1; page >= 0; --page) {
+        tabs.setCurrentIndex(page);
+        const QWidget* below = late.findChild<QWidget*>("authView");
+        for (QWidget* before = below->previousInFocusChain(); page == generalPage;
+             before = before->previousInFocusChain())
+            if (before->focusPolicy() & Qt::TabFocus) {
+                EXPECT_TRUE(tabs.currentWidget()->isAncestorOf(before));
+                break;
+            }
+    }
+    visitOutlets(pane, [&](std::string_view name, View&) {
+        EXPECT_EQ(seen(late, name), seen(view, name)) << name;
+    });
+    EXPECT_EQ(faults, Faults{});
+}
+
+TEST_F(Layout, anAssistiveProgramFindsTheControlsOfPagesThatWereNeverShown) {
+    const PaneView unseen;
+    EXPECT_EQ(unseen.findChild<QWidget*>("email"), nullptr);
+    QAccessible::setActive(true);
+    for (const char* name : {"email", "uninstallButton", "CancelUninstall"})
+        EXPECT_NE(unseen.findChild<QWidget*>(name), nullptr) << name;
+    QAccessible::setActive(false);
+}
 
 TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
     QWidget broken;
@@ -129,37 +94,12 @@ TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
     unknown->setObjectName("nobodyKnowsThis");
     unknown->setProperty("action", "nobody:");
     Subscriptions none;
-    const Faults found = bindOutlets(pane, broken, none);
+    Faults found = bindOutlets(pane, broken, none);
+    std::ranges::copy(missingOutlets(pane, broken), std::back_inserter(found));
     for (const char* fault :
          {"no widget for the outlet email", "the widget of showIcon is of the wrong kind",
           "no outlet for the widget nobodyKnowsThis", "no action nobody:"})
         EXPECT_EQ(std::ranges::count(found, fault), 1) << fault;
-}
-
-TEST_P(LayoutIn, givesNoMnemonicTwiceOnOnePage) {
-    auto& tabs = widget<QTabWidget>("tabView");
-    for (int page = 0; page < tabs.count(); ++page) {
-        QStringList letters;
-        const auto add = [&](const QString& text) {
-            letters += QKeySequence::mnemonic(text).toString();
-        };
-        for (int tab = 0; tab < tabs.count(); ++tab)
-            add(tabs.tabText(tab));
-        add(widget<QPushButton>("launchButton").text());
-        // Underlined letters would tear the Arabic titles of the tabs apart.
-        const int unmarked = std::string_view(GetParam()) == "ar" ? 5 : 0;
-        EXPECT_EQ(letters.count(QString()), unmarked);
-        add(widget<QLabel>("onDesc").text()); // not every language has a letter left for it
-        for (const auto* button : tabs.widget(page)->findChildren<QAbstractButton*>())
-            add(button->text());
-        for (const auto* label : tabs.widget(page)->findChildren<QLabel*>())
-            if (label->buddy())
-                add(label->text());
-        letters.removeAll(QString());
-        EXPECT_FALSE(letters.isEmpty());
-        EXPECT_EQ(letters.removeDuplicates(), 0)
-            << (letters.join(QChar(0x20)) + " on " + tabs.tabText(page)).toStdString();
-    }
 }
 
 TEST_F(Layout, startsAtTheLaunchButtonOfAnAbsentAgentUnlessTheUserHasMoved) {
@@ -241,6 +181,11 @@ TEST_F(Layout, disabledTextStandsOutOnEveryGroundOfAnyPalette) {
         };
         EXPECT_GE(contrastRatio(color(QPalette::WindowText), theme::cardGround(box.palette())), 3);
         EXPECT_GE(contrastRatio(color(QPalette::Text), color(QPalette::Base)), 3);
+        const QColor placeholder = color(QPalette::PlaceholderText);
+        EXPECT_GE(
+            contrastRatio(theme::mixed(color(QPalette::Base), placeholder, placeholder.alphaF()),
+                          color(QPalette::Base)),
+            3);
         EXPECT_GE(contrastRatio(color(QPalette::ButtonText), color(QPalette::Button)), 3);
     }
     QApplication::setPalette(before);
@@ -263,8 +208,9 @@ TEST_F(Layout, everyControlSendsWhatTheTableSays) {
     load();
     view.show();
     for (const ControlCase& c : controlCases) {
-        agentSends(Message(message::savedPrefs, settingsOfCases()));
-        agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+        for (const Message& message : messagesBeforeACase())
+            agentSends(message);
+        QApplication::processEvents();
         takeSent();
         auto& control = widget<QWidget>(std::string(c.outlet).c_str());
         auto& tabs = widget<QTabWidget>("tabView");
@@ -277,13 +223,13 @@ TEST_F(Layout, everyControlSendsWhatTheTableSays) {
             QTest::keyClick(field, Qt::Key_Return);
         } else if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
             button->click();
+        } else if (auto* list = qobject_cast<DeviceListView*>(&control)) {
+            QTest::keyClick(list, Qt::Key_Home);
+            QTest::keyClick(list, Qt::Key_Space);
         } else {
             QTest::mouseClick(&control, Qt::LeftButton);
         }
-        std::string all;
-        for (const Message& sent : takeSent())
-            all += (all.empty() ? "" : "; ") + described(sent);
-        EXPECT_EQ(all, c.sent) << c.outlet;
+        EXPECT_EQ(described(takeSent()), c.sent) << c.outlet;
     }
 }
 
@@ -414,52 +360,6 @@ TEST_F(Layout, anEmptyListClaimsNothingOfDevicesWhileTheAgentIsAbsent) {
     EXPECT_TRUE(list.accessibleDescription().contains("No device connected"));
     pane.appDidNotAnswer();
     EXPECT_FALSE(list.accessibleDescription().contains("No device connected"));
-}
-
-TEST_P(LayoutIn, clipsAndOverlapsNothing) {
-    struct Case {
-        double points;
-        QSize size;
-        Qt::LayoutDirection direction;
-    };
-    const QFont before = QApplication::font();
-    loadWithAgent({{"UsePushover", true}, {"PushUserId", "u"}});
-    const Message invalid(message::pushValidationFinished, Dictionary{{"code", 1}});
-    agentSends(invalid);
-    for (const bool present : {true, false}) {
-        if (!present)
-            pane.appDidNotAnswer();
-        for (const Case& c : std::vector<Case>{{10, {480, 400}, Qt::LeftToRight},
-                                               {10, {680, 640}, Qt::RightToLeft},
-                                               {10, {1600, 900}, Qt::LeftToRight},
-                                               {18, {640, 420}, Qt::RightToLeft},
-                                               {18, {1024, 600}, Qt::LeftToRight}}) {
-            QFont font = before;
-            font.setPointSizeF(c.points);
-            QApplication::setFont(font);
-            view.setLayoutDirection(c.direction);
-            view.resize(c.size);
-            view.show();
-            EXPECT_EQ(view.size(), c.size) << c.points << " pt";
-            EXPECT_LE(widget<QWidget>("chooseDevices").sizeHint().height(),
-                      widget<QWidget>("statusLine").sizeHint().height());
-            const auto& heading = widget<QWidget>("ConnectedCaptionRow");
-            const QRect& list = widget<QWidget>("connectedDevices").geometry();
-            EXPECT_TRUE(QTest::qWaitFor([&] {
-                return !heading.isVisible() || list.top() - heading.geometry().bottom() < 20;
-            }));
-            for (int page = 0; page < 5; ++page) {
-                widget<QTabWidget>("tabView").setCurrentIndex(page);
-                static_cast<void>(QTest::qWaitFor([this] { return misfits(view).isEmpty(); }));
-                EXPECT_EQ(misfits(view).join("; ").toStdString(), "")
-                    << c.points << " pt, " << c.size.width() << " wide, page " << page;
-                const QRect columns = widget<QWidget>("DeviceColumns").geometry();
-                EXPECT_TRUE(present || page > 0 ||
-                            widget<QWidget>("devicesUnknown").geometry() == columns);
-            }
-        }
-    }
-    QApplication::setFont(before);
 }
 
 } // namespace
