@@ -98,6 +98,9 @@ private:
 struct PaneOnBus : PaneOnFakes {
     PaneOnBus() {
         turnUntil([this] { return connection.state() == BusState::Connected; });
+        view.makeAllParts();
+        qt::bindGuidance(real, view, bindings);
+        qt::bindOutlets(real, view, bindings);
         real.mainViewDidLoad();
         real.willSelect();
         settle(*connection.connection());
@@ -114,7 +117,6 @@ struct PaneOnBus : PaneOnFakes {
     Zarvil_Preferences real{onBus};
     qt::PaneView view;
     qt::Subscriptions bindings;
-    qt::Faults faults = qt::bindOutlets(real, view, bindings);
 };
 
 /// Runs both ways by turns, since a machine is not equally fast all the time.

@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace zarvil::qt {
 
@@ -29,8 +30,12 @@ namespace {
 /// Called by `visitOutlets` with each outlet as what it is.
 class Binder {
 public:
-    Binder(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kept, Faults& faults)
-        : pane_(pane), layout_(layout), kept_(kept), faults_(faults) {}
+    Binder(Zarvil_Preferences& pane, const QWidget& part, Subscriptions& kept, Faults& faults)
+        : pane_(pane), widgets_(part.findChildren<QWidget*>()), kept_(kept), faults_(faults) {
+        for (QWidget* widget : widgets_)
+            if (claimsOutlet(*widget))
+                claimed_.emplace(widget->objectName().toStdString(), widget);
+    }
 
     void operator()(std::string_view name, Button& model) {
         QWidget* widget = find(name);
@@ -104,27 +109,10 @@ public:
             bindView(model, *widget, kept_);
     }
 
-    /// The pages stand in the order of `Tab`.
-    void bindTabs() {
-        auto* tabs = layout_.findChild<QTabWidget*>(QStringLiteral("tabView"));
-        if (!tabs)
-            return;
-        Guidance& guidance = pane_.guidance;
-        kept_.push_back(guidance.selectedTabProperty().observe(
-            [tabs](Tab tab, Transition) { tabs->setCurrentIndex(static_cast<int>(tab)); }));
-        QObject::connect(tabs, &QTabWidget::currentChanged, tabs,
-                         [&guidance](int index) { guidance.selectTab(static_cast<Tab>(index)); });
-    }
-
-    void bindAnnouncements() {
-        kept_.push_back(pane_.guidance.observeAnnouncements(
-            [this_ = &layout_](const auto& words) { announce(*this_, QString::fromUtf8(words)); }));
-    }
-
     /// Actions of widgets that are no outlets, captions that tell of an outlet's fault, and widgets
     /// that claim a name that the pane does not know.
     void bindTheRest() {
-        for (QWidget* widget : layout_.findChildren<QWidget*>()) {
+        for (QWidget* widget : widgets_) {
             checkName(*widget);
             checkAction(*widget);
             if (auto* label = qobject_cast<QLabel*>(widget))
@@ -133,12 +121,15 @@ public:
     }
 
 private:
+    static bool claimsOutlet(const QWidget& widget) {
+        const QString name = widget.objectName();
+        return !name.isEmpty() && name.front().isLower() && !name.startsWith(QLatin1String("qt_"));
+    }
+
     QWidget* find(std::string_view name) {
-        auto* widget = layout_.findChild<QWidget*>(QString::fromUtf8(name));
-        if (!widget)
-            faults_.push_back("no widget for the outlet " + std::string(name));
-        outlets_.emplace(name, widget);
-        return widget;
+        known_.insert(name);
+        const auto found = claimed_.find(name);
+        return found == claimed_.end() ? nullptr : found->second;
     }
 
     template <typename Widget>
@@ -171,11 +162,9 @@ private:
     }
 
     void checkName(const QWidget& widget) {
-        const QString name = widget.objectName();
-        const bool claimsOutlet =
-            !name.isEmpty() && name.front().isLower() && !name.startsWith(QLatin1String("qt_"));
-        if (claimsOutlet && !outlets_.contains(name.toStdString()))
-            faults_.push_back("no outlet for the widget " + name.toStdString());
+        const std::string name = widget.objectName().toStdString();
+        if (claimsOutlet(widget) && !known_.contains(name))
+            faults_.push_back("no outlet for the widget " + name);
     }
 
     void checkAction(QWidget& widget) {
@@ -184,7 +173,7 @@ private:
             return;
         if (!std::ranges::count(Zarvil_Preferences::actionNames(), action))
             faults_.push_back("no action " + action);
-        if (outlets_.contains(widget.objectName().toStdString()))
+        if (known_.contains(widget.objectName().toStdString()))
             return;
         if (auto* button = qobject_cast<QAbstractButton*>(&widget))
             QObject::connect(button, &QAbstractButton::clicked, button,
@@ -211,22 +200,44 @@ private:
     }
 
     Zarvil_Preferences& pane_;
-    QWidget& layout_;
+    const QList<QWidget*> widgets_;
     Subscriptions& kept_;
     Faults& faults_;
-    std::map<std::string, QWidget*, std::less<>> outlets_;
+    std::map<std::string, QWidget*, std::less<>> claimed_; ///< widgets by their names
+    std::set<std::string_view> known_;                     ///< outlets, whether here or not
 };
 
 } // namespace
 
-Faults bindOutlets(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kept) {
+Faults bindOutlets(Zarvil_Preferences& pane, QWidget& part, Subscriptions& kept) {
     Faults faults;
-    Binder binder(pane, layout, kept, faults);
+    Binder binder(pane, part, kept, faults);
     visitOutlets(pane, binder);
     visitGuidance(pane.guidance, binder);
-    binder.bindTabs();
-    binder.bindAnnouncements();
     binder.bindTheRest();
+    return faults;
+}
+
+/// The pages stand in the order of `Tab`.
+void bindGuidance(Zarvil_Preferences& pane, QWidget& layout, Subscriptions& kept) {
+    Guidance& guidance = pane.guidance;
+    kept.push_back(guidance.observeAnnouncements(
+        [&layout](const auto& words) { announce(layout, QString::fromUtf8(words)); }));
+    auto* tabs = layout.findChild<QTabWidget*>(QStringLiteral("tabView"));
+    kept.push_back(guidance.selectedTabProperty().observe(
+        [tabs](Tab tab, Transition) { tabs->setCurrentIndex(static_cast<int>(tab)); }));
+    QObject::connect(tabs, &QTabWidget::currentChanged, tabs,
+                     [&guidance](int index) { guidance.selectTab(static_cast<Tab>(index)); });
+}
+
+Faults missingOutlets(Zarvil_Preferences& pane, const QWidget& layout) {
+    Faults faults;
+    const auto seek = [&](std::string_view name, const auto& /*model*/) {
+        if (!layout.findChild<QWidget*>(QString::fromUtf8(name)))
+            faults.push_back("no widget for the outlet " + std::string(name));
+    };
+    visitOutlets(pane, seek);
+    visitGuidance(pane.guidance, seek);
     return faults;
 }
 

@@ -40,8 +40,11 @@ void HelpWindow::offer(QWidget& view, const StringTable& strings) {
     connect(new QShortcut(QKeySequence::HelpContents, &view), &QShortcut::activated, &view, open);
     if (auto* button = view.findChild<QAbstractButton*>(QStringLiteral("HelpButton")))
         connect(button, &QAbstractButton::clicked, &view, open);
+}
+
+void HelpWindow::explainControls(const QWidget& part, const StringTable& strings) {
     for (const auto& [outlet, text] : helpOfControls(strings))
-        if (auto* control = view.findChild<QWidget*>(QString::fromUtf8(outlet)))
+        if (auto* control = part.findChild<QWidget*>(QString::fromUtf8(outlet)))
             control->setWhatsThis(escaped(text));
 }
 

@@ -16,9 +16,11 @@ class HelpWindow final : public QDialog {
 
 public:
     /// Has the key for help and the view's button "HelpButton" open the window, which is made when
-    /// it is first asked for, and gives the view's controls their explanations. The view owns all
-    /// of it; its tabs are "tabView". The strings must outlive the view.
+    /// it is first asked for. The view owns all of it; its tabs are "tabView". The strings must
+    /// outlive the view.
     static void offer(QWidget& view, const StringTable& strings);
+    /// Gives the controls in a part of the view their explanations.
+    static void explainControls(const QWidget& part, const StringTable& strings);
 
     HelpWindow(QWidget& view, const StringTable& strings);
     /// Shows the window, or brings it before the user.

@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QTabBar>
 
+#include <type_traits>
+
 namespace zarvil::qt {
 
 namespace {
@@ -35,18 +37,28 @@ void keepRoomWhileHidden(QWidget& widget) {
     widget.setSizePolicy(policy);
 }
 
+} // namespace
+
 /// Asks before the product is removed: as high as its text, over its window every time, and with
 /// the keyboard at the harmless button, wherever it was left.
-class ConfirmationPanel final : public QDialog {
+class PaneView::ConfirmationPanel final : public QDialog {
 public:
-    explicit ConfirmationPanel(QWidget* parent) : QDialog(parent) {
-        layout_.setupUi(this);
+    explicit ConfirmationPanel(PaneView* view) : QDialog(view), view_(*view) {
+        setObjectName("uninstallModal");
         setWindowFlag(Qt::FramelessWindowHint);
         setWindowModality(Qt::ApplicationModal);
     }
 
+    void make() {
+        if (layout())
+            return;
+        layout_.setupUi(this);
+        view_.finishPart(*this);
+    }
+
     void setVisible(bool visible) override {
         if (visible && !isVisible()) {
+            make();
             fit();
             layout_.CancelUninstall->setFocus();
         }
@@ -93,10 +105,9 @@ private:
         layout_.UninstallHeading->setFont(font);
     }
 
+    PaneView& view_;
     Ui::UninstallPanel layout_;
 };
-
-} // namespace
 
 /// Holds the tab bar's left edge at that of the column.
 class PaneView::Gap final : public QWidget {
@@ -122,18 +133,11 @@ PaneView::PaneView(QWidget* parent)
     : QWidget(parent), uninstallPanel_(new ConfirmationPanel(this)) {
     Ui::PaneView frame;
     frame.setupUi(this);
-    Ui::DevicesTab().setupUi(&frame.DevicesTab->column());
-    Ui::GeneralTab().setupUi(&frame.GeneralTab->column());
-    Ui::AlertsTab alerts;
-    alerts.setupUi(&frame.AlertsTab->column());
-    keepRoomWhileHidden(*alerts.pushValidationStatus);
-    Ui::ScriptsTab().setupUi(&frame.ScriptsTab->column());
-    Ui::AboutTab about;
-    about.setupUi(&frame.AboutTab->column());
-    about.ProductIcon->setSymbol(Symbol::Shield);
-    // The pages come into being after what stands around them.
-    setTabOrder(about.uninstallButton, frame.authView);
-    setTabOrder(frame.authView, frame.HelpButton);
+    putOff<Ui::DevicesTab>(*frame.DevicesTab);
+    putOff<Ui::GeneralTab>(*frame.GeneralTab);
+    putOff<Ui::AlertsTab>(*frame.AlertsTab);
+    putOff<Ui::ScriptsTab>(*frame.ScriptsTab);
+    putOff<Ui::AboutTab>(*frame.AboutTab);
 
     constexpr int above = 16;
     constexpr int between = 12;
@@ -141,6 +145,8 @@ PaneView::PaneView(QWidget* parent)
     top_ = frame.Top;
     bottom_ = frame.Bottom;
     tabs_ = frame.tabView;
+    lock_ = frame.authView;
+    helpButton_ = frame.HelpButton;
     statusLine_ = frame.statusLine;
     agentHint_ = frame.agentHint;
     top_->setVerticalMargins(above, between);
@@ -153,7 +159,50 @@ PaneView::PaneView(QWidget* parent)
         if (prominent && untouched_ && tabs_->tabBar() == window()->focusWidget())
             launchButton_->setFocus();
     });
-    adaptToFont();
+    QAccessible::installActivationObserver(this);
+    accessibilityActiveChanged(QAccessible::isActive());
+}
+
+PaneView::~PaneView() { QAccessible::removeActivationObserver(this); }
+
+QDialog* PaneView::uninstallPanel() const { return uninstallPanel_; }
+
+template <typename Layout>
+void PaneView::putOff(Page& page) {
+    page.setFilling([this](Column& column) {
+        Layout layout;
+        layout.setupUi(&column);
+        if constexpr (std::is_same_v<Layout, Ui::DevicesTab>)
+            adaptToFont();
+        if constexpr (std::is_same_v<Layout, Ui::AlertsTab>)
+            keepRoomWhileHidden(*layout.pushValidationStatus);
+        if constexpr (std::is_same_v<Layout, Ui::AboutTab>)
+            layout.ProductIcon->setSymbol(Symbol::Shield);
+        followNewestPage();
+        finishPart(column);
+    });
+}
+
+/// What stands below the tabs comes after the pages, which have come into being after it.
+void PaneView::followNewestPage() {
+    QWidget* last = window()->previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus)
+        last = last->previousInFocusChain();
+    setTabOrder(last, lock_);
+    setTabOrder(lock_, helpButton_);
+}
+
+void PaneView::finishPart(QWidget& part) { Q_EMIT partMade(&part); }
+
+void PaneView::makeAllParts() {
+    for (auto* page : findChildren<Page*>())
+        page->fill();
+    uninstallPanel_->make();
+}
+
+void PaneView::accessibilityActiveChanged(bool active) {
+    if (active)
+        makeAllParts();
 }
 
 QSize PaneView::sizeHint() const {
@@ -173,7 +222,8 @@ void PaneView::adaptToFont() {
     constexpr int cards = 3;
     const int card = 2 * theme::lineHeight(*this) + 4 * theme::unit(*this);
     for (const char* name : {"connectedDevices", "selectedDevices"})
-        findChild<QWidget*>(name)->setMinimumHeight(cards * card);
+        if (auto* list = findChild<QWidget*>(name))
+            list->setMinimumHeight(cards * card);
 }
 
 /// Most desktops' palettes have a disabled text that is faint on the pane's grounds.
@@ -188,6 +238,9 @@ void PaneView::adaptToPalette() {
 bool PaneView::event(QEvent* event) {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::Polish)
         adaptToPalette();
+    // Comes before the view and what is in it are first shown.
+    if (event->type() == QEvent::Polish)
+        static_cast<Page*>(tabs_->currentWidget())->fill();
     if (event->type() == QEvent::FontChange) {
         adaptToFont();
         adaptToHeight();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 class QDialog;
@@ -12,16 +13,31 @@ class BannerRow;
 class Column;
 class TextLabel;
 
+class Page;
+
 /// The pane's layout: the protection and the agent's presence above the tabs, the lock below.
 /// The confirmation panel is a window of its own that belongs to the view.
-class PaneView : public QWidget {
+///
+/// A page of the tabs, and the panel, get their controls when they are first shown, which for most
+/// of them is never: the window comes up sooner. An assistive program looks at all of them, so
+/// while there is one nothing is put off.
+class PaneView : public QWidget, private QAccessible::ActivationObserver {
     Q_OBJECT
 
 public:
     explicit PaneView(QWidget* parent = nullptr);
+    ~PaneView() override;
+    PaneView(const PaneView&) = delete;
+    PaneView& operator=(const PaneView&) = delete;
 
-    [[nodiscard]] QDialog* uninstallPanel() const { return uninstallPanel_; }
+    [[nodiscard]] QDialog* uninstallPanel() const;
     [[nodiscard]] QSize sizeHint() const override;
+    /// Makes whatever has not been shown yet.
+    void makeAllParts();
+
+Q_SIGNALS:
+    /// A part of the layout has got its controls, and is about to be shown.
+    void partMade(QWidget* part);
 
 protected:
     bool event(QEvent* event) override;
@@ -32,7 +48,13 @@ protected:
 
 private:
     class Gap;
+    class ConfirmationPanel;
 
+    void accessibilityActiveChanged(bool active) override;
+    template <typename Layout>
+    void putOff(Page& page);
+    void followNewestPage();
+    void finishPart(QWidget& part);
     void adaptToHeight();
     void adaptToFont();
     void adaptToPalette();
@@ -40,12 +62,14 @@ private:
     Column* top_;
     Column* bottom_;
     QTabWidget* tabs_;
+    QWidget* lock_;
+    QWidget* helpButton_;
     QPushButton* launchButton_;
     bool untouched_ = true; ///< neither key nor click has reached the tab bar since the start
     TextLabel* statusLine_;
     TextLabel* agentHint_;
     Gap* gap_;
-    QDialog* uninstallPanel_;
+    ConfirmationPanel* uninstallPanel_;
     QPalette completed_; ///< what the pane adds to the desktop's palette
 };
 

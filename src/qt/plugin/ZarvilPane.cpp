@@ -73,12 +73,20 @@ struct ZarvilPane::Loaded {
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
           scriptWindow(controller.scriptProgress, *view) {
-        qt::HelpWindow::offer(*view, platform.platform().strings);
-        for (const std::string& fault : qt::bindOutlets(controller, *view, bindings))
-            qCWarning(paneLog).noquote() << "Layout:" << QString::fromUtf8(fault);
+        qt::HelpWindow::offer(*view, strings);
+        qt::bindGuidance(controller, *view, bindings);
+        bindPart(*view);
+        QObject::connect(view.get(), &qt::PaneView::partMade, view.get(),
+                         [this](QWidget* part) { bindPart(*part); });
         // Closing the confirmation panel in any other way than by its buttons cancels.
         QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
                          [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
+    }
+
+    void bindPart(QWidget& part) {
+        for (const std::string& fault : qt::bindOutlets(controller, part, bindings))
+            qCWarning(paneLog).noquote() << "Layout:" << QString::fromUtf8(fault);
+        qt::HelpWindow::explainControls(part, strings);
     }
 
     qt::Translation translation{qt::Translation::Toolkit::Left};

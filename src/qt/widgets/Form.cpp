@@ -130,6 +130,17 @@ QSize Page::sizeHint() const {
     return lines * theme::lineHeight(*this);
 }
 
+void Page::setVisible(bool visible) {
+    if (visible)
+        fill();
+    QScrollArea::setVisible(visible);
+}
+
+void Page::fill() {
+    if (const Filling filling = std::exchange(filling_, nullptr))
+        filling(*column_);
+}
+
 void Page::showFocused(QWidget* focused) {
     if (!focused || focused == column_ || !column_->isAncestorOf(focused))
         return;

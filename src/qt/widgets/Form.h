@@ -43,7 +43,8 @@ private:
     int bottom_ = 0;
 };
 
-/// A page of the tabs: scrolls its column when it must, and scrolls to what has the keyboard.
+/// A page of the tabs: scrolls its column when it must, and scrolls to what has the keyboard. Its
+/// column may stay empty until it is first shown.
 class Page : public QScrollArea {
     Q_OBJECT
 
@@ -52,6 +53,14 @@ public:
 
     [[nodiscard]] Column& column() const { return *column_; }
     [[nodiscard]] QSize sizeHint() const override;
+    void setVisible(bool visible) override;
+
+    /// What puts the controls into the column. A page that is the first of its tabs counts as shown
+    /// from the start, so its owner fills it.
+    using Filling = std::function<void(Column&)>;
+    void setFilling(Filling filling) { filling_ = std::move(filling); }
+    /// Does nothing when it is filled already.
+    void fill();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -60,6 +69,7 @@ private:
     void showFocused(QWidget* focused);
 
     Column* column_;
+    Filling filling_;
 };
 
 /// A rounded ground for rows, parted by hairlines.

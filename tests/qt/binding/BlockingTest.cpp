@@ -21,6 +21,8 @@ class Blocking : public PaneHarness {
 protected:
     Blocking() {
         errors.whilePresenting = [this] { alerts.presentError(errors.presented.back()); };
+        view.makeAllParts();
+        bindGuidance(pane, view, bindings);
         bindOutlets(pane, view, bindings);
         view.show();
     }

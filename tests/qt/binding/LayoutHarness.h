@@ -15,7 +15,22 @@ namespace zarvil::qt {
 /// The view of the pane, bound to a pane whose surroundings are fakes.
 class Layout : public PaneHarness {
 protected:
+    Layout() {
+        bind(view, bindings);
+        view.makeAllParts();
+    }
     ~Layout() override { bindings.clear(); }
+
+    /// Binds what is there, and what comes as it comes.
+    void bind(PaneView& shown, Subscriptions& kept) {
+        const auto bindPart = [this, &kept](QWidget* part) {
+            const Faults found = bindOutlets(pane, *part, kept);
+            faults.insert(faults.end(), found.begin(), found.end());
+        };
+        bindGuidance(pane, shown, kept);
+        bindPart(&shown);
+        QObject::connect(&shown, &PaneView::partMade, &shown, bindPart);
+    }
 
     template <typename Widget>
     Widget& widget(const char* name) {
@@ -37,7 +52,7 @@ protected:
 
     PaneView view;
     Subscriptions bindings;
-    Faults faults = bindOutlets(pane, view, bindings);
+    Faults faults;
 };
 
 } // namespace zarvil::qt

@@ -8,6 +8,8 @@
 #include "qt/widgets/MarginScrollBar.h"
 #include "qt/widgets/Theme.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QGraphicsOpacityEffect>
@@ -20,6 +22,7 @@
 #include <QTextBrowser>
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 namespace zarvil::qt {
@@ -29,7 +32,58 @@ constexpr int generalPage = 1;
 constexpr int alertsPage = 2;
 constexpr int scriptsPage = 3;
 
-TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) { EXPECT_EQ(faults, Faults{}); }
+TEST_F(Layout, hasAWidgetForEveryOutletAndNamesOnlyKnownOnes) {
+    EXPECT_EQ(faults, Faults{});
+    EXPECT_EQ(missingOutlets(pane, view), Faults{});
+}
+
+/// What a user sees of a control.
+std::string seen(const QWidget& top, std::string_view name) {
+    const auto* widget = top.findChild<QWidget*>(QString::fromUtf8(name));
+    if (!widget)
+        return "nothing";
+    QString found = widget->isHidden() ? "hidden" : "shown";
+    found += widget->isEnabledTo(&top) ? ", enabled" : ", disabled";
+    for (const char* property : {"text", "toolTip", "whatsThis", "checked", "opacity"})
+        found += ' ' + widget->property(property).toString();
+    if (const auto* list = qobject_cast<const QAbstractItemView*>(widget))
+        found += ' ' + QString::number(list->model()->rowCount());
+    return found.toStdString();
+}
+
+TEST_F(Layout, aPageThatIsOpenedLateShowsWhatAnEarlyOneDoes) {
+    loadWithAgent({{"UsePushover", true}, {"ShutdownDelay", 90}, {"EmailAddress", "a@b.de"}});
+    agentSends(Message(message::deviceConnected, Dictionary{{"DeviceName", "UPS"}}));
+    PaneView late;
+    Subscriptions kept;
+    bind(late, kept);
+    EXPECT_EQ(late.findChild<QWidget*>("connectedDevices"), nullptr);
+    late.show();
+    auto& tabs = *late.findChild<QTabWidget*>("tabView");
+    for (int page = tabs.count() - 1; page >= 0; --page) {
+        tabs.setCurrentIndex(page);
+        const QWidget* below = late.findChild<QWidget*>("authView");
+        for (QWidget* before = below->previousInFocusChain(); page == generalPage;
+             before = before->previousInFocusChain())
+            if (before->focusPolicy() & Qt::TabFocus) {
+                EXPECT_TRUE(tabs.currentWidget()->isAncestorOf(before));
+                break;
+            }
+    }
+    visitOutlets(pane, [&](std::string_view name, View&) {
+        EXPECT_EQ(seen(late, name), seen(view, name)) << name;
+    });
+    EXPECT_EQ(faults, Faults{});
+}
+
+TEST_F(Layout, anAssistiveProgramFindsTheControlsOfPagesThatWereNeverShown) {
+    const PaneView unseen;
+    EXPECT_EQ(unseen.findChild<QWidget*>("email"), nullptr);
+    QAccessible::setActive(true);
+    for (const char* name : {"email", "uninstallButton", "CancelUninstall"})
+        EXPECT_NE(unseen.findChild<QWidget*>(name), nullptr) << name;
+    QAccessible::setActive(false);
+}
 
 TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
     QWidget broken;
@@ -39,7 +93,8 @@ TEST_F(Layout, tellsOfWidgetsThatAreMissingUnknownOrOfTheWrongKind) {
     unknown->setObjectName("nobodyKnowsThis");
     unknown->setProperty("action", "nobody:");
     Subscriptions none;
-    const Faults found = bindOutlets(pane, broken, none);
+    Faults found = bindOutlets(pane, broken, none);
+    std::ranges::copy(missingOutlets(pane, broken), std::back_inserter(found));
     for (const char* fault :
          {"no widget for the outlet email", "the widget of showIcon is of the wrong kind",
           "no outlet for the widget nobodyKnowsThis", "no action nobody:"})
