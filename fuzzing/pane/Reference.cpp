@@ -515,9 +515,10 @@ void Reference::createScript() {
         titleChanged();
         return;
     }
-    // Done by the pane already: what there is now tells how it went.
-    if (files_.kindOfItem(files_.expandingTilde("~/Library/Zarvil Scripts/") + title +
-                          ".zvscript") == FileKind::Missing) {
+    // The pane has done so already, and once more does no harm: it fails as often.
+    const std::string path =
+        files_.expandingTilde("~/Library/Zarvil Scripts/") + title + ".zvscript";
+    if (files_.writeText("", path, Atomicity::Direct)) {
         ++alerts;
         return;
     }

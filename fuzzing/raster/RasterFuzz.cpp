@@ -19,6 +19,7 @@ namespace zarvil::fuzz {
 namespace {
 
 constexpr std::size_t mostCalls = 16;
+constexpr std::size_t mostPixels = 20; // to a side
 
 double number(Input& input) {
     static constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -30,7 +31,7 @@ double number(Input& input) {
     const std::uint8_t choice = input.byte();
     if (choice < 32)
         return odd.at(choice % odd.size());
-    return (static_cast<double>(choice) - 96) / 2 + static_cast<double>(input.byte()) / 256;
+    return (static_cast<double>(choice) - 96) / 4 + static_cast<double>(input.byte()) / 256;
 }
 
 Rect rect(Input& input) { return {number(input), number(input), number(input), number(input)}; }
@@ -96,7 +97,7 @@ Drawing drawnControl(Input& input) {
         } else {
             RasterImageRenderer renderer;
             // A picture is as large as its view: not all that can be asked for is drawn here.
-            constexpr double largest = 60;
+            constexpr double largest = 24;
             const auto kept = [](double side) { return side < largest ? side : largest; };
             ZVMessageView view(renderer, {0, 0, kept(frame.width), kept(frame.height)});
             view.drawRect(canvas);
@@ -113,8 +114,10 @@ Drawing anyCall(Input& input) {
     case 2:
         return [path = anyPath(input)](Canvas& canvas) { canvas.clip(path); };
     case 3: {
-        // Small ones mostly: the blur's cost grows with its square.
-        const double blur = input.byte() == 1 ? number(input) : input.byte() / 32.0;
+        // Small ones: a blur's cost grows with its square, and what one shows a hundred show.
+        constexpr double largest = 4;
+        const double any = input.byte() == 1 ? number(input) : input.byte() / 64.0;
+        const double blur = any > largest ? largest : any;
         const Shadow shadow{anyColor(input), blur, {number(input), number(input)}};
         return [shadow](Canvas& canvas) { canvas.setShadow(shadow); };
     }
@@ -179,8 +182,8 @@ bool equal(const Bitmap& left, const Bitmap& right) {
 }
 
 void tryOne(Input& input) {
-    const int width = static_cast<int>(input.below(32));
-    const int height = static_cast<int>(input.below(32));
+    const int width = static_cast<int>(input.below(mostPixels));
+    const int height = static_cast<int>(input.below(mostPixels));
     static constexpr std::array scales{1.0, 2.0, 1.5, 1.25, 3.0, 0.1};
     const RasterView view{{static_cast<double>(width), static_cast<double>(height)},
                           input.flag() ? Orientation::YUp : Orientation::YDown,

@@ -1,5 +1,6 @@
 """The agent's program, as its operator and other programs meet it."""
 
+import itertools
 import json
 import os
 import subprocess
@@ -40,8 +41,9 @@ class Program(SystemTest):
 
 
 class WrongAgent:
-    """Owns the agent's name in this process and answers as told: replies maps a message's name to
-    what is sent for it, each a name and a payload."""
+    """Owns the agent's name in this process, or waits for it, and answers as told: replies maps a
+    message's name to what is sent for it, each a name and a payload or payloads to send in turn. It
+    dies of a message that it answers with death."""
 
     def __init__(self, replies, signature="(a{sv})"):
         self.replies, self.signature = replies, signature
@@ -51,10 +53,15 @@ class WrongAgent:
             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
         self.bus.signal_subscribe(None, AGENT_NAME, None, PATH, None, 0, self.answer)
         self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                           "RequestName", GLib.Variant("(su)", (AGENT_NAME, 4)), None, 0, -1, None)
+                           "RequestName", GLib.Variant("(su)", (AGENT_NAME, 0)), None, 0, -1, None)
 
     def answer(self, _bus, _sender, _path, _interface, name, _payload):
         for reply, info in self.replies.get(name, ()):
+            if reply == "death":
+                self.replies = {}
+                return
+            if isinstance(info, itertools.cycle):
+                info = next(info)
             payload = GLib.Variant(self.signature, (info,)) if info is not None else None
             self.bus.emit_signal(None, PATH, AGENT_NAME, reply, payload)
 
@@ -80,30 +87,53 @@ class Check(SystemTest):
         self.assertEqual(agent.wait(PATIENCE), 0, "it was asked to quit")
 
     def test_names_the_rules_that_wrong_agents_break(self):
-        flag = GLib.Variant("b", True)
-        nothing = {"devices": GLib.Variant("av", [])}
+        def variant(value):
+            if isinstance(value, dict):
+                return GLib.Variant("a{sv}", {key: variant(item) for key, item in value.items()})
+            if isinstance(value, list):
+                return GLib.Variant("av", [variant(item) for item in value])
+            return GLib.Variant({bool: "b", int: "x", str: "s"}[type(value)], value)
+
+        def payload(**entries):
+            return {key: variant(value) for key, value in entries.items()}
+
         pong = [("ZVPingTest", None)]
-        lists = [(name, nothing)
-                 for name in ("ZVAllSavedDevices", "ZVAllConnectedDevices", "ZVAllDevices")]
-        state = ("ZVState2", {"state": flag})
+        lists = ("ZVAllSavedDevices", "ZVAllConnectedDevices", "ZVAllDevices")
+        nothing = payload(devices=[])
+        state = ("ZVState2", payload(state=True))
+        device = {"DeviceName": "A", "DeviceVendor": "B", "DeviceSerial": "C"}
+        tried = {"DeviceName": "Test device", "DeviceVendor": "zarvil-check-agent",
+                 "DeviceSerial": "N/A", "ofTheAgentsOwn": [7, "kept"]}
         wrong = {
             "mute": ({}, "(a{sv})", ["answers ZVPing"]),
             "hasty": ({"ZVPing": pong, "ZVState": [state],
-                       "ZVPrefsLoaded": [state, *lists, ("ZVSavedPrefs", {"Testing": flag}),
-                                         ("ZVQuitPrefs", None)]},
-                      "(a{sv})", ["in this order", "report back what ZVState",
-                                  "no ZVQuitPrefs unasked: ZVQuitPrefs", "stores every setting"]),
+                       "ZVAddedSaveItem": [("ZVNewSavedDevice", payload(device=device))],
+                       "ZVPrefsLoaded": [state, *[(name, nothing) for name in lists],
+                                         ("ZVSavedPrefs", payload(Testing=True)), ("ZVQuitPrefs", None)]},
+                      "(a{sv})", ["in this order", "report back what ZVState", "switches its protection",
+                                  "stores every setting", "saves a device", "back what it was told to save",
+                                  "by letter case", "no ZVQuitPrefs unasked: ZVQuitPrefs"]),
             "foreign": ({"ZVPing": pong * 2,
-                         "ZVPrefsLoaded": [("ZVSavedPrefs", "text"), *[(name, "text") for name, _ in lists],
+                         "ZVPrefsLoaded": [("ZVSavedPrefs", "text"), *[(name, "text") for name in lists],
                                            ("ZVState2", "text")]},
                         "(s)", ["each of many pings once", "the type a{sv}", "the state as a boolean", "devices as records"]),
+            "fickle": ({"ZVPing": pong, "ZVNoSuchMessage": [("death", None)],
+                        "ZVPrefsLoaded": [
+                            ("ZVSavedPrefs", itertools.cycle([payload(ShutdownDelay="1"), payload(ShutdownDelay="2")])),
+                            ("ZVAllSavedDevices", payload(devices=[tried])),
+                            ("ZVAllConnectedDevices", itertools.cycle([nothing, payload(devices=[device])])),
+                            ("ZVAllDevices", nothing), state]},
+                       "(a{sv})", ["waits in line", "ZVPrefsLoaded alike", "setting in its type: ShutdownDelay",
+                                   "same devices as connected", "forgets a device", "while it is saved too",
+                                   "bears messages", "no value of a wrong type"]),
         }
         for kind, (replies, signature, broken) in wrong.items():
-            agent = WrongAgent(replies, signature)
+            agents = [WrongAgent(told, signature) for told in (replies, {})[:1 + (kind == "fickle")]]
             try:
                 status, rules = self.check()
             finally:  # whoever owns the name at the session's end is killed
-                agent.bus.close_sync()
+                for agent in reversed(agents):
+                    agent.bus.close_sync()
             self.assertEqual(status, 1, kind)
             for rule in broken:
                 self.assertTrue(any(rule in line for line in rules), f"{kind}: {rule} not in {rules}")

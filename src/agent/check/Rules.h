@@ -57,6 +57,7 @@ private:
     [[nodiscard]] bool isStored(std::string_view key, const Value& value);
     void protection();
     void saving();
+    void savingConnected();
     void nonsense();
     void testing();
     void pushover();

@@ -198,7 +198,7 @@ private:
     void scriptItemWasMade(CollectionViewItem& item);
     void keepDrafts();
     void resumeDrafts();
-    std::shared_ptr<ZVScriptCollectionItem> itemOfDraft(const ScriptDraft& draft);
+    bool resumeDraft(const ScriptDraft& draft, const Record& script);
     /// Says why "Create" is greyed where the title alone does not.
     void showTitleFault();
 

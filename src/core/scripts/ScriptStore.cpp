@@ -75,25 +75,26 @@ void Zarvil_Preferences::keepDrafts() {
         });
 }
 
+/// First where the script is the same, then where it is the only one of its title.
 void Zarvil_Preferences::resumeDrafts() {
     std::erase_if(scriptDrafts_, [this](const ScriptDraft& draft) {
-        const auto item = itemOfDraft(draft);
-        if (!item || !item->data())
-            return false;
-        item->resume(draft);
-        return true;
+        return resumeDraft(draft, makeRecord(draft.saved));
+    });
+    std::erase_if(scriptDrafts_, [this](const ScriptDraft& draft) {
+        const std::string* title = draft.saved.stringForKey(script::title);
+        return title && resumeDraft(draft, onlyScriptOfTitle(scriptsArrayController, *title));
     });
 }
 
-/// The script that the draft belongs to: the same one, else the only one of its title.
-std::shared_ptr<ZVScriptCollectionItem> Zarvil_Preferences::itemOfDraft(const ScriptDraft& draft) {
-    auto index = scriptsArrayController.indexOfObject(makeRecord(draft.saved));
-    if (!index) {
-        const std::string* title = draft.saved.stringForKey(script::title);
-        const Record only = title ? onlyScriptOfTitle(scriptsArrayController, *title) : nullptr;
-        index = only ? scriptsArrayController.indexOfObject(only) : std::nullopt;
-    }
-    return index ? scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index) : nullptr;
+/// A card that is edited already keeps what was typed in it; the other text waits.
+bool Zarvil_Preferences::resumeDraft(const ScriptDraft& draft, const Record& script) {
+    const auto index = script ? scriptsArrayController.indexOfObject(script) : std::nullopt;
+    const auto item =
+        index ? scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index) : nullptr;
+    if (!item || !item->data() || item->editing())
+        return false;
+    item->resume(draft);
+    return true;
 }
 
 void Zarvil_Preferences::unloadScripts() {

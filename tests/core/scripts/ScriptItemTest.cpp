@@ -192,6 +192,23 @@ TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
         EXPECT_EQ(item(index)->editing(), listed(index, script::text) == own) << index;
 }
 
+TEST_F(ScriptItem, twoTextsTypedForOneFileComeBackOneAfterTheOther) {
+    item(0)->edit();
+    item(0)->eText()->userDidEdit("for the file that is replaced");
+    editByHand(*item(1), "a", "saved");
+    item(1)->edit();
+    item(1)->eText()->userDidEdit("for the file as it is");
+    for (const std::string_view typed :
+         {"for the file as it is", "for the file that is replaced"}) {
+        time.advance(5);
+        agentSends(message::pingAnswer);
+        ASSERT_THAT(titles(), ElementsAre("a"));
+        ASSERT_TRUE(item(0)->editing()) << typed;
+        EXPECT_EQ(item(0)->eText()->stringValue(), typed);
+        item(0)->edit();
+    }
+}
+
 TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {
     scriptRunner.outcome = ScriptError{-2741, "Expected end of line."};
     item(0)->execute();
