@@ -213,7 +213,7 @@ class Presence(SystemTest):
 
     @staticmethod
     def is_active(program):
-        active = ("xdotool", "getactivewindow", "getwindowpid")
+        active = ("xdotool", "getwindowfocus", "getwindowpid")
         pid = subprocess.run(active, capture_output=True, text=True).stdout.strip()
         return pid == str(program.pid)
 
