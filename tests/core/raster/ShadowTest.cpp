@@ -83,6 +83,34 @@ TEST(Shadow, andClipsAreFoundAgainOnlyWhereTheyLookTheSame) {
             }
 }
 
+TEST(Shadow, ofATranslucentGradientIsAsTranslucent) {
+    const Drawn image({40, 20}, 1, Orientation::YDown, [](Canvas& canvas) {
+        canvas.setShadow({Color::gray(0), 0, {20, 0}});
+        canvas.fill(Rect{0, 0, 20, 20}, Gradient{{{0, color::clear}, {1, color::white}}}, 0);
+    });
+    EXPECT_NEAR(image.alpha(25, 10), 5.5 / 20, 1.0 / 255);
+}
+
+TEST(Shadow, ofAClipInALayerIsNotTakenForOneWithinAnother) {
+    BlockText text;
+    const auto draw = [&text](RasterMemory& memory, bool inLayer) {
+        Bitmap bitmap(40, 40);
+        RasterCanvas canvas(bitmap, memory, text, {{40, 40}, Orientation::YDown, 1, {}});
+        canvas.clip(Oval{{0, 0, 40, 40}});
+        if (inLayer)
+            canvas.beginTransparencyLayer();
+        canvas.clip(RoundedRect{{0, 0, 20, 20}, {4, 4}});
+        canvas.fill(Rect{0, 0, 40, 40}, color::white);
+        if (inLayer)
+            canvas.endTransparencyLayer();
+        return std::vector<Pixel>(bitmap.row(0), bitmap.row(0) + 40 * 40);
+    };
+    RasterMemory used;
+    draw(used, true);
+    RasterMemory fresh;
+    EXPECT_EQ(draw(used, false), draw(fresh, false));
+}
+
 TEST(Shadow, thatWasDrawnLongestAgoIsForgottenFirst) {
     raster::ShadowCache cache;
     constexpr int side = 500; // two of them fit
