@@ -3,7 +3,7 @@
 QT_TRANSLATE_N_NOOP("MainBundle", "%n devices watched"),
 QT_TRANSLATE_NOOP("MainBundle", "A test is running. Nothing is shut down."),
 QT_TRANSLATE_NOOP("MainBundle", "Administrator rights"),
-QT_TRANSLATE_NOOP("MainBundle", "Administrator rights: %1 does not answer"),
+QT_TRANSLATE_NOOP("MainBundle", "Administrator rights: %1 missing"),
 QT_TRANSLATE_NOOP("MainBundle", "Administrator rights: checking"),
 QT_TRANSLATE_NOOP("MainBundle", "Administrator rights: locked"),
 QT_TRANSLATE_NOOP("MainBundle", "Administrator rights: unlocked"),

@@ -1099,8 +1099,8 @@
         <translation>انتهى دون خطأ.</translation>
     </message>
     <message>
-        <source>Administrator rights: %1 does not answer</source>
-        <translation>صلاحيات المدير: لا يستجيب %1</translation>
+        <source>Administrator rights: %1 missing</source>
+        <translation>صلاحيات المدير: %1 غير موجود</translation>
     </message>
 </context>
 <context>

@@ -1087,8 +1087,8 @@
         <translation>Ohne Fehler beendet.</translation>
     </message>
     <message>
-        <source>Administrator rights: %1 does not answer</source>
-        <translation>Administratorrechte: %1 antwortet nicht</translation>
+        <source>Administrator rights: %1 missing</source>
+        <translation>Administratorrechte: %1 fehlt</translation>
     </message>
 </context>
 <context>

@@ -1087,8 +1087,8 @@
         <translation>Terminado sin errores.</translation>
     </message>
     <message>
-        <source>Administrator rights: %1 does not answer</source>
-        <translation>Derechos de administrador: %1 no responde</translation>
+        <source>Administrator rights: %1 missing</source>
+        <translation>Derechos de administrador: falta %1</translation>
     </message>
 </context>
 <context>

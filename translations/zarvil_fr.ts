@@ -1087,8 +1087,8 @@
         <translation>Terminé sans erreur.</translation>
     </message>
     <message>
-        <source>Administrator rights: %1 does not answer</source>
-        <translation>Droits d’administrateur&#xa0;: %1 ne répond pas</translation>
+        <source>Administrator rights: %1 missing</source>
+        <translation>Droits d’administrateur&#xa0;: %1 absent</translation>
     </message>
 </context>
 <context>

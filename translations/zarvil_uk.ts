@@ -1090,8 +1090,8 @@
         <translation>Завершено без помилок.</translation>
     </message>
     <message>
-        <source>Administrator rights: %1 does not answer</source>
-        <translation>Права адміністратора: %1 не відповідає</translation>
+        <source>Administrator rights: %1 missing</source>
+        <translation>Права адміністратора: немає %1</translation>
     </message>
 </context>
 <context>

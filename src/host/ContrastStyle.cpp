@@ -8,7 +8,7 @@ namespace zarvil::host {
 void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_PanelButtonCommand)
+    if (element != PE_PanelButtonCommand && element != PE_IndicatorCheckBox)
         return;
     constexpr double radius = 2.5;
     const QColor ink = option->palette.color(QPalette::ButtonText);
@@ -18,6 +18,17 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter->restore();
+}
+
+void ContrastStyle::drawControl(ControlElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_TabBarTabShape || !(option->state & State_Selected))
+        return;
+    constexpr int thickness = 3;
+    QRect bar = option->rect;
+    bar.setHeight(thickness);
+    painter->fillRect(bar, option->palette.color(QPalette::Highlight));
 }
 
 } // namespace zarvil::host

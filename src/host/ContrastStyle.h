@@ -4,8 +4,8 @@
 
 namespace zarvil::host {
 
-/// Fusion derives the outlines of buttons from the window's color, too faint for high contrast;
-/// this one takes them from the text's.
+/// Fusion derives the outlines of buttons and boxes from the window's color, too faint for high
+/// contrast; this one takes them from the text's, and marks the tab that is shown.
 class ContrastStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -14,6 +14,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
 };
 
 } // namespace zarvil::host

@@ -1,6 +1,7 @@
 #include "host/Host.h"
 
 #include "bus/BusProbe.h"
+#include "host/Activation.h"
 #include "host/Diagnosis.h"
 #include "host/Failure.h"
 #include "host/Log.h"
@@ -172,7 +173,7 @@ std::optional<BundleFailure> Host::showAtStart() {
 /// Opens the window, or brings it before the user.
 std::optional<BundleFailure> Host::show() {
     if (std::exchange(shown_, true)) {
-        window_->raiseToUser();
+        bringToUser(*window_);
         return std::nullopt;
     }
     auto failure = window_->open();

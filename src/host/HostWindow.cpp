@@ -128,14 +128,6 @@ void HostWindow::rememberTab() {
         settings_.setValue(tabKey(), pages->currentIndex());
 }
 
-void HostWindow::raiseToUser() {
-    if (isMinimized())
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
-}
-
 void HostWindow::closeRegardless() {
     if (finished_)
         return;

@@ -32,8 +32,6 @@ public:
     [[nodiscard]] std::optional<BundleFailure> prepare();
     /// Prepares what is not, and shows it.
     [[nodiscard]] std::optional<BundleFailure> open();
-    /// Brings the window before the user.
-    void raiseToUser();
     /// Leaves the pane, whatever it answers, and closes.
     void closeRegardless();
 

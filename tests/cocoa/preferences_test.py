@@ -1,6 +1,8 @@
-"""The pane in GNUstep's own preferences application, operated by mouse, and the agent's end in a
-process of its own. To be run on a private display, with private GNUstep folders."""
+"""The pane in GNUstep's own preferences application, operated by mouse and keys, and the agent's end
+in a process of its own. Where the controls stand, and what they show, the application writes down
+by a bundle that is loaded into it. To be run on a private display, with private GNUstep folders."""
 
+import json
 import os
 import pathlib
 import shutil
@@ -13,15 +15,14 @@ import unittest
 
 BUNDLE = pathlib.Path(os.environ["ZARVIL_PANE_BUNDLE"])
 PLAYED_AGENT = os.environ["ZARVIL_PLAYED_AGENT"]
+REPORTING = os.environ["ZARVIL_WINDOW_REPORT_BUNDLE"]
 PRELOAD = os.environ.get("ZARVIL_PRELOAD", "")
 PATIENCE = 60  # seconds
 
-# In the application's window, at the width that it gives every pane.
-FIRST_ICON, SHOW_ALL, GENERAL, ABOUT = (52, 78), (40, 22), (128, 172), (294, 172)
-LAUNCH_AT_LOGIN, UNINSTALL = (140, 579), (449, 517)
+# Icons of the host's own; the row of the agent at the width that it gives every pane.
+FIRST_ICON, SHOW_ALL = (52, 78), (40, 22)
 AGENT_ROW = "300x24+35+124"
-# In the panel that asks.
-CANCEL, CONFIRM = (194, 216), (306, 216)
+CANCEL, CONFIRM = "uninstallSheetFinished:", "unistall:"
 
 
 def output(*command):
@@ -52,6 +53,8 @@ class Preferences(unittest.TestCase):
         shutil.copytree(BUNDLE, self.bundle)
         self.library = pathlib.Path(os.environ["HOME"]) / "Library"
         self.lay_out_product()
+        self.report = self.folder / "report"
+        self.cases = json.loads(output(PLAYED_AGENT, "--cases"))
         self.start("openbox")
         # A window that is mapped while the manager starts is managed by nobody.
         wait_until(lambda: b"window id" in output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
@@ -60,8 +63,9 @@ class Preferences(unittest.TestCase):
 
     def start_host(self):
         sanitized = {"LD_PRELOAD": PRELOAD, "ASAN_OPTIONS": "detect_leaks=0"} if PRELOAD else {}
-        self.host = self.start("SystemPreferences", env=dict(
-            os.environ, ZARVIL_ROOT=str(self.folder / "root"), **sanitized))
+        self.host = self.start("SystemPreferences", "-GSAppKitUserBundles", f'("{REPORTING}")',
+                               env=dict(os.environ, ZARVIL_ROOT=str(self.folder / "root"),
+                                        ZARVIL_WINDOW_REPORT=str(self.report), **sanitized))
         self.window = self.window_named("^System Preferences")
         output("xdotool", "windowactivate", "--sync", self.window)
 
@@ -96,8 +100,9 @@ class Preferences(unittest.TestCase):
         self.heard = b""
         self.hear("ready")
 
-    def send(self, message):
-        self.agent.stdin.write(message.encode() + b"\n")
+    def send(self, message, info=None):
+        line = message if info is None else f"{message} {json.dumps(info)}"
+        self.agent.stdin.write(line.encode() + b"\n")
         self.agent.stdin.flush()
 
     def hear(self, message):
@@ -109,6 +114,17 @@ class Preferences(unittest.TestCase):
                 self.heard = rest
             return line
         wait_until(found, f"the agent hears {message}")
+
+    def hear_only(self, messages):
+        """Waits for them, and fails when something else came before or among them."""
+        lines = "".join(message + "\n" for message in messages).encode()
+
+        def found():
+            self.heard += self.agent.stdout.read() or b""
+            return len(self.heard) >= len(lines)
+        wait_until(found, f"the agent hears {messages}")
+        heard, self.heard = self.heard, b""
+        self.assertEqual(heard, lines)
 
     # The window.
 
@@ -136,6 +152,41 @@ class Preferences(unittest.TestCase):
         output("xdotool", "mousemove", "--window", window or self.window, *place,
                "mousedown", 1, "sleep", 0.1, "mouseup", 1)
 
+    # What it says of itself.
+
+    def reported(self):
+        return wait_until(lambda: self.report.exists() and json.loads(self.report.read_text()),
+                          "a report")
+
+    def shown(self, name):
+        """Of an outlet, or of a control without one by its action."""
+        return self.reported()["controls"].get(name, {})
+
+    def wait_for(self, name, **facts):
+        wait_until(lambda: facts.items() <= self.shown(name).items(), f"{name} shows {facts}")
+
+    def press(self, name):
+        control = wait_until(lambda: self.shown(name), f"there is {name}")
+        if "place" not in control:
+            window, *place = self.shown(str(control["page"]))["place"]
+            self.click(place, window)
+
+        def ready():
+            control = self.shown(name)
+            return control.get("enabled", 1) and control.get("place")
+        window, *place = wait_until(ready, f"{name} can be pressed")
+        output("xdotool", "mousemove", "--window", window, *place, "mousedown", 1)
+        wait_until(lambda: self.reported()["pressed"], f"{name} is pressed")
+        output("xdotool", "mouseup", 1)
+        wait_until(lambda: self.host.poll() is not None or not self.reported()["pressed"],
+                   f"{name} is released")
+
+    def enter(self, name, text):
+        self.press(name)
+        wait_until(lambda: self.reported()["focus"] == name, f"{name} has the keyboard")
+        output("xdotool", "key", "Home", "shift+End", "type", text)
+        output("xdotool", "key", "Return")
+
     def settled(self):
         picture = None
         while picture != (picture := self.picture()):
@@ -157,18 +208,40 @@ class Preferences(unittest.TestCase):
         self.start_host()
         self.click_until_it_shows(self.icon)
         self.hear("ZVPrefsLoaded")
-        self.send("ZVPingTest")
-        self.hear("ZVPrefsLoaded")
-        self.send("ZVSavedPrefs ShutdownDelay=30")
+        # As the agent does: the settings first, then what shows that it is there.
+        for message in (*(info for info in self.cases["before"] if info[0] == "ZVSavedPrefs"),
+                        ("ZVPingTest",)):
+            self.send(*message)
+        self.reset()
 
-    def toggles_launch_at_login(self, value):
-        self.click(LAUNCH_AT_LOGIN)
-        self.hear(f"ZVPrefsChanged prefKey=LaunchAtLogin prefObj={value}")
+    def reset(self, **settings):
+        """The state in which each case of the tables begins, or one beside it."""
+        for message, info in self.cases["before"]:
+            self.send(message, {**info, **settings} if message == "ZVSavedPrefs" else info)
+        self.hear("ZVState state=1")
+
+    def test_every_control_sends_and_every_setting_shows_what_the_tables_say(self):
+        self.open_pane()
+        for outlet, typed, sent in self.cases["controls"]:
+            with self.subTest(outlet=outlet, typed=typed):
+                self.reset()
+                if typed:
+                    self.enter(outlet, typed)
+                else:
+                    is_list = outlet.endswith("Devices")
+                    self.press(outlet + "/toggleSelectDevice:" if is_list else outlet)
+                self.hear_only([message for message in sent.split("; ") if message])
+        for key, value, outlet, shown in self.cases["settings"]:
+            with self.subTest(setting=key):
+                self.reset(**{key: value})
+                facts = ({"enabled": 0} if shown == "disabled" else
+                         {"text": shown} if shown else {"state": 1})
+                self.wait_for(outlet, **facts)
 
     def test_an_agent_that_freezes_ends_and_comes_back_and_one_that_closes_the_host(self):
         self.open_pane()
-        self.click_until_it_shows(GENERAL)
-        self.toggles_launch_at_login(1)
+        self.press("launchAtLogin")
+        self.hear("ZVPrefsChanged prefKey=LaunchAtLogin prefObj=1")
         present = self.picture(AGENT_ROW)
 
         self.agent.send_signal(signal.SIGSTOP)
@@ -182,7 +255,6 @@ class Preferences(unittest.TestCase):
         self.start_agent()
         self.hear("ZVPrefsLoaded")
         wait_until(lambda: self.picture(AGENT_ROW) == present, "the next one shows")
-        self.send("ZVSavedPrefs LaunchAtLogin=1")
 
         self.click_until_it_shows(SHOW_ALL)
         self.assertIsNone(self.host.poll())
@@ -191,15 +263,13 @@ class Preferences(unittest.TestCase):
 
     def test_uninstalling_removes_the_listed_three_alone_and_cancelling_none(self):
         self.open_pane()
-        self.click_until_it_shows(ABOUT)
         home, root = paths_below(self.library), paths_below(self.folder)
 
         for choice in (CANCEL, CONFIRM):
-            self.click(UNINSTALL)
-            panel = self.window_named("^Uninstall Zarvil")
+            self.press("uninstallButton")
+            self.window_named("^Uninstall Zarvil")
             self.assertEqual(paths_below(self.library), home)
-            self.settled()
-            self.click(choice, panel)
+            self.press(choice)
             wait_until(lambda: not self.windows_named("^Uninstall Zarvil"), "the panel goes")
         self.hear("ZVQuit")
         gone = ("PreferencePanes/" + BUNDLE.name, "Preferences/com.Tessrow.Zarvil.plist")

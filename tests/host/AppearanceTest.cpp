@@ -5,6 +5,7 @@
 #include "host/ContrastStyle.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QStyle>
@@ -138,16 +139,20 @@ TEST_F(AppearanceTest, textsOnATabsPageAreReadable) {
     QApplication::setStyle(style);
 }
 
-TEST_F(AppearanceTest, buttonsStandOutFromAWindowOfHighContrast) {
+TEST_F(AppearanceTest, buttonsAndBoxesStandOutFromAWindowOfHighContrast) {
     ContrastStyle style;
     for (const bool dark : {false, true}) {
         QPushButton button("Button");
-        button.setStyle(&style);
-        button.setPalette(paletteFor({dark, true}));
-        const QImage shown = button.grab().toImage();
-        EXPECT_GE(contrast(shown.pixelColor(0, shown.height() / 2),
-                           button.palette().color(QPalette::Window)),
-                  4.5);
+        QCheckBox greyed("Box");
+        greyed.setEnabled(false);
+        for (QWidget* control : std::initializer_list<QWidget*>{&button, &greyed}) {
+            control->setStyle(&style);
+            control->setPalette(paletteFor({dark, true}));
+            const QImage shown = control->grab().toImage();
+            EXPECT_GE(contrast(shown.pixelColor(0, shown.height() / 2),
+                               control->palette().color(QPalette::Window)),
+                      4.5);
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #include "host/HostWindow.h"
 #include "Bundles.h"
+#include "host/Activation.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -42,7 +43,7 @@ TEST_F(HostWindowTest, onePaneLivesFromItsShowingToTheClosing) {
     EXPECT_EQ(calls(),
               QStringList({"A: setOptions /trial", "A: mainViewDidLoad", "A: willSelect"}));
     window->showMinimized();
-    window->raiseToUser();
+    bringToUser(*window);
     EXPECT_FALSE(window->isMinimized());
     EXPECT_EQ(calls(), QStringList()) << "a minimised window's pane stays selected";
     EXPECT_TRUE(window->close());

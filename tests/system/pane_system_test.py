@@ -203,17 +203,23 @@ class Presence(SystemTest):
         self.session.bus.signal_subscribe(HOST_NAME, AGENT_NAME, "ZVPing", desktop.PATH, None, 0,
                                           lambda *_: pings.append(True))
         wait_until(lambda: pings, "the pane speaks as the owner of the host's name")
+        self.session.start("xmessage", "-center", "Something else")
+        wait_until(lambda: not self.is_active(self.host), "another window has the keyboard")
         second = self.session.start(desktop.BUILD / "bin/zarvil-preferences", "--root",
                                     self.session.root,
                                     desktop.BUILD / "bin/Zarvil Preferences.prefPane")
         self.assertEqual(second.wait(desktop.PATIENCE), 0)
-        self.assertIsNone(self.host.poll())
+        wait_until(lambda: self.is_active(self.host), "the first has it again")
+
+    @staticmethod
+    def is_active(program):
+        active = ("xdotool", "getwindowfocus", "getwindowpid")
+        pid = subprocess.run(active, capture_output=True, text=True).stdout.strip()
+        return pid == str(program.pid)
 
     def strike_in(self, host, key):
         """Strikes a key in a program's window, once that has the keyboard, and waits for its end."""
-        active = ("xdotool", "getactivewindow", "getwindowpid")
-        wait_until(lambda: subprocess.run(active, capture_output=True,
-                                          text=True).stdout.strip() == str(host.pid), "it is active")
+        wait_until(lambda: self.is_active(host), "it is active")
         desktop.Pane.strike(key)
         return host.wait(desktop.PATIENCE)
 

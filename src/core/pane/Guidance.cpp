@@ -261,8 +261,7 @@ void Guidance::showLock() {
     if (state == authorizationState::unlocked)
         line = text("Administrator rights: unlocked");
     else if (state == authorizationState::locked && !missingAuthority_.empty())
-        line = strings_.localizedString("Administrator rights: %1 does not answer",
-                                        {missingAuthority_});
+        line = strings_.localizedString("Administrator rights: %1 missing", {missingAuthority_});
     else if (state == authorizationState::locked)
         line = text("Administrator rights: locked");
     else

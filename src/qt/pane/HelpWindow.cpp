@@ -75,6 +75,7 @@ void HelpWindow::addButtons(QWidget& view) {
         QWhatsThis::enterWhatsThisMode();
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     layout()->addWidget(buttons);
 }
 

@@ -278,6 +278,10 @@ void ScriptCard::layOutHeader() {
     const QRect line(sidePadding, topPadding, std::max(0, right - sidePadding), height);
     for (QLabel* label : {title_, hint_})
         label->setGeometry(mirrored(line));
+    // Where reading begins in the window, whatever the text is written in.
+    for (QLabel* label : {title_, hint_, state_})
+        label->setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) |
+                            Qt::AlignAbsolute | Qt::AlignVCenter);
     elide(*title_);
     title_->setToolTip(title_->text() == title_->accessibleName()
                            ? QString()

@@ -322,9 +322,10 @@ void ScriptListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 QSize ScriptListView::minimumSizeHint() const {
-    const int most = fewestRows * (ScriptCard::typicalHeight(*this) + spacing);
+    const int row = ScriptCard::typicalHeight(*this) + spacing;
+    // An empty list has room for the words that say so.
     return {fontMetrics().averageCharWidth() * fewestCharacters,
-            rowCount() == 0 ? most : std::min(topOf(rowCount()), most)};
+            rowCount() == 0 ? row + row / 2 : std::min(topOf(rowCount()), fewestRows * row)};
 }
 
 QSize ScriptListView::sizeHint() const { return minimumSizeHint(); }

@@ -16,7 +16,6 @@ namespace zarvil::qt {
 
 namespace {
 
-constexpr int focusMargin = 2;
 /// What text of this size needs at least to be read.
 constexpr double readableContrast = 4.5;
 
@@ -69,7 +68,7 @@ void LinkButtonWidget::showTitle() {
 
 QSize LinkButtonWidget::sizeHint() const {
     // As high as a line of text: nothing around it moves when it comes and goes.
-    return textSize(*this, font(), Qt::TextSingleLine, text()) + QSize(2 * focusMargin, 0);
+    return textSize(*this, font(), Qt::TextSingleLine, text());
 }
 
 /// The given color where it can be read on the window, else the desktop's color of links, else
@@ -100,8 +99,12 @@ void LinkButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(isEnabled() ? readable(color)
                                : palette().color(QPalette::Disabled, QPalette::WindowText));
     const TextAlignment alignment = look.alignment.value_or(TextAlignment::Left);
-    painter.drawText(rect().adjusted(focusMargin, 0, -focusMargin, 0),
-                     static_cast<int>(toQt(alignment) | Qt::AlignVCenter) | Qt::TextSingleLine,
+    // An address reads the same in a window of either direction.
+    const int direction =
+        text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    painter.drawText(rect(),
+                     static_cast<int>(toQt(alignment) | Qt::AlignVCenter) | Qt::TextSingleLine |
+                         direction,
                      text());
     if (hasFocus()) {
         QStyleOptionFocusRect option;

@@ -251,7 +251,8 @@ int Row::arrange(int width, Places& places) const {
     if (!is.labelAbove) {
         for (QWidget* widget : group.label) {
             const QSize size(is.label, heightOf(*widget, is.label));
-            const QPoint corner(is.left, y + (firstHeight - size.height()) / 2);
+            const int top = group.text.empty() ? y : places[firstText].rect.top();
+            const QPoint corner(is.left, top + (firstHeight - size.height()) / 2);
             places.push_back({widget, QRect(corner, size)});
         }
     }

@@ -120,7 +120,8 @@ void paintFieldOutlines(QPainter& painter, const QWidget& parent) {
     for (const auto* child : parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         const bool isField =
             qobject_cast<const QLineEdit*>(child) || qobject_cast<const QPlainTextEdit*>(child);
-        if (isField && child->isVisible() && child->isEnabled())
+        const bool isOutlined = child->isEnabled() || isHighContrast(parent.palette());
+        if (isField && child->isVisible() && isOutlined)
             paintFieldOutline(painter, parent.palette(), child->geometry());
     }
 }
@@ -136,15 +137,20 @@ QPalette disabledTextFor(const QPalette& palette) {
         });
     };
     QPalette missing;
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        const QColor given = palette.color(QPalette::Disabled, role);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
+        // A placeholder is translucent unless a desktop says otherwise.
+        const QColor raw = palette.color(QPalette::Disabled, role);
+        const QColor given =
+            mixed(palette.color(QPalette::Disabled, QPalette::Base), raw, raw.alphaF());
+        const QColor goal =
+            active(palette, role == QPalette::PlaceholderText ? QPalette::Text : role);
         constexpr double step = 0.05;
         double share = 0;
-        while (share < 1 && !isDiscernible(mixed(given, active(palette, role), share)))
+        while (share < 1 && !isDiscernible(mixed(given, goal, share)))
             share += step;
         if (share > 0)
-            missing.setColor(QPalette::Disabled, role,
-                             mixed(given, active(palette, role), std::min(share, 1.0)));
+            missing.setColor(QPalette::Disabled, role, mixed(given, goal, std::min(share, 1.0)));
     }
     return missing;
 }

@@ -47,20 +47,20 @@ struct Host : ::testing::Test {
         return std::ranges::find(agent.heard, name, &Message::name) != agent.heard.end();
     }
     bool isPresent() const { return [host.outlet("togglePowerButton") isEnabled]; }
-    bool isOn(const char* outlet) const { return [host.outlet(outlet) state] == NSOnState; }
-    std::string text(const char* outlet) const {
+    bool isOn(std::string_view outlet) const { return [host.outlet(outlet) state] == NSOnState; }
+    std::string text(std::string_view outlet) const {
         return [[host.outlet<NSTextField>(outlet) stringValue] UTF8String];
     }
 
     /// The state in which each case of the table begins.
     void reset() {
-        agent.send(Message(message::stateChanged, Dictionary{{"state", true}}));
-        const std::string mark = "reset " + std::to_string(++resets);
-        Dictionary settings = settingsOfCases();
-        settings.setObject("PushDeviceId", mark);
-        agent.send(Message(message::savedPrefs, settings));
-        ASSERT_TRUE(runUntil([&] { return text("pushDeviceName") == mark; }));
-        (void)sentBy([] {});
+        for (const Message& message : messagesBeforeACase())
+            agent.send(message);
+        const Message echo(message::setState, Dictionary{{"state", true}});
+        ASSERT_TRUE(runUntil([&] {
+            return !agent.heard.empty() && described(agent.heard.back()) == described(echo);
+        }));
+        agent.heard.clear();
     }
 
     /// What the pane sends for an act of the user with a control; it comes before what another
@@ -72,18 +72,13 @@ struct Host : ::testing::Test {
         EXPECT_TRUE(runUntil(
             [=, this] { return heardOf(isLog ? message::checkForUpdates : message::viewLog); }));
         agent.heard.pop_back();
-        std::string all;
-        for (const Message& sent : agent.heard)
-            all += (all.empty() ? "" : "; ") + described(sent);
-        agent.heard.clear();
-        return all;
+        return described(std::exchange(agent.heard, {}));
     }
 
     const Pool pool;
     PlayedAgent agent;
     Ref<NSPreferencePane> pane = MiniHost::newPane(bundlePath);
     MiniHost host{pane.get()};
-    int resets = 0;
 };
 
 /// The view of a class below another whose action is the given one, if one is given.
@@ -146,15 +141,20 @@ TEST_F(HostWithScript, aScriptThatRunsKeepsInputFromThePaneAndCanBeStopped) {
     EXPECT_NE(sentBy([this] { host.click(host.outlet("launchAtLogin")); }), "");
 }
 
+/// What a click on a control is to hit.
+NSView* boxOf(NSView* control) {
+    return [control isKindOfClass:[NSCollectionView class]] ? viewIn<NSButton>(control) : control;
+}
+
 TEST_F(Host, everyControlSendsWhatTheTableSays) {
     for (const ControlCase& c : controlCases) {
         reset();
-        NSControl* control = host.outlet<NSControl>(c.outlet);
-        ASSERT_TRUE(control) << c.outlet;
+        NSView* control = host.outlet<NSView>(c.outlet);
+        ASSERT_TRUE(runUntil([=] { return boxOf(control); })) << c.outlet;
         EXPECT_EQ(sentBy(
                       [&] {
                           if (c.typed.empty())
-                              host.click(control);
+                              host.click(boxOf(control));
                           else
                               host.type(static_cast<NSTextField*>(control), c.typed);
                       },
@@ -164,42 +164,17 @@ TEST_F(Host, everyControlSendsWhatTheTableSays) {
     }
 }
 
-/// A setting of the agent's and where it shows.
-struct SettingCase {
-    const char* key;
-    Value value;
-    const char* outlet;
-    /// What a field says; a button is on, unless it says that it is disabled.
-    std::string shown;
-};
-
 TEST_F(Host, everySettingOfTheAgentShows) {
-    const std::string disabled = "disabled";
-    for (const SettingCase& c : {
-             SettingCase{"LaunchAtLogin", true, "launchAtLogin", ""},
-             SettingCase{"StatusIconMono", true, "monoIcon", ""},
-             SettingCase{"UseForce", true, "forceQuit", ""},
-             SettingCase{"ShutdownMessage", true, "showShutdownMessage", ""},
-             SettingCase{"HideShutdownMessage", true, "hideShutdownMessageButton", ""},
-             SettingCase{"ShowFailNotifi", true, "showFailureNotifi", ""},
-             SettingCase{"SUEnableAutomaticChecks", true, "checkForUpdates", ""},
-             SettingCase{"ShutdownDelay", 61, "shutdownDelayText", "61"},
-             SettingCase{"EmailAddress", "x@y.zz", "email", "x@y.zz"},
-             SettingCase{"PushUserId", "somebody", "pushUserName", "somebody"},
-             SettingCase{"PushDeviceId", "phone", "pushDeviceName", "phone"},
-             SettingCase{"Testing", true, "testSettingsButton", disabled},
-             SettingCase{"UsePushover", false, "pushUserName", disabled},
-             SettingCase{"UseScripts", false, "scriptsTitle", disabled},
-         }) {
+    for (const SettingCase& c : settingCases()) {
         reset();
         Dictionary settings = settingsOfCases();
         settings.setObject(c.key, c.value);
         agent.send(Message(message::savedPrefs, settings));
         EXPECT_TRUE(runUntil(
             [&] {
-                return c.shown == disabled ? ![host.outlet(c.outlet) isEnabled]
-                       : c.shown.empty()   ? isOn(c.outlet)
-                                           : text(c.outlet) == c.shown;
+                return c.shown == SettingCase::disabled ? ![host.outlet(c.outlet) isEnabled]
+                       : c.shown.empty()                ? isOn(c.outlet)
+                                                        : text(c.outlet) == c.shown;
             },
             5))
             << c.key;
@@ -227,6 +202,11 @@ TEST_F(Host, everyMessageAboutDevicesShows) {
         return runUntil([&] { return rows(connected) == isConnected && rows(saved) == isSaved; },
                         5);
     };
+    for (const Message& before : messagesBeforeACase())
+        if (before.name == message::allConnectedDevices)
+            agent.send(Message(message::deviceDisconnected,
+                               *before.info().arrayForKey("devices")->front().as<Dictionary>()));
+    EXPECT_TRUE(shows(Message(message::allSavedDevices, all({})), 0, 0));
     EXPECT_TRUE(shows(Message(message::deviceConnected, device("A")), 1, 0));
     EXPECT_TRUE(shows(Message(message::newSavedDevice, Dictionary{{"device", device("A")}}), 0, 1));
     EXPECT_TRUE(shows(Message(message::allSavedDevices, all({"A", "B"})), 0, 2));

@@ -1,12 +1,12 @@
 #import "MiniHost.h"
 
 #import "cocoa/support/Pool.h"
+#import "cocoa/support/PropertyLists.h"
 
 #include "ControlCases.h"
 
-#include <charconv>
+#include <algorithm>
 #include <iostream>
-#include <sstream>
 #include <string>
 
 #include <poll.h>
@@ -14,27 +14,37 @@
 
 namespace {
 
-using zarvil::Message;
+using namespace zarvil;
 
-/// `NAME key=value...`; what looks like a number is one.
+/// `NAME`, or `NAME {...}` with the user info as JSON.
 Message parsed(const std::string& line) {
-    std::istringstream words(line);
-    std::string word;
-    words >> word;
-    Message message(word);
-    while (words >> word) {
-        const auto equals = word.find('=');
-        const std::string value = word.substr(equals + 1);
-        std::int64_t number = 0;
-        const auto [end, error] =
-            std::from_chars(value.data(), value.data() + value.size(), number);
-        if (!message.userInfo)
-            message.userInfo.emplace();
-        const bool isNumber = error == std::errc() && end == value.data() + value.size();
-        message.userInfo->setObject(word.substr(0, equals),
-                                    isNumber ? zarvil::Value(number) : zarvil::Value(value));
-    }
+    const std::size_t nameEnd = std::min(line.find(' '), line.size());
+    Message message(line.substr(0, nameEnd));
+    NSData* info = [NSData dataWithBytes:line.data() + nameEnd length:line.size() - nameEnd];
+    if ([info length] > 0)
+        message.userInfo = cocoa::toDictionary([NSJSONSerialization JSONObjectWithData:info
+                                                                               options:0
+                                                                                 error:NULL]);
     return message;
+}
+
+/// The tables of cases as JSON, for a test that is written in another language.
+void printCases() {
+    Array controls;
+    for (const ControlCase& c : controlCases)
+        controls.emplace_back(Array{c.outlet, c.typed, c.sent});
+    Array settings;
+    for (const SettingCase& c : settingCases())
+        settings.emplace_back(Array{c.key, c.value, c.outlet, c.shown});
+    Array before;
+    for (const Message& message : messagesBeforeACase())
+        before.emplace_back(Array{message.name, message.info()});
+    const Dictionary all{{"controls", controls}, {"settings", settings}, {"before", before}};
+    NSData* text = [NSJSONSerialization dataWithJSONObject:cocoa::toPropertyList(all)
+                                                   options:0
+                                                     error:NULL];
+    std::cout.write(static_cast<const char*>([text bytes]),
+                    static_cast<std::streamsize>([text length]));
 }
 
 bool inputWaits() {
@@ -45,18 +55,21 @@ bool inputWaits() {
 } // namespace
 
 /// The agent's end in a process of its own, for a host that is none of ours: answers pings, prints
-/// what it hears, and posts each line of its input.
-int main() {
-    const zarvil::cocoa::Pool pool;
+/// what it hears, and posts each line of its input. With an argument it prints the tables alone.
+int main(int count, char**) {
+    const cocoa::Pool pool;
     std::ios::sync_with_stdio(false);
+    if (count > 1) {
+        printCases();
+        return EXIT_SUCCESS;
+    }
     [NSApplication sharedApplication];
-    zarvil::cocoa::test::PlayedAgent agent;
+    cocoa::test::PlayedAgent agent;
     std::cout << "ready" << std::endl;
     for (;;) {
-        (void)zarvil::cocoa::test::runUntil(
-            [&agent] { return !agent.heard.empty() || inputWaits(); });
+        (void)cocoa::test::runUntil([&agent] { return !agent.heard.empty() || inputWaits(); });
         for (const Message& message : std::exchange(agent.heard, {}))
-            std::cout << zarvil::described(message) << std::endl;
+            std::cout << described(message) << std::endl;
         std::string line;
         if (!inputWaits())
             continue;

@@ -169,7 +169,7 @@ TEST_F(GuidanceTest, theLockSaysUnaskedThatItsAuthorityIsMissing) {
     load();
     authorization.questions.at(0).reply({false, "polkit is not there.", "polkit"});
     EXPECT_EQ(said.lockLine.stringValue(),
-              "Administrator rights: polkit does not answer · not needed for any setting here");
+              "Administrator rights: polkit missing · not needed for any setting here");
     pane.authView.performClick();
     authorization.questions.at(1).reply({false, "You may not.", {}});
     EXPECT_EQ(said.lockLine.stringValue(), "Administrator rights: locked · You may not.");
