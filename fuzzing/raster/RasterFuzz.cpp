@@ -105,7 +105,7 @@ Drawing drawnControl(Input& input) {
     };
 }
 
-Drawing anyCall(Input& input) {
+Drawing anyCall(Input& input, double widestBlur) {
     switch (input.below(12)) {
     case 0:
         return [](Canvas& canvas) { canvas.saveState(); };
@@ -114,10 +114,8 @@ Drawing anyCall(Input& input) {
     case 2:
         return [path = anyPath(input)](Canvas& canvas) { canvas.clip(path); };
     case 3: {
-        // Small ones: a blur's cost grows with its square, and what one shows a hundred show.
-        constexpr double largest = 4;
         const double any = input.byte() == 1 ? number(input) : input.byte() / 64.0;
-        const double blur = any > largest ? largest : any;
+        const double blur = any > widestBlur ? widestBlur : any;
         const Shadow shadow{anyColor(input), blur, {number(input), number(input)}};
         return [shadow](Canvas& canvas) { canvas.setShadow(shadow); };
     }
@@ -185,13 +183,17 @@ void tryOne(Input& input) {
     const int width = static_cast<int>(input.below(mostPixels));
     const int height = static_cast<int>(input.below(mostPixels));
     static constexpr std::array scales{1.0, 2.0, 1.5, 1.25, 3.0, 0.1};
+    const Orientation orientation = input.flag() ? Orientation::YUp : Orientation::YDown;
+    const double scale = input.byte() == 1 ? number(input) : input.pick(scales);
     const RasterView view{{static_cast<double>(width), static_cast<double>(height)},
-                          input.flag() ? Orientation::YUp : Orientation::YDown,
-                          input.byte() == 1 ? number(input) : input.pick(scales),
+                          orientation,
+                          scale > scales[4] ? scales[4] : scale,
                           {number(input), number(input)}};
+    // A blur's cost grows with its square, and what a narrow one shows a wide one shows.
+    constexpr double widest = 8; // pixels
     std::vector<Drawing> calls;
     while (!input.empty() && calls.size() < mostCalls)
-        calls.push_back(anyCall(input));
+        calls.push_back(anyCall(input, widest / view.scale));
     Bitmap once(width, height);
     RasterMemory fresh;
     draw(once, fresh, view, calls);

@@ -159,9 +159,9 @@ private:
             world_.pane.scriptsTitle.userDidEdit(title);
             world_.pane.createNewScript.performClick();
         });
-        // A file of that name that is not listed is emptied; all others stay.
-        const fs::path path = world_.disk.expandingTilde("~/Library/Zarvil Scripts/") + title;
-        checkKept(before, {path.string() + ".zvscript"}, {});
+        // A file of that name that is not listed, or under another title, is emptied; all others
+        // stay.
+        checkKept(before, {script::filePath(world_.disk, title)}, {});
     }
 
     void edit(std::uint8_t fault) {

@@ -70,6 +70,11 @@ TEST(Shadow, andClipsAreFoundAgainOnlyWhereTheyLookTheSame) {
         canvas.setShadow(blackShadow);
         canvas.fill(Oval{{x, 9, 22, 22}}, Color::gray(1, angle / 20));
         canvas.stroke(Line{{x, 5}, {x + angle, 30}}, color::white, 1);
+        // As large as each other, and with different shadows.
+        if (angle > 10)
+            canvas.fill(Rect{x, 9, 22, 22}, color::white);
+        else
+            canvas.stroke(Rect{x + 0.5, 9.5, 21, 21}, color::white, 1);
         return std::vector<Pixel>(bitmap.row(0), bitmap.row(0) + 120 * 80);
     };
     const RasterView twice{{60, 40}, Orientation::YDown, 2, {}};
@@ -81,6 +86,34 @@ TEST(Shadow, andClipsAreFoundAgainOnlyWhereTheyLookTheSame) {
                 RasterMemory fresh;
                 EXPECT_EQ(knobAt(memory, x, angle, view), knobAt(fresh, x, angle, view)) << x;
             }
+}
+
+TEST(Shadow, ofATranslucentGradientIsAsTranslucent) {
+    const Drawn image({40, 20}, 1, Orientation::YDown, [](Canvas& canvas) {
+        canvas.setShadow({Color::gray(0), 0, {20, 0}});
+        canvas.fill(Rect{0, 0, 20, 20}, Gradient{{{0, color::clear}, {1, color::white}}}, 0);
+    });
+    EXPECT_NEAR(image.alpha(25, 10), 5.5 / 20, 1.0 / 255);
+}
+
+TEST(Shadow, ofAClipInALayerIsNotTakenForOneWithinAnother) {
+    BlockText text;
+    const auto draw = [&text](RasterMemory& memory, bool inLayer) {
+        Bitmap bitmap(40, 40);
+        RasterCanvas canvas(bitmap, memory, text, {{40, 40}, Orientation::YDown, 1, {}});
+        canvas.clip(Oval{{0, 0, 40, 40}});
+        if (inLayer)
+            canvas.beginTransparencyLayer();
+        canvas.clip(RoundedRect{{0, 0, 20, 20}, {4, 4}});
+        canvas.fill(Rect{0, 0, 40, 40}, color::white);
+        if (inLayer)
+            canvas.endTransparencyLayer();
+        return std::vector<Pixel>(bitmap.row(0), bitmap.row(0) + 40 * 40);
+    };
+    RasterMemory used;
+    draw(used, true);
+    RasterMemory fresh;
+    EXPECT_EQ(draw(used, false), draw(fresh, false));
 }
 
 TEST(Shadow, thatWasDrawnLongestAgoIsForgottenFirst) {
@@ -97,6 +130,18 @@ TEST(Shadow, thatWasDrawnLongestAgoIsForgottenFirst) {
 }
 
 TEST(Shadow, ofALayerIsTheShadowOfItsPicture) {
+    for (const std::size_t depth : {RasterCanvas::maxLayers, RasterCanvas::maxLayers + 1}) {
+        const Drawn image({40, 20}, 1, Orientation::YDown, [depth](Canvas& canvas) {
+            for (std::size_t layer = 1; layer < depth; ++layer)
+                canvas.beginTransparencyLayer();
+            canvas.setShadow({Color::gray(0), 0, {20, 0}});
+            canvas.beginTransparencyLayer();
+            canvas.fill(Rect{5, 5, 10, 10}, color::white);
+            for (std::size_t layer = 0; layer < depth; ++layer)
+                canvas.endTransparencyLayer();
+        });
+        EXPECT_EQ(image.alpha(30, 10), depth == RasterCanvas::maxLayers ? 1 : 0) << depth;
+    }
     const Drawn image({60, 40}, 1, Orientation::YDown, [](Canvas& canvas) {
         canvas.setShadow({Color::gray(0), 0, {20, 0}});
         canvas.beginTransparencyLayer();

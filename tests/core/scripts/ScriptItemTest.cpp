@@ -234,6 +234,13 @@ TEST_F(ScriptItem, anEmptyScriptIsRefusedInTheUsersLanguage) {
     EXPECT_THAT(scriptRunner.ran, IsEmpty());
 }
 
+TEST_F(ScriptItem, aScriptThatIsTooLargeIsToldOfWithItsSize) {
+    put("a.zvscript", std::string(1U << 20U, 'x'));
+    pane.unloadScripts();
+    pane.loadScripts();
+    EXPECT_THAT(item(0)->tooLargeText(), testing::HasSubstr("(1.0 MiB)"));
+}
+
 TEST_F(ScriptItem, removingDeletesTheFileAndLeavesTheOthersTheirItems) {
     const auto second = item(1);
     item(0)->userDidPressRemove();
