@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFontDatabase>
 #include <QStandardPaths>
 #include <QTimer>
 #include <fontconfig/fontconfig.h>
@@ -249,14 +250,15 @@ private:
     std::optional<QByteArray> address_;
 };
 
-/// Reads the fonts' configuration, a fifth of the work of a start, while the display is connected.
-/// Lasts until it is read.
-class FontsReadAhead : NonCopyable {
+/// Does what a start needs beside what the main thread does, and lasts until it is done.
+class Beside : NonCopyable {
 public:
-    ~FontsReadAhead() { reading_.join(); }
+    template <typename Work>
+    explicit Beside(Work work) : thread_(work) {}
+    ~Beside() { thread_.join(); }
 
 private:
-    std::thread reading_{[] { FcInit(); }};
+    std::thread thread_;
 };
 
 /// For the last value before the program's end.
@@ -270,12 +272,15 @@ int endDespiteHangs(int code) {
 
 int runOnDisplay(const CommandLine& commandLine, char** argv) {
     auto hidden = std::make_optional<HungBusHidden>();
-    auto fonts = std::make_optional<FontsReadAhead>();
+    // Fonts are a third of the work of a start: their configuration is read while the display is
+    // connected, and Qt lists them while the pane is loaded.
+    auto configuring = std::make_optional<Beside>([] { FcInit(); });
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
     const qt::Translation translation(qt::Translation::Toolkit::Adopted);
-    fonts.reset();
+    configuring.reset();
+    const Beside listing([] { QFontDatabase::families(); });
     hidden.reset(); // changes the environment, which the other thread has read
     QApplication::setApplicationVersion(ZARVIL_VERSION);
     QApplication::setApplicationName("zarvil-preferences");
