@@ -14,7 +14,7 @@ from desktop import AGENT_NAME, BUILD, HOST_NAME, PATH, Pane, Session, wait_unti
 from gi.repository import Gio, GLib  # noqa: E402
 
 desktop.Atspi.set_timeout(20_000, 20_000)
-TOP = pathlib.Path(__file__).resolve().parents[3]
+TOP = pathlib.Path(__file__).resolve().parent.parent
 BOXES = {"Launch Zarvil at login": "LaunchAtLogin", "Quit applications by force": "UseForce",
          "Notify me when the power fails": "ShowFailNotifi",
          "Tell me when a device is connected": "NewDeviceMessage"}

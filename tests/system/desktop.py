@@ -304,9 +304,13 @@ class Pane:
 
     def choose_tab(self, name):
         """Presses a tab and waits until its page shows."""
-        tabs = [tab for tab in descendants(self.session.application(self.pid))
-                if tab.get_role_name() == "page tab"]
-        index = [clear(tab.get_name()) for tab in tabs].index(name)
+        def find():
+            tabs = [tab for tab in descendants(self.session.application(self.pid))
+                    if tab.get_role_name() == "page tab"]
+            names = [clear(tab.get_name()) for tab in tabs]
+            return (tabs, names.index(name)) if name in names else None
+
+        tabs, index = wait_until(find, f"there is the tab {name}")
         tabs[index].get_action_iface().do_action(0)
         wait_until(lambda: self.page_shows(index), f"the page {name} shows")
 
