@@ -7,13 +7,12 @@
 #include "qt/binding/OutletBinder.h"
 #include "qt/pane/PaneView.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QEvent>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <chrono>
@@ -22,8 +21,9 @@
 #include <vector>
 
 /// What the pane adds to a message's way over the bus, out and in. The raw hop beside it takes the
-/// same message from connection to connection with nothing but Qt. To be run on a display and a
-/// session bus of its own.
+/// same message from connection to connection and paints the same box of the same layout, with
+/// nothing but Qt: no controller, models or bindings. To be run on a display and a session bus of
+/// its own.
 namespace {
 
 using namespace zarvil;
@@ -71,13 +71,14 @@ public:
         settle(bus);
     }
     int heard = 0;
-    QCheckBox* shows = nullptr;
+    QAbstractButton* shows = nullptr;
 
 private Q_SLOTS:
     void hear(const QDBusMessage& message) {
         ++heard;
         if (shows)
-            shows->setChecked(qdbus_cast<QVariantMap>(message.arguments().at(0)).first().toBool());
+            shows->setChecked(
+                qdbus_cast<QVariantMap>(message.arguments().at(0)).value("UseForce").toBool());
     }
 };
 
@@ -143,7 +144,21 @@ void compare(const char* what, Raw raw, Own own) {
                 percentile(ownTimes, 0.99), 100 * (percentile(ownTimes, 0.5) - median) / median);
 }
 
-void settingToSignal(PaneOnBus& pane, QDBusConnection raw, const QDBusConnection& listening) {
+/// The layout as it is for the pane, with nothing behind it.
+struct BareLayout {
+    BareLayout() {
+        view.findChild<QTabWidget*>("tabView")->setCurrentIndex(1);
+        view.move(view.width() + 50, 0);
+        view.show();
+    }
+    QAbstractButton& box(const char* name) { return *view.findChild<QAbstractButton*>(name); }
+
+    qt::PaneView view;
+};
+
+void settingToSignal(PaneOnBus& pane, BareLayout& bare, QDBusConnection raw,
+                     const QDBusConnection& listening) {
+    QAbstractButton& box = bare.box("launchAtLogin");
     Receiver receiver(listening, message::prefsChanged);
     const auto await = [&receiver](int before) {
         turnUntil([&receiver, before] { return receiver.heard > before; });
@@ -152,6 +167,7 @@ void settingToSignal(PaneOnBus& pane, QDBusConnection raw, const QDBusConnection
         "setting changed -> signal",
         [&](int round) {
             const int before = receiver.heard;
+            box.setChecked(round % 2 == 0);
             raw.send(signal(message::prefsChanged,
                             {{"prefKey", "LaunchAtLogin"}, {"prefObj", round % 2 == 0}}));
             await(before);
@@ -163,18 +179,15 @@ void settingToSignal(PaneOnBus& pane, QDBusConnection raw, const QDBusConnection
         });
 }
 
-void messageToPaint(PaneOnBus& pane, QDBusConnection agent, const QDBusConnection& listening) {
-    QWidget window;
-    auto* box = new QCheckBox("Launch at login", &window);
-    (new QVBoxLayout(&window))->addWidget(box);
-    window.move(pane.view.width() + 50, 0);
-    window.show();
+void messageToPaint(PaneOnBus& pane, BareLayout& bare, QDBusConnection agent,
+                    const QDBusConnection& listening) {
+    QAbstractButton& box = bare.box("forceQuit");
     // A name that the pane does not listen for.
     constexpr std::string_view another = "Raw";
     Receiver receiver(listening, another);
-    receiver.shows = box;
-    PaintWatch rawPaint(*box);
-    PaintWatch ownPaint(*pane.view.findChild<QCheckBox*>("forceQuit"));
+    receiver.shows = &box;
+    PaintWatch rawPaint(box);
+    PaintWatch ownPaint(*pane.view.findChild<QAbstractButton*>("forceQuit"));
     const auto await = [](PaintWatch& watch) {
         watch.painted = false;
         turnUntil([&watch] { return watch.painted; });
@@ -182,7 +195,7 @@ void messageToPaint(PaneOnBus& pane, QDBusConnection agent, const QDBusConnectio
     compare(
         "agent message -> painted control",
         [&](int round) {
-            agent.send(signal(another, {{"LaunchAtLogin", round % 2 == 0}}));
+            agent.send(signal(another, {{"UseForce", round % 2 == 0}}));
             await(rawPaint);
         },
         [&](int round) {
@@ -206,8 +219,9 @@ int main(int argc, char* argv[]) {
     turnUntil(
         [&pane] { return pane.real.launchAtLogin.isOn() && pane.real.launchAtLogin.isEnabled(); });
     std::printf("Medians of %d each, by turns, on one bus:\n", rounds);
-    settingToSignal(pane, connection("raw"), connection("listening"));
-    messageToPaint(pane, agent, connection("listening"));
+    BareLayout bare;
+    settingToSignal(pane, bare, connection("raw"), connection("listening"));
+    messageToPaint(pane, bare, agent, connection("listening"));
     return EXIT_SUCCESS;
 }
 

@@ -112,9 +112,7 @@ void BusConnection::start() {
                 attempt->connection = std::move(connection);
                 attempt->ended.notify_all();
                 if (attempt->owner)
-                    QMetaObject::invokeMethod(
-                        attempt->owner, [owner = attempt->owner] { owner->finish(); },
-                        Qt::QueuedConnection);
+                    QMetaObject::invokeMethod(attempt->owner, "finish", Qt::QueuedConnection);
             });
     }
     attempt_->isLate = false;

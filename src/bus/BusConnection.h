@@ -68,12 +68,12 @@ public:
 
 private Q_SLOTS:
     void lost();
+    void finish();
 
 private:
     struct Attempt;
 
     void start();
-    void finish();
     void expire();
     void becomeUnavailable(const QString& error);
     void scheduleRetry();

@@ -168,8 +168,7 @@ class Preferences(unittest.TestCase):
     def press(self, name):
         control = wait_until(lambda: self.shown(name), f"there is {name}")
         if "place" not in control:
-            window, *place = self.shown(str(control["page"]))["place"]
-            self.click(place, window)
+            self.show_page(control["page"])
 
         def ready():
             control = self.shown(name)
@@ -181,11 +180,32 @@ class Preferences(unittest.TestCase):
         wait_until(lambda: self.host.poll() is not None or not self.reported()["pressed"],
                    f"{name} is released")
 
+    def show_page(self, page):
+        window, *place = self.shown(str(page))["place"]
+        output("xdotool", "mousemove", "--window", window, *place, "mousedown", 1)
+        wait_until(lambda: any(control.get("page") == page and "place" in control
+                               for control in self.reported()["controls"].values()), "the page")
+        output("xdotool", "mouseup", 1)
+
     def enter(self, name, text):
         self.press(name)
         wait_until(lambda: self.reported()["focus"] == name, f"{name} has the keyboard")
         output("xdotool", "key", "Home", "shift+End", "type", text)
         output("xdotool", "key", "Return")
+
+    def walk(self, key):
+        """The controls that a key leads to, all around from the host's own."""
+        walked = []
+        focus = self.reported()["focus"]
+        while True:
+            output("xdotool", "key", key)
+            former = focus
+            focus = wait_until(lambda: (self.reported()["focus"] or former) != former and
+                               self.reported()["focus"], f"{key} leads on from {former}")
+            if focus in walked:
+                start = walked.index("showAllButtAction:")
+                return walked[start:] + walked[:start]
+            walked.append(focus)
 
     def settled(self):
         picture = None
@@ -237,6 +257,35 @@ class Preferences(unittest.TestCase):
                 facts = ({"enabled": 0} if shown == "disabled" else
                          {"text": shown} if shown else {"state": 1})
                 self.wait_for(outlet, **facts)
+
+    def test_keys_lead_to_every_control_in_the_order_of_the_page(self):
+        self.open_pane()
+        for page in range(5):
+            if page > 0:
+                self.show_page(page)
+            walked = self.walk("Tab")
+            controls = self.reported()["controls"]
+            self.assertEqual(set(walked) - {"tabView"}, {
+                name for name, control in controls.items()
+                if control.get("keys") and "place" in control})
+            places = [controls[name]["place"][1:] for name in walked if name != "tabView"]
+            for (x, y), (next_x, next_y) in zip(places, places[1:]):
+                self.assertTrue(next_y > y + 12 or (abs(next_y - y) <= 12 and next_x > x),
+                                f"{walked} of {places}")
+            if page == 3:
+                self.assertEqual(self.walk("shift+Tab"), walked[:1] + walked[:0:-1])
+
+        # The walk has ended where it began, at one of the page's.
+        output("xdotool", "key", *["Tab"] * (len(walked) - walked.index(self.reported()["focus"]) +
+                                             walked.index("tabView")), "Left")
+        wait_until(lambda: "place" in self.shown("useScriptsButton"), "the page before is shown")
+
+        self.press("uninstallButton")
+        self.window_named("^Uninstall Zarvil")
+        output("xdotool", "key", "Escape")
+        wait_until(lambda: not self.windows_named("^Uninstall Zarvil"), "the panel goes")
+        output("xdotool", "key", "F1")
+        self.window_named("^Help")
 
     def test_an_agent_that_freezes_ends_and_comes_back_and_one_that_closes_the_host(self):
         self.open_pane()

@@ -1,10 +1,6 @@
 #include "FailingCalls.h"
 
-#include <array>
-#include <atomic>
-#include <cerrno>
 #include <cstdarg>
-#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
@@ -16,22 +12,6 @@ namespace zarvil::failing {
 
 namespace {
 
-using Errors = std::array<int, errorsOfACall>;
-
-std::atomic<int> callsLeft{0}; ///< the last of them fails
-std::atomic<int> chosen{0};
-std::atomic<pid_t> process{0}; ///< its children are spared
-std::atomic<const char*> failed{nullptr};
-std::atomic<int> failure{0};
-
-bool fails(const char* call, const Errors& errors) {
-    if (callsLeft == 0 || process != ::getpid() || --callsLeft != 0)
-        return false;
-    failed = call;
-    errno = failure = errors.at(static_cast<std::size_t>(chosen.load()));
-    return true;
-}
-
 constexpr Errors opening{EMFILE, EACCES, ENOSPC, EINTR};
 constexpr Errors writing{ENOSPC, EIO, EDQUOT, EINTR};
 constexpr Errors reading{EIO, EINTR, EIO, EINTR};
@@ -41,19 +21,6 @@ constexpr Errors starting{EAGAIN, ENOMEM, EMFILE, ENFILE};
 constexpr Errors waiting{EINTR, EINTR, EINTR, EINTR};
 
 } // namespace
-
-void arm(int call, int error) {
-    failed = nullptr;
-    chosen = error;
-    process = ::getpid();
-    callsLeft = call;
-}
-
-std::string disarm() {
-    callsLeft = 0;
-    const char* call = failed;
-    return call ? std::string(call) + ": " + std::strerror(failure) : std::string();
-}
 
 } // namespace zarvil::failing
 

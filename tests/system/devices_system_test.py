@@ -111,7 +111,7 @@ class Alerts(SystemTest):
         ids = (f"user{code}", f"device{code}")
         wait_until(lambda: self.stored_ids() == ids, "the IDs are stored")
         # Late enough for the state of a check under way to be seen.
-        self.tell("late 1500")
+        self.tell("late 4000")
         self.pane.press(self.TEST, "push button")
         wait_until(lambda: not self.pane.enabled(self.USER) and not self.pane.enabled(self.TEST),
                    "the check is under way")

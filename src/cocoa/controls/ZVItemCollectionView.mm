@@ -1,5 +1,6 @@
 #import "cocoa/controls/ZVItemCollectionView.h"
 
+#import "cocoa/binding/Layout.h"
 #import "cocoa/support/Call.h"
 #import "cocoa/support/Ref.h"
 
@@ -25,6 +26,7 @@ struct ShownRows {
 
     static void retire(const Ref<ZVRowItem>& item) {
         [item.get() showRow:nullptr];
+        leaveKeyViews([item.get() view]);
         [[item.get() view] removeFromSuperview];
     }
 
@@ -107,6 +109,7 @@ struct ShownRows {
         return std::min(count, static_cast<std::size_t>(std::max<CGFloat>(0, y) / height));
     };
     [self showRowsFrom:rowAt(NSMinY(sight)) to:std::min(count, rowAt(NSMaxY(sight)) + 1)];
+    zarvil::cocoa::joinKeyViews(self);
 }
 
 - (CGFloat)rowHeight {
@@ -132,6 +135,41 @@ struct ShownRows {
 
 - (BOOL)isFlipped {
     return YES;
+}
+
+// The keyboard is for what the rows hold.
+
+- (BOOL)acceptsFirstResponder {
+    return NO;
+}
+
+/// To the same control of another row.
+- (BOOL)moveKeyboardBy:(int)step {
+    NSControl* from = static_cast<NSControl*>([[self window] firstResponder]);
+    if (![from isKindOfClass:[NSControl class]] || ![from isDescendantOf:self])
+        return NO;
+    const NSRect frame = [self convertRect:[from bounds] fromView:from];
+    const int row = static_cast<int>(NSMidY(frame) / [self rowHeight]) + step;
+    if (row < 0 || static_cast<std::size_t>(row) >= _rows->model.rowCount())
+        return YES;
+    [self scrollRectToVisible:NSMakeRect(0, row * [self rowHeight], 1, [self rowHeight])];
+    NSArray* controls = [[[self itemOfRow:static_cast<std::size_t>(row)] view] subviews];
+    for (NSUInteger index = 0; index < [controls count]; ++index) {
+        NSControl* control = [controls objectAtIndex:index];
+        if ([control isKindOfClass:[NSControl class]] && [control action] == [from action] &&
+            [control acceptsFirstResponder])
+            return [[self window] makeFirstResponder:control];
+    }
+    return YES;
+}
+
+/// What no control of a row has taken. The base would keep the Tab key to itself.
+- (void)keyDown:(NSEvent*)event {
+    const unichar key =
+        [[event characters] length] > 0 ? [[event characters] characterAtIndex:0] : 0;
+    const int step = key == NSDownArrowFunctionKey ? 1 : key == NSUpArrowFunctionKey ? -1 : 0;
+    if (!_rows || step == 0 || ![self moveKeyboardBy:step])
+        [[self nextResponder] keyDown:event];
 }
 
 @end

@@ -9,6 +9,15 @@
 - (void)setProminent:(BOOL)prominent;
 @end
 
+/// Links side by side, each as wide as its words: from the left, or from the right if its layout
+/// keeps it there. In smaller letters where they are too long.
+@interface ZVLinkRowView : NSView {
+    BOOL _arranging;
+}
+/// For its links, when their words change.
+- (void)arrange;
+@end
+
 /// A check box that only shows a state: it takes neither clicks nor keys, but stays legible.
 @interface ZVStateButton : NSButton
 @end

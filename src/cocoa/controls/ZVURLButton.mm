@@ -2,6 +2,7 @@
 
 #import "cocoa/controls/Hyperlink.h"
 #import "cocoa/controls/PointerArea.h"
+#import "cocoa/controls/ZVRowViews.h"
 
 #include "interface/TrackingArea.h"
 
@@ -36,6 +37,12 @@ constexpr unsigned options =
     [self setAttributedTitle:link];
 }
 
+- (void)setAttributedTitle:(NSAttributedString*)title {
+    [super setAttributedTitle:title];
+    if ([[self superview] isKindOfClass:[ZVLinkRowView class]])
+        [static_cast<ZVLinkRowView*>([self superview]) arrange];
+}
+
 // The attributed title has a font of its own.
 - (void)setFont:(NSFont*)font {
     [super setFont:font];
@@ -44,6 +51,14 @@ constexpr unsigned options =
 
 - (void)setupTracking {
     _area = std::make_unique<PointerArea>(self, [self bounds], options, nil);
+}
+
+- (void)setFrame:(NSRect)frame {
+    [super setFrame:frame];
+    if (_area) {
+        _area->remove();
+        [self setupTracking];
+    }
 }
 
 - (void)viewDidMoveToWindow {

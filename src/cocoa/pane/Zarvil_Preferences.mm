@@ -4,10 +4,10 @@
 #import "cocoa/binding/AlertPanel.h"
 #import "cocoa/binding/Assistance.h"
 #import "cocoa/binding/HelpPanel.h"
+#import "cocoa/binding/Layout.h"
 #import "cocoa/binding/Localization.h"
 #import "cocoa/binding/OutletBinder.h"
 #import "cocoa/binding/ScriptPanel.h"
-#import "cocoa/pane/Layout.h"
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Guard.h"
 
@@ -60,6 +60,8 @@ struct LoadedPane {
             [](const std::string& words) { announce(toCocoa(words)); }));
         for (const auto& [outlet, text] : helpOfControls(platform.platform().strings))
             setAssistiveHelp([owner valueForKey:toCocoa(outlet)], toCocoa(text));
+        bindings.push_back(controller.guidance.selectedTabProperty().observe(
+            [owner](Tab, Transition) { joinKeyViews([owner mainView]); }));
         bindings.push_back(showScriptProgress(controller.scriptProgress, [owner mainView]));
     }
 
@@ -120,6 +122,11 @@ ZV_OUTLETS(ZV_ACCESSORS)
         _loaded->controller.willSelect();
 }
 
+- (void)didSelect {
+    if (_loaded)
+        zarvil::cocoa::joinKeyViews([self mainView]);
+}
+
 - (NSPreferencePaneUnselectReply)shouldUnselect {
     return _loaded
                ? static_cast<NSPreferencePaneUnselectReply>(_loaded->controller.shouldUnselect())
@@ -127,6 +134,7 @@ ZV_OUTLETS(ZV_ACCESSORS)
 }
 
 - (void)willUnselect {
+    zarvil::cocoa::leaveKeyViews([[[self mainView] window] contentView]);
     if (_loaded)
         _loaded->controller.willUnselect();
 }

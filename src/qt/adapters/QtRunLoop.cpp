@@ -56,4 +56,23 @@ void QtModalLoop::stopModal() {
         running_.back()->quit();
 }
 
+void QtMainThread::call(std::function<void()> function) {
+    {
+        const std::lock_guard lock(mutex_);
+        waiting_.push_back(std::move(function));
+    }
+    // The event carries nothing: the thread sanitizer does not see the lock of Qt's queue.
+    QMetaObject::invokeMethod(this, "work", Qt::QueuedConnection);
+}
+
+void QtMainThread::work() {
+    std::vector<std::function<void()>> calls;
+    {
+        const std::lock_guard lock(mutex_);
+        calls.swap(waiting_);
+    }
+    for (const auto& call : calls)
+        call();
+}
+
 } // namespace zarvil

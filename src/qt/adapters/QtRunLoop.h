@@ -3,6 +3,10 @@
 #include "platform/ModalLoop.h"
 #include "platform/Time.h"
 
+#include <QObject>
+
+#include <functional>
+#include <mutex>
 #include <vector>
 
 class QEventLoop;
@@ -26,6 +30,22 @@ public:
 
 private:
     std::vector<QEventLoop*> running_; // innermost last
+};
+
+/// Hands calls over to the main thread, on which it lives, in their order.
+class QtMainThread final : public QObject {
+    Q_OBJECT
+
+public:
+    /// From any thread. The event loop makes the call, unless this goes before.
+    void call(std::function<void()> function);
+
+private Q_SLOTS:
+    void work();
+
+private:
+    std::mutex mutex_;
+    std::vector<std::function<void()>> waiting_;
 };
 
 } // namespace zarvil

@@ -35,8 +35,8 @@ void AlertBox::close() {
     auto* box = std::exchange(box_, nullptr);
     if (!box)
         return;
-    // Later, for its own signal may have led here.
-    box->disconnect();
+    // Later, for its own signal may have led here. It still tells Qt's accessibility of its end.
+    box->blockSignals(true);
     box->hide();
     box->deleteLater();
 }

@@ -1,5 +1,6 @@
 #include "qt/pane/PaneView.h"
 
+#include "qt/widgets/MessagePanelWidget.h"
 #include "qt/widgets/Theme.h"
 #include "ui_AboutTab.h"
 #include "ui_AlertsTab.h"
@@ -27,8 +28,6 @@ constexpr int firstWidth = 38;
 constexpr int firstHeight = 36;
 /// In a lower window what is above and below the tabs makes room.
 constexpr int lowHeight = 24;
-/// Of the drawn panel, in pixels.
-constexpr double cornerRadius = 6;
 
 /// Nothing moves when the widget comes and goes.
 void keepRoomWhileHidden(QWidget& widget) {
@@ -87,8 +86,8 @@ private:
         shape.clear();
         QPainter painter(&shape);
         painter.setBrush(Qt::color1);
-        painter.drawRoundedRect(QRect(QPoint(), size).adjusted(0, 0, -1, -1), cornerRadius,
-                                cornerRadius);
+        constexpr double radius = MessagePanelWidget::cornerRadius;
+        painter.drawRoundedRect(QRect(QPoint(), size).adjusted(0, 0, -1, -1), radius, radius);
         painter.end();
         setMask(shape);
         QRect place(QPoint(), size);

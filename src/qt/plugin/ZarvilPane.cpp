@@ -8,6 +8,7 @@
 #include "posix/PosixScriptRunner.h"
 #include "protocol/BusNames.h"
 #include "qt/adapters/QtPlatform.h"
+#include "qt/adapters/QtRunLoop.h"
 #include "qt/binding/AlertBox.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
@@ -17,7 +18,6 @@
 #include "qt/translation/Translation.h"
 #include "qt/widgets/SymbolWidget.h"
 
-#include <QCoreApplication>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -54,11 +54,9 @@ QtPlatform::Parts partsOfThePlatform(MessageBus& session, const StringTable& str
     auto processes = std::make_unique<FlushingProcessControl>(*messages);
     return {std::move(messages), std::make_unique<posix::PosixClock>(),
             std::make_unique<posix::PosixFileManager>(strings),
-            std::make_unique<posix::PosixScriptRunner>(strings,
-                                                       [](const std::function<void()>& call) {
-                                                           QMetaObject::invokeMethod(
-                                                               qApp, call, Qt::QueuedConnection);
-                                                       }),
+            std::make_unique<posix::PosixScriptRunner>(
+                strings, [mainThread = std::make_shared<QtMainThread>()](
+                             std::function<void()> call) { mainThread->call(std::move(call)); }),
             std::move(processes)};
 }
 

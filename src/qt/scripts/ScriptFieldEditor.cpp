@@ -80,7 +80,9 @@ ScriptFieldEditor::ScriptFieldEditor(const ZVScriptCollectionItem& item,
 
 ScriptFieldEditor::~ScriptFieldEditor() {
     changes_.cancel();
-    widget_->disconnect();
+    // Blocked, not disconnected: Qt's accessibility must hear of its end, which is told all the
+    // same, or the next widget at this address would be taken for the dead one.
+    widget_->blockSignals(true);
     widget_->hide();
     widget_->deleteLater();
 }

@@ -150,8 +150,7 @@ void ScriptListView::updateScrollBar() {
     // Heights are measured when cards come into sight: the end stays the end.
     const bool atEnd = bar.value() > 0 && bar.value() == bar.maximum();
     const int height = rowCount() == 0 ? 0 : topOf(rowCount()) - spacing;
-    // Its cards have the keyboard in a list that has any.
-    setFocusPolicy(rowCount() == 0 ? Qt::StrongFocus : Qt::NoFocus);
+    adaptFocusPolicy();
     bar.setSingleStep(ScriptCard::typicalHeight(*this) / 4);
     bar.setPageStep(viewport()->height());
     bar.setRange(0, std::max(0, height - viewport()->height()));
@@ -243,6 +242,8 @@ void ScriptListView::placeCards() {
 }
 
 void ScriptListView::updateTabOrder() {
+    // Nothing can be put behind a widget that takes no focus.
+    setFocusPolicy(Qt::StrongFocus);
     QWidget* previous = this;
     for (const auto& [row, card] : cards_) {
         for (QWidget* next : card->focusChain()) {
@@ -250,6 +251,12 @@ void ScriptListView::updateTabOrder() {
             previous = next;
         }
     }
+    adaptFocusPolicy();
+}
+
+/// Its cards have the keyboard in a list that has any.
+void ScriptListView::adaptFocusPolicy() {
+    setFocusPolicy(rowCount() == 0 ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 ScriptCard* ScriptListView::takeSpare() {

@@ -51,6 +51,7 @@ private:
     void bindCards();
     void placeCards();
     void updateTabOrder();
+    void adaptFocusPolicy();
     bool bindCard(int row);
     [[nodiscard]] int heightOf(int row) const;
     /// In the content's coordinates, from the heights that are known so far.

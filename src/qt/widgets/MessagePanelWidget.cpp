@@ -30,7 +30,7 @@ void MessagePanelWidget::paintEvent(QPaintEvent* /*event*/) {
     if (highContrast_) {
         painter.setPen(palette().color(QPalette::WindowText));
         painter.setBrush(palette().window());
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRoundedRect(rect().adjusted(0, 0, -1, -1), cornerRadius, cornerRadius);
         return;
     }
     raster_.paintKept(painter, size(), Orientation::YUp,

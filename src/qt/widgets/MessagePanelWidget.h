@@ -15,6 +15,9 @@ class MessagePanelWidget : public QWidget {
     Q_OBJECT
 
 public:
+    /// Of the panel's corners, in pixels.
+    static constexpr double cornerRadius = 6;
+
     explicit MessagePanelWidget(QWidget* parent = nullptr);
 
     [[nodiscard]] ZVMessageView& view() { return view_; }

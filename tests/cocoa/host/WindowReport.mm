@@ -65,6 +65,8 @@ NSArray* placeOf(NSView* view, NSRect part) {
         [facts setObject:placeOf(view, seen) forKey:@"place"];
     if ([view isKindOfClass:[NSControl class]]) {
         [facts setObject:number([(NSControl*)view isEnabled]) forKey:@"enabled"];
+        const bool isEdited = [(NSControl*)view currentEditor];
+        [facts setObject:number(isEdited || [view acceptsFirstResponder]) forKey:@"keys"];
         [facts setObject:[NSString stringWithFormat:@"%@", [(NSControl*)view stringValue]]
                   forKey:@"text"];
     }

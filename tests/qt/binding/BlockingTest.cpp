@@ -6,6 +6,7 @@
 #include "qt/binding/ScriptWindow.h"
 #include "qt/pane/PaneView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -69,8 +70,11 @@ TEST_F(Blocking, oneAlertIsOpenAtATimeWhileTheAgentsMessagesGoOn) {
     EXPECT_EQ(second->text(), "<b>another</b>");
     EXPECT_EQ(second->textFormat(), Qt::PlainText);
     EXPECT_EQ(second->windowModality(), Qt::WindowModal);
+    const auto id = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(second));
     QTest::keyClick(second, Qt::Key_Return);
     EXPECT_TRUE(dialogs().empty());
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr) << "the next has its address";
 
     alerts.presentError({"d", 2, "open while the pane goes"});
     alertBox.reset();

@@ -131,6 +131,9 @@ TEST_F(Layout, startsAtTheLaunchButtonOfAnAbsentAgentUnlessTheUserHasMoved) {
 }
 
 TEST_F(Layout, tabWalksEachPageAsItIsRead) {
+    files.folders = {"/home/user/Library/Zarvil Scripts"};
+    files.files["/home/user/Library/Zarvil Scripts/One.zvscript"] = "echo";
+    files.files["/home/user/Library/Zarvil Scripts/Two.zvscript"] = "echo";
     loadWithAgent({{"UsePushover", true},
                    {"UseScripts", true},
                    {"UseEmailNotifi", true},

@@ -2,6 +2,7 @@
 #include "../core/scripts/ScriptsHarness.h"
 #include "qt/scripts/ScriptCard.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -104,6 +105,19 @@ TEST_F(ScriptListViewTest, theEditFieldsStandAtTheirFramesInTheirFonts) {
     EXPECT_TRUE(textField(card("a")).hasFocus());
     click(card("a"), "Done");
     EXPECT_TRUE(button(card("a"), "Edit").hasFocus());
+}
+
+TEST_F(ScriptListViewTest, aFieldThatIsGoneLeavesNothingForAnAssistiveProgram) {
+    put("a.zvscript", "echo a");
+    show();
+    click(card("a"), "Edit");
+    const auto idOf = [](QWidget& field) {
+        return QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&field));
+    };
+    const QAccessible::Id fields[] = {idOf(titleField(card("a"))), idOf(textField(card("a")))};
+    click(card("a"), "Done");
+    for (const QAccessible::Id field : fields)
+        EXPECT_EQ(QAccessible::accessibleInterface(field), nullptr) << "the next has its address";
 }
 
 TEST_F(ScriptListViewTest, aDraftThatWasNotSavedComesBackAndSaysSoUntilItIs) {

@@ -150,6 +150,7 @@ TEST_F(ControlWidgets, aPanelAndItsButtonsAreReadableInHighContrast) {
     const QImage image = panel.grab().toImage();
     EXPECT_EQ(image.pixelColor(20, 80), QColor(Qt::white));
     EXPECT_EQ(image.pixelColor(0, 80), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::white)) << "as round as the window around it";
     EXPECT_GT(image.pixelColor(110, 105).lightness(), 200);
     QApplication::setPalette(before);
     EXPECT_TRUE(textIs(Qt::white));
