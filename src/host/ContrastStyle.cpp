@@ -11,12 +11,16 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     if (element != PE_PanelButtonCommand && element != PE_IndicatorCheckBox)
         return;
     constexpr double radius = 2.5;
-    const QColor ink = option->palette.color(QPalette::ButtonText);
+    const bool focused = element == PE_PanelButtonCommand && (option->state & State_HasFocus);
+    const double width = focused ? 2 : 1;
+    const double inset = width / 2;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(ink);
+    painter->setPen(
+        QPen(option->palette.color(focused ? QPalette::Highlight : QPalette::ButtonText), width));
     painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter->drawRoundedRect(QRectF(option->rect).adjusted(inset, inset, -inset, -inset), radius,
+                             radius);
     painter->restore();
 }
 

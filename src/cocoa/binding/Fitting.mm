@@ -10,7 +10,7 @@ namespace {
 constexpr CGFloat smallestSize = 9;
 constexpr CGFloat hostsMargin = 24; // by which a host may be narrower than the layout
 constexpr CGFloat labelInset = 4;
-constexpr CGFloat bezelInset = 14;
+constexpr CGFloat bezelInset = 20;
 constexpr CGFloat boxInset = 22; // of a check box before its title
 
 CGFloat roomIn(NSControl* control) {

@@ -18,6 +18,8 @@ NSDictionary* attributes(double size, TextAlignment alignment) {
     NSMutableParagraphStyle* paragraph =
         [[[NSParagraphStyle defaultParagraphStyle] mutableCopy] autorelease];
     [paragraph setAlignment:toCocoa(alignment)];
+    // In one line, of which a narrow box cuts the end off, not the last letter.
+    [paragraph setLineBreakMode:NSLineBreakByClipping];
     return [NSDictionary dictionaryWithObjectsAndKeys:[NSFont systemFontOfSize:size],
                                                       NSFontAttributeName, [NSColor blackColor],
                                                       NSForegroundColorAttributeName, paragraph,

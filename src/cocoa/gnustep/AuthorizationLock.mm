@@ -13,7 +13,7 @@
 @end
 
 namespace {
-constexpr CGFloat buttonWidth = 90; // points
+constexpr CGFloat buttonWidth = 120; // points
 } // namespace
 
 @implementation SFAuthorizationView

@@ -17,21 +17,23 @@
     return [super resignFirstResponder];
 }
 
+// The base gives the keyboard to the page's first control, which may be a field.
+- (void)selectTabViewItem:(NSTabViewItem*)item {
+    [super selectTabViewItem:item];
+    [[self window] makeFirstResponder:self];
+}
+
 - (void)keyDown:(NSEvent*)event {
     const unichar key =
         [[event characters] length] > 0 ? [[event characters] characterAtIndex:0] : 0;
-    const bool isArrow = key == NSLeftArrowFunctionKey || key == NSRightArrowFunctionKey;
     // What it holds hands its keys on too.
-    if (!isArrow || [[self window] firstResponder] != self) {
-        [super keyDown:event];
-        return;
-    }
-    if (key == NSLeftArrowFunctionKey)
+    const bool own = [[self window] firstResponder] == self;
+    if (own && key == NSLeftArrowFunctionKey)
         [self selectPreviousTabViewItem:self];
-    else
+    else if (own && key == NSRightArrowFunctionKey)
         [self selectNextTabViewItem:self];
-    // The page has taken the keyboard.
-    [[self window] makeFirstResponder:self];
+    else
+        [super keyDown:event];
 }
 
 - (void)drawRect:(NSRect)dirty {

@@ -43,6 +43,8 @@ void AreaCoverage::addSide(Point from, Point to) {
     if (!(top < bottom))
         return;
     const double slope = (to.x - from.x) / (to.y - from.y);
+    if (!std::isfinite(slope)) // too flat to cover anything
+        return;
     const auto xAt = [&](double y) {
         // Not beyond the ends, whatever the slope rounds to.
         return std::clamp(from.x + (y - from.y) * slope, std::min(from.x, to.x),

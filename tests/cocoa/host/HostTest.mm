@@ -2,6 +2,7 @@
 
 #import "NotificationServers.h"
 
+#import "cocoa/support/Call.h"
 #import "cocoa/support/Convert.h"
 #import "cocoa/support/Pool.h"
 
@@ -61,6 +62,10 @@ struct Host : ::testing::Test {
             return !agent.heard.empty() && described(agent.heard.back()) == described(echo);
         }));
         agent.heard.clear();
+        // Rows are laid out by calls that were put off before this one.
+        auto laidOut = std::make_shared<bool>(false);
+        callOnMainThread([=] { *laidOut = true; });
+        ASSERT_TRUE(runUntil([&] { return *laidOut; }));
     }
 
     /// What the pane sends for an act of the user with a control; it comes before what another

@@ -225,6 +225,11 @@ TEST(RasterCanvas, bearsEveryNumber) {
         canvas.fill(Oval{{-9, 1, 5, 5}}, color::white);
     });
     EXPECT_EQ(beside.covered(), 0);
+    // So flat that its sides' slope is no number.
+    const Drawn flat({8, 8}, 1, Orientation::YDown, [](Canvas& canvas) {
+        canvas.fill(Oval{{1, 0, 6, 1e-310}}, color::white);
+    });
+    EXPECT_NEAR(flat.covered(), 0, exact);
     EXPECT_EQ(Bitmap(-5, 9).bounds(), (PixelRect{0, 0, 0, 9}));
     const Bitmap huge(1 << 30, 1 << 30);
     EXPECT_EQ(huge.width(), Bitmap::maxSide);
