@@ -159,7 +159,8 @@ PaneView::PaneView(QWidget* parent)
             launchButton_->setFocus();
     });
     QAccessible::installActivationObserver(this);
-    accessibilityActiveChanged(QAccessible::isActive());
+    if (QAccessible::isActive())
+        makeAllParts();
 }
 
 PaneView::~PaneView() { QAccessible::removeActivationObserver(this); }
