@@ -200,6 +200,8 @@ void RasterCanvas::drawImage(const Image& image, const Rect& rect, double fracti
         return;
     const Bitmap& pixels = own->pixels(view_.scale, text_);
     const PixelRect region = pixelsAround(*extent, state().clip);
+    if (region.isEmpty())
+        return;
     const bool fits =
         isWhole(*extent) && extent->width == pixels.width() && extent->height == pixels.height();
     if (!fits) {

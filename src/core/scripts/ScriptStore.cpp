@@ -71,7 +71,7 @@ void Zarvil_Preferences::keepDrafts() {
     scriptsCollection.forEachMadeItem<ZVScriptCollectionItem>(
         [this](const ZVScriptCollectionItem& item) {
             if (auto draft = item.draft())
-                scriptDrafts_.push_back(*std::move(draft));
+                scriptDrafts_.insert(scriptDrafts_.begin(), *std::move(draft)); // the newest first
         });
 }
 
