@@ -258,6 +258,40 @@ class Preferences(unittest.TestCase):
                          {"text": shown} if shown else {"state": 1})
                 self.wait_for(outlet, **facts)
 
+    def test_every_other_message_of_the_agent_shows(self):
+        def device(name):
+            return {"DeviceName": name, "DeviceVendor": "V", "DeviceSerial": "1"}
+
+        def devices(*names):
+            return {"devices": [device(name) for name in names]}
+
+        self.open_pane()
+        self.send("ZVDeviceDisconnected", {"DeviceName": "Near", "DeviceVendor": "V",
+                                            "DeviceSerial": "1"})
+        for message, info, connected, saved in (
+                ("ZVAllSavedDevices", devices(), 0, 0),
+                ("ZVDeviceConnected", device("A"), 1, 0),
+                ("ZVNewSavedDevice", {"device": device("A")}, 0, 1),
+                ("ZVAllSavedDevices", devices("A", "B"), 0, 2),
+                ("ZVAllConnectedDevices", devices("C", "D", "E"), 3, 2),
+                ("ZVDeviceDisconnected", device("D"), 2, 2)):
+            with self.subTest(message=message):
+                self.send(message, info)
+                self.wait_for("connectedDevices", parts=connected)
+                self.wait_for("selectedDevices", parts=saved)
+        self.send("ZVState2", {"state": False})
+        self.wait_for("offDesc", hidden=0)
+        self.send("ZVState2", {"state": True})
+        self.wait_for("onDesc", hidden=0)
+        self.reset(Testing=True)
+        self.wait_for("testSettingsButton", enabled=0)
+        self.send("ZVTestFinished")
+        self.wait_for("testSettingsButton", enabled=1)
+        for code, verdict in ((1, "Connection timeout! Check your Internet connection!"),
+                              (0, "Settings are valid!")):
+            self.send("ZVPushValidationFinished", {"code": code})
+            self.wait_for("pushValidationStatus", text=verdict, hidden=0)
+
     def test_keys_lead_to_every_control_in_the_order_of_the_page(self):
         self.open_pane()
         for page in range(5):
