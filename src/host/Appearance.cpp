@@ -20,7 +20,8 @@ namespace {
 constexpr const char* service = "org.freedesktop.portal.Desktop";
 constexpr const char* path = "/org/freedesktop/portal/desktop";
 constexpr const char* interface = "org.freedesktop.portal.Settings";
-constexpr const char* group = "org.freedesktop.appearance";
+constexpr const char* everyDesktops = "org.freedesktop.appearance";
+constexpr const char* gnomes = "org.gnome.desktop.interface";
 constexpr const char* readOne = "ReadOne";
 /// The older method, which wraps the value once more.
 constexpr const char* read = "Read";
@@ -47,10 +48,12 @@ Appearance::Appearance(AppearanceChoice choice, QSettings& settings)
       settings_(settings),
       desktopPalette_(QApplication::palette()),
       desktopStyle_(QApplication::style()->name()),
-      scheme_{"color-scheme", "appearance/scheme", 0},
-      contrast_{"contrast", "appearance/contrast", 0} {
-    for (Preference* preference : {&scheme_, &contrast_})
-        preference->value = settings_.value(preference->stored).toUInt();
+      scheme_{everyDesktops, "color-scheme", "appearance/scheme", 0},
+      contrast_{everyDesktops, "contrast", "appearance/contrast", 0},
+      reducedMotion_{everyDesktops, "reduced-motion", "appearance/reduced-motion", 0},
+      animations_{gnomes, "enable-animations", "appearance/animations", 1} {
+    for (Preference* preference : preferences_)
+        preference->value = settings_.value(preference->stored, preference->unanswered).toUInt();
     apply();
 }
 
@@ -72,8 +75,8 @@ void Appearance::follow(MessageBus& session) {
         // is. So the signal is only a hint, and the portal itself is asked for the value.
         bus_->connect(QString(), path, interface, "SettingChanged", this,
                       SLOT(settingChanged(QString, QString)));
-        ask(scheme_, readOne);
-        ask(contrast_, readOne);
+        for (Preference* preference : preferences_)
+            ask(*preference, readOne);
     });
 }
 
@@ -81,7 +84,7 @@ void Appearance::ask(Preference& preference, const char* method) {
     if (!bus_)
         return;
     auto call = QDBusMessage::createMethodCall(service, path, interface, method);
-    call << group << preference.key;
+    call << preference.group << preference.key;
     auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this, watcher, &preference, method] {
@@ -94,15 +97,13 @@ void Appearance::ask(Preference& preference, const char* method) {
                 else if (std::strcmp(method, readOne) == 0)
                     ask(preference, read);
                 else
-                    accept(preference, 0U);
+                    accept(preference, preference.unanswered);
             });
 }
 
-void Appearance::settingChanged(const QString& changedGroup, const QString& key) {
-    if (changedGroup != QLatin1String(group))
-        return;
-    for (Preference* preference : {&scheme_, &contrast_})
-        if (key == QLatin1String(preference->key))
+void Appearance::settingChanged(const QString& group, const QString& key) {
+    for (Preference* preference : preferences_)
+        if (group == QLatin1String(preference->group) && key == QLatin1String(preference->key))
             ask(*preference, readOne);
 }
 
@@ -120,6 +121,9 @@ void Appearance::accept(Preference& preference, const QVariant& value) {
 
 /// The desktop's own palette and style stay where they already look as wanted.
 void Appearance::apply() {
+    // What the pane asks before it lets anything glide.
+    QApplication::setEffectEnabled(Qt::UI_General,
+                                   reducedMotion_.value == 0 && animations_.value != 0);
     const Look wanted = look();
     const bool desktopFits = !wanted.highContrast && wanted.dark == isDark(desktopPalette_);
     const QString style = desktopFits ? desktopStyle_ : QStringLiteral("fusion");

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <array>
 #include <optional>
 
 class QSettings;
@@ -17,7 +18,8 @@ enum class AppearanceChoice { Auto, Light, Dark };
 /// Nothing for a text that names no choice.
 [[nodiscard]] std::optional<AppearanceChoice> appearanceChoice(const QString& text);
 
-/// Keeps the application's palette as the user wants the desktop to look. Asks the settings portal
+/// Keeps the application's palette, and whether it moves anything, as the user wants the desktop to
+/// look. Asks the settings portal
 /// and follows it; until it answers, what it said at the last start holds. Without a portal the
 /// desktop's own palette decides. Needs the application object, and no window yet.
 class Appearance final : public QObject {
@@ -34,9 +36,11 @@ private Q_SLOTS:
 
 private:
     struct Preference {
+        const char* group;
         const char* key;
         const char* stored;
-        uint value;
+        uint unanswered; ///< holds without a portal that knows the key
+        uint value = unanswered;
     };
 
     void ask(Preference& preference, const char* method);
@@ -50,6 +54,10 @@ private:
     QString desktopStyle_;
     Preference scheme_;
     Preference contrast_;
+    Preference reducedMotion_;
+    Preference animations_; ///< GNOME's own key, which is older than the one for all desktops
+    const std::array<Preference*, 4> preferences_{&scheme_, &contrast_, &reducedMotion_,
+                                                  &animations_};
     Subscription session_;
 };
 

@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <tuple>
 
 namespace zarvil::host {
 namespace {
@@ -49,6 +50,27 @@ TEST_F(AppearanceTest, followsThePortalAndRemembersItForTheNextStart) {
         portal.change("color-scheme", 2);
         ASSERT_TRUE(becomes(appearance, {false, false}));
         EXPECT_FALSE(isDark(QApplication::palette()));
+    }
+}
+
+TEST_F(AppearanceTest, nothingMovesWhereTheUserWantsLessMotionByEitherKey) {
+    const auto moves = [] { return QApplication::isEffectEnabled(Qt::UI_General); };
+    for (const auto& [key, still, moving] :
+         {std::tuple("reduced-motion", 1U, 0U), std::tuple("enable-animations", 0U, 1U)}) {
+        settings.clear();
+        PrivateBus bus;
+        fake::Portal portal(bus.connect("portal"));
+        portal.values = {{"reduced-motion", 0U}, {"enable-animations", true}};
+        portal.values[key] = still;
+        BusConnection session(bus.options());
+        Appearance appearance(AppearanceChoice::Auto, settings);
+        EXPECT_TRUE(moves());
+        appearance.follow(session);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !moves(); })) << key;
+        portal.values[key] = moving;
+        portal.announce("org.gnome.desktop.interface", key, moving);
+        portal.announce("org.freedesktop.appearance", key, moving);
+        EXPECT_TRUE(QTest::qWaitFor(moves)) << key;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "qt/binding/Opacity.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
@@ -107,6 +108,7 @@ double shownOpacity(const QWidget& widget) {
 void showOpacity(QWidget& widget, double opacity, Transition transition) {
     delete widget.findChild<QVariantAnimation*>(fadeName, Qt::FindDirectChildrenOnly);
     const bool glides = transition == Transition::Animated && widget.isVisible() &&
+                        QApplication::isEffectEnabled(Qt::UI_General) &&
                         widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
     if (!glides) {
         applyOpacity(widget, opacity);

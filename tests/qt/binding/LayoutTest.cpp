@@ -301,6 +301,11 @@ TEST_F(Layout, anAnimatedChangeGlidesAndAnImmediateOneDoesNot) {
         const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(box.graphicsEffect());
         return effect && effect->isEnabled() ? effect->opacity() : 1.0;
     };
+    QApplication::setEffectEnabled(Qt::UI_General, false);
+    pane.pushBox.setAlphaValue(alpha::dimmed, Transition::Animated);
+    EXPECT_EQ(opacity(), alpha::dimmed);
+    pane.pushBox.setAlphaValue(alpha::active);
+    QApplication::setEffectEnabled(Qt::UI_General);
     pane.pushBox.setAlphaValue(alpha::dimmed, Transition::Animated);
     EXPECT_GT(opacity(), 0.9);
     EXPECT_TRUE(QTest::qWaitFor([&] { return opacity() == alpha::dimmed; }));
