@@ -11,6 +11,9 @@
 
 namespace zarvil::check {
 
+/// A name of the protocol as it is printed.
+[[nodiscard]] QString quoted(std::string_view text);
+
 /// What an agent says of itself when the pane asks.
 struct Answer {
     std::vector<Heard> messages; ///< up to the answer to a ping that was sent behind the question
