@@ -13,11 +13,7 @@ namespace zarvil::failing {
 namespace {
 
 constexpr Errors opening{EMFILE, EACCES, ENOSPC, EINTR};
-constexpr Errors writing{ENOSPC, EIO, EDQUOT, EINTR};
-constexpr Errors reading{EIO, EINTR, EIO, EINTR};
 constexpr Errors looking{EACCES, ENOENT, EIO, ELOOP};
-constexpr Errors changing{EACCES, ENOENT, EROFS, ENOSPC};
-constexpr Errors starting{EAGAIN, ENOMEM, EMFILE, ENFILE};
 constexpr Errors waiting{EINTR, EINTR, EINTR, EINTR};
 
 } // namespace

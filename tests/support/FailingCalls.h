@@ -16,6 +16,11 @@ namespace zarvil::failing {
 inline constexpr int errorsOfACall = 4;
 using Errors = std::array<int, errorsOfACall>;
 
+inline constexpr Errors writing{ENOSPC, EIO, EDQUOT, EINTR};
+inline constexpr Errors reading{EIO, EINTR, EIO, EINTR};
+inline constexpr Errors changing{EACCES, ENOENT, EROFS, ENOSPC};
+inline constexpr Errors starting{EAGAIN, ENOMEM, EMFILE, ENFILE};
+
 inline std::atomic<int> callsLeft{0}; ///< the last of them fails
 inline std::atomic<int> chosen{0};
 inline std::atomic<pid_t> process{0}; ///< its children are spared

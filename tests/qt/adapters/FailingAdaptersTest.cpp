@@ -24,15 +24,11 @@
 namespace zarvil {
 namespace {
 
-using failing::Errors;
+using namespace failing;
 
 constexpr Errors opening{EMFILE, EACCES, ENOSPC, EROFS};
-constexpr Errors writing{ENOSPC, EIO, EDQUOT, EINTR};
-constexpr Errors changing{EACCES, ENOENT, EROFS, ENOSPC};
-constexpr Errors starting{EAGAIN, ENOMEM, EMFILE, ENFILE};
 constexpr Errors connecting{ECONNREFUSED, EAGAIN, EACCES, ENOENT};
 constexpr Errors sending{EPIPE, ECONNRESET, EAGAIN, EINTR};
-constexpr Errors reading{EIO, EINTR, EIO, EINTR};
 constexpr Errors receiving{ECONNRESET, EAGAIN, EINTR, ENOMEM};
 
 std::array<std::atomic<bool>, 1024> spared; ///< files of the other side, by number
