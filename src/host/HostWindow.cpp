@@ -183,7 +183,8 @@ void HostWindow::showPane(std::size_t row) {
     view_ = entry.driver->view();
     content_->addWidget(view_);
     entry.driver->select();
-    view_->show();
+    if (isVisible()) // otherwise it comes up with the window, and is laid out once
+        view_->show();
     setWindowTitle(entry.driver->title());
     if (const QIcon icon = entry.driver->icon(); !icon.isNull())
         setWindowIcon(icon);
