@@ -168,7 +168,6 @@ private:
         const Item item = anyItem();
         if (!item)
             return;
-        open_.clear();
         if (!item->editing())
             item->edit();
         const std::string title = input_.flag() ? anyName() : item->eTitle()->stringValue();
@@ -197,9 +196,8 @@ private:
         const Item item = anyItem();
         if (!item)
             return;
-        open_.clear();
-        const std::string path = pathOf(*item);
         const auto before = disk();
+        const std::string path = pathOf(*item);
         const std::size_t alerts = world_.errors.presented.size();
         withFault(fault, [&] { item->remove(); });
         const auto after = disk();
@@ -215,32 +213,30 @@ private:
             return;
         if (!item->editing())
             item->edit();
-        const std::string text = newText();
-        item->eText()->userDidEdit(text);
-        open_ = text;
-        openTitle_ = *item->data()->stringForKey(script::title);
+        item->eText()->userDidEdit(newText());
     }
 
-    /// The agent is gone for a while: the cards go and come back with what was typed.
+    /// The agent is gone for a while: the cards go and come back with all that was typed.
     void loseAgent(std::uint8_t fault) {
+        std::vector<std::string> typed;
+        for (const Item& item : items())
+            if (const auto draft = item ? item->draft() : std::nullopt)
+                if (!draft->text.empty() && draft->text != *draft->saved.stringForKey(script::text))
+                    typed.push_back(draft->text);
         world_.time.advance(6);
         require(items().empty(), "no cards without an agent");
         withFault(fault, [&] { send(message::pingAnswer, {}); });
-        if (open_.empty() || fault % 4 != 0)
-            return;
-        const auto all = items();
-        const auto titles = std::ranges::count_if(all, [this](const Item& item) {
-            const auto& row = item->representedObject();
-            return *row->stringForKey(script::title) == openTitle_;
-        });
-        const bool isBack = std::ranges::any_of(all, [this](const Item& item) {
-            return item && item->eText() && item->eText()->stringValue() == open_;
-        });
         const auto found = disk();
-        const bool isSaved =
-            std::ranges::any_of(found, [this](const auto& entry) { return entry.second == open_; });
-        require(isBack || isSaved || titles != 1, "what was typed comes back with its card");
-        open_.clear();
+        const auto all = items();
+        for (const std::string& text : typed) {
+            const bool isBack = std::ranges::any_of(all, [&](const Item& item) {
+                const auto draft = item ? item->draft() : std::nullopt;
+                return draft && draft->text == text;
+            });
+            const bool isSaved =
+                std::ranges::any_of(found, [&](const auto& entry) { return entry.second == text; });
+            require(isBack || isSaved, "what was typed comes back on a card");
+        }
     }
 
     void upsetFolder() {
@@ -257,12 +253,23 @@ private:
         return fs::weakly_canonical(path, ignored);
     }
 
+    /// Where the script of a card is; nowhere if it is not saved and another is listed there.
     std::string pathOf(const ZVScriptCollectionItem& item) {
-        // While a save has failed the file bears the former title, which the draft tells.
+        const auto pathOfTitle = [this](const std::string* title) {
+            return title ? script::filePath(world_.disk, *title) : std::string();
+        };
         const auto draft = item.draft();
-        const std::string* title = draft ? draft->saved.stringForKey(script::title)
-                                         : item.data()->stringForKey(script::title);
-        return title ? script::filePath(world_.disk, *title) : std::string();
+        std::string path = pathOfTitle(
+            (draft ? draft->saved : item.data()->contents()).stringForKey(script::title));
+        const bool isUnsaved = !item.noteProperty().get().caption.empty();
+        const auto isAnothers = [&](const Record& listed) {
+            return listed != item.data() &&
+                   pathOfTitle(listed->stringForKey(script::title)) == path;
+        };
+        return isUnsaved && std::ranges::any_of(
+                                world_.pane.scriptsArrayController.arrangedObjects(), isAnothers)
+                   ? std::string()
+                   : path;
     }
 
     /// Every text that was on the disk is there still, but those of the paths that may go.
@@ -285,8 +292,6 @@ private:
     fake::StringTable strings_;
     posix::PosixFileManager files_{strings_, home().string()};
     PaneOnFakes world_{&files_};
-    std::string open_;
-    std::string openTitle_;
     int texts_ = 0;
 };
 

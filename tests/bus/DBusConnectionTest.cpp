@@ -106,6 +106,21 @@ TEST_F(Connection, comesUpWithTheBusAndAgainWithTheNextOne) {
     EXPECT_EQ(links, "udu+du+d");
 }
 
+TEST_F(Connection, triesAgainAfterWaitsThatDouble) {
+    bus.stop();
+    BusOptions options = bus.options();
+    options.firstRetry = std::chrono::milliseconds(2);
+    QElapsedTimer time;
+    time.start();
+    BusConnection connection(options);
+    int failures = 0;
+    const Subscription watching = connection.observe(
+        [&](BusState state) { failures += state == BusState::Unavailable ? 1 : 0; });
+    ASSERT_TRUE(waitFor([&] { return failures == 9; }));
+    EXPECT_GE(time.elapsed(), 510) << "2 + 4 + ... + 256";
+    EXPECT_LT(time.elapsed(), 6560) << "three times as long each";
+}
+
 TEST_F(Connection, whatWasPostedWithoutABusDoesNotComeBack) {
     PaneCenter pane(bus);
     ASSERT_TRUE(pane.waitUntilConnected());

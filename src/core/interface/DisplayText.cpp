@@ -98,10 +98,11 @@ void appendFolded(std::string& key, std::string_view sequence) {
 std::size_t appendNumber(std::string& key, std::string_view text) {
     const std::size_t end = std::min(text.find_first_not_of("0123456789"), text.size());
     const std::size_t first = std::min(text.find_first_not_of('0'), end);
-    constexpr std::size_t mostDigits = 99;
+    const std::size_t digits = end - first; // in two bytes: below `longestShownLine`
     key += '0';
-    key += static_cast<char>(1 + std::min(end - first, mostDigits));
-    key += text.substr(first, end - first);
+    key += static_cast<char>(digits / 256);
+    key += static_cast<char>(digits % 256);
+    key += text.substr(first, digits);
     return end;
 }
 

@@ -31,14 +31,18 @@ public:
     explicit MutableRecord(Dictionary contents) : contents_(std::move(contents)) {}
     /// One more entry is fetched when it is first asked for; nobody can tell it from the others.
     MutableRecord(Dictionary contents, std::string lateKey, Fetch fetch)
-        : contents_(std::move(contents)), lateKey_(std::move(lateKey)), fetch_(std::move(fetch)) {}
+        : contents_(std::move(contents)), lateKey_(std::move(lateKey)), fetch_(std::move(fetch)) {
+        // Its place is kept, so that fetching moves none of the others.
+        contents_.setObject(lateKey_, Value(""));
+    }
 
     /// Complete.
     [[nodiscard]] const Dictionary& contents() const {
         fetchLateEntry();
         return contents_;
     }
-    /// One entry of the contents, without a need for the others; null unless it is a string.
+    /// One entry of the contents, without a need for the others; null unless it is a string. Valid
+    /// until the record is edited.
     [[nodiscard]] const std::string* stringForKey(std::string_view key) const {
         if (key == lateKey_)
             fetchLateEntry();

@@ -103,6 +103,8 @@ public:
     void create(Control* sender);
     void removeScript(const Record& record) override;
     void scriptFilesWillChange() override { scriptTexts_.readAll(); }
+    [[nodiscard]] bool hasAnotherScriptOfFile(std::string_view title,
+                                              const Record& script) const override;
     [[nodiscard]] bool admitsRemoval() override;
     void useScripts(Control* sender);
     void scriptsTitleChanged(TextField& field);
@@ -198,7 +200,7 @@ private:
     void scriptItemWasMade(CollectionViewItem& item);
     void keepDrafts();
     void resumeDrafts();
-    bool resumeDraft(const ScriptDraft& draft, const Record& script);
+    bool resumeDraft(const ScriptDraft& draft, std::optional<std::size_t> index);
     /// Says why "Create" is greyed where the title alone does not.
     void showTitleFault();
 
@@ -216,7 +218,7 @@ private:
     std::optional<std::string> newScriptTitleVal_;
     /// Listed scripts whose items get them when they are made.
     std::unordered_set<const MutableRecord*> unhandedScripts_;
-    /// Of scripts that are not listed at the moment.
+    /// While no scripts are listed.
     std::vector<ScriptDraft> scriptDrafts_;
     std::optional<double> lastRemoval_; ///< by a press, as the clock tells
     std::vector<Subscription> agentMessages_;

@@ -3,6 +3,8 @@
 #include "scripts/ScriptFile.h"
 #include "scripts/ScriptRecord.h"
 
+#include <algorithm>
+
 namespace zarvil {
 
 namespace {
@@ -52,16 +54,16 @@ void Zarvil_Preferences::handToItem(const Record& record) {
 
 void Zarvil_Preferences::loadScripts() {
     const std::string folder = platform_.files.expandingTilde(kZVScriptingFolder);
-    if (platform_.files.kindOfItem(folder) != FileKind::Directory) {
-        if (const auto error = platform_.files.createDirectory(folder))
-            platform_.errors.presentError(*error);
-        return;
-    }
-    // Every visible entry is a script, whatever its extension, sub-folders included, on purpose.
-    for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
-        std::string path = folder;
-        path.append("/").append(name);
-        listScript(scriptTexts_.makeScript(script::titleOfFile(name), std::move(path)));
+    if (platform_.files.kindOfItem(folder) == FileKind::Directory) {
+        // Every visible entry is a script, whatever its extension, sub-folders included, on
+        // purpose.
+        for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
+            std::string path = folder;
+            path.append("/").append(name);
+            listScript(scriptTexts_.makeScript(script::titleOfFile(name), std::move(path)));
+        }
+    } else if (const auto error = platform_.files.createDirectory(folder)) {
+        platform_.errors.presentError(*error);
     }
     resumeDrafts();
 }
@@ -75,20 +77,33 @@ void Zarvil_Preferences::keepDrafts() {
         });
 }
 
-/// First where the script is the same, then where it is the only one of its title.
+/// First where the script is the same, then where it is the only one of its title, unless that
+/// would rename another text's file. What finds neither is in no file: it gets a card of its own.
 void Zarvil_Preferences::resumeDrafts() {
     std::erase_if(scriptDrafts_, [this](const ScriptDraft& draft) {
-        return resumeDraft(draft, makeRecord(draft.saved));
+        return resumeDraft(draft, scriptsArrayController.indexOfObject(makeRecord(draft.saved)));
     });
     std::erase_if(scriptDrafts_, [this](const ScriptDraft& draft) {
         const std::string* title = draft.saved.stringForKey(script::title);
-        return title && resumeDraft(draft, onlyScriptOfTitle(scriptsArrayController, *title));
+        const Record script = title && draft.title == *title
+                                  ? onlyScriptOfTitle(scriptsArrayController, *title)
+                                  : nullptr;
+        return script && resumeDraft(draft, scriptsArrayController.indexOfObject(script));
     });
+    for (const ScriptDraft& draft : std::exchange(scriptDrafts_, {})) {
+        if (makeScript(draft.title, draft.text)->contents() == draft.saved)
+            continue; // nothing was typed
+        const Record record = makeRecord(draft.saved);
+        unhandedScripts_.insert(record.get());
+        scriptsArrayController.addObject(record);
+        const std::size_t last = scriptsArrayController.arrangedObjects().size() - 1;
+        if (resumeDraft(draft, last))
+            scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(last)->noteUnsaved(draft);
+    }
 }
 
-/// A card that is edited already keeps what was typed in it; the other text waits.
-bool Zarvil_Preferences::resumeDraft(const ScriptDraft& draft, const Record& script) {
-    const auto index = script ? scriptsArrayController.indexOfObject(script) : std::nullopt;
+/// A card that is edited already keeps what was typed in it.
+bool Zarvil_Preferences::resumeDraft(const ScriptDraft& draft, std::optional<std::size_t> index) {
     const auto item =
         index ? scriptsCollection.itemAtIndexAs<ZVScriptCollectionItem>(*index) : nullptr;
     if (!item || !item->data() || item->editing())
@@ -130,6 +145,15 @@ void Zarvil_Preferences::removeScript(const Record& record) {
     }
     scriptsArrayController.rearrangeObjects();
     showTitleFault();
+}
+
+bool Zarvil_Preferences::hasAnotherScriptOfFile(std::string_view title,
+                                                const Record& script) const {
+    const std::string path = script::filePath(platform_.files, title);
+    return std::ranges::any_of(scriptsArrayController.arrangedObjects(), [&](const Record& other) {
+        const std::string* listed = other->stringForKey(script::title);
+        return other != script && listed && script::filePath(platform_.files, *listed) == path;
+    });
 }
 
 bool Zarvil_Preferences::admitsRemoval() {

@@ -159,13 +159,23 @@ void ZVScriptCollectionItem::noteFailure(const std::optional<Error>& failure, Di
     else if (!saved_)
         saved_ = std::move(before);
     saveFailure_ = failure;
-    note_.set(failure
-                  ? ScriptNote{platform_.strings.localizedString(notSaved), failure->description}
-                  : ScriptNote{});
+    showNote();
+}
+
+void ZVScriptCollectionItem::showNote() {
+    if (saved_)
+        note_.set({localized(notSaved), saveFailure_ ? saveFailure_->description : ""});
+    else
+        note_.set({});
 }
 
 const std::string* ZVScriptCollectionItem::titleOfFile() const {
-    return saved_ ? saved_->stringForKey(script::title) : stringOfRecord(script::title);
+    if (!saved_)
+        return stringOfRecord(script::title);
+    const std::string* title = saved_->stringForKey(script::title);
+    const auto* owner = dynamic_cast<const ScriptOwner*>(owner_);
+    // Another script may have been created there since, or saved.
+    return title && owner && owner->hasAnotherScriptOfFile(*title, data_) ? nullptr : title;
 }
 
 std::optional<ScriptDraft> ZVScriptCollectionItem::draft() const {
@@ -194,6 +204,13 @@ void ZVScriptCollectionItem::resume(const ScriptDraft& draft) {
     fill(*eText_, script::text, draft.text);
     if (draft.failure)
         noteFailure(draft.failure, data_->contents());
+}
+
+void ZVScriptCollectionItem::noteUnsaved(const ScriptDraft& draft) {
+    validateData();
+    saved_ = draft.saved;
+    saveFailure_ = draft.failure;
+    showNote();
 }
 
 void ZVScriptCollectionItem::validateData() {

@@ -23,6 +23,9 @@ public:
     virtual void removeScript(const Record& record) = 0;
     /// Asked before an item writes or deletes: texts that are still to be read are read first.
     virtual void scriptFilesWillChange() = 0;
+    /// Whether the file of that title is listed as that of a script other than this one.
+    [[nodiscard]] virtual bool hasAnotherScriptOfFile(std::string_view title,
+                                                      const Record& script) const = 0;
     /// Whether a press on a remove button counts: the next card moves under the pointer, and a
     /// double click must not remove that one too.
     [[nodiscard]] virtual bool admitsRemoval() = 0;
@@ -151,6 +154,8 @@ public:
     [[nodiscard]] std::optional<ScriptDraft> draft() const;
     /// Goes on editing where a draft was left; the record is the one of its file.
     void resume(const ScriptDraft& draft);
+    /// For a resumed draft without a file: what was typed is no longer dropped by cancelling.
+    void noteUnsaved(const ScriptDraft& draft);
 
     // State.
     /// Says for as long as it is so that the script is not saved.
@@ -213,11 +218,13 @@ private:
     void cancelNow();
     void removeFields();
     void save();
-    /// The file's title; null for a script without a file.
+    /// The file's title; null for a script without a file, or one that is not saved while its file
+    /// is another's.
     [[nodiscard]] const std::string* titleOfFile() const;
     Replacement writeFile(const std::optional<std::string>& formerTitle);
     /// `before` is the record as the file had it.
     void noteFailure(const std::optional<Error>& failure, Dictionary before);
+    void showNote();
     void storeEdited(std::string_view key, const ScriptEditField* field, std::string_view fallback);
     [[nodiscard]] ScriptOutcome outcomeOf(const ScriptError* error) const;
     [[nodiscard]] std::string localized(std::string_view key) const;
@@ -234,7 +241,7 @@ private:
     Property<bool> running_{false};
     Property<ScriptOutcome> outcome_;
     Record data_;
-    /// While the last save has failed: the record as its file still has it, and why.
+    /// While the script is not saved: the record as its file had it, and why.
     std::optional<Dictionary> saved_;
     std::optional<Error> saveFailure_;
     Property<ScriptNote> note_;

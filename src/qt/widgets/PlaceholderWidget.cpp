@@ -1,10 +1,10 @@
 #include "qt/widgets/PlaceholderWidget.h"
 
 #include "qt/widgets/SymbolWidget.h"
+#include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
 #include <QEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -17,11 +17,10 @@ namespace {
 constexpr int margin = 16;
 constexpr int symbolExtent = 36;
 
-QLabel* makeLabel(QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
+TextLabel* makeLabel(TextLabel::Look look, QWidget* parent) {
+    auto* label = new TextLabel(parent);
+    label->setLook(look);
     label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
     return label;
 }
 
@@ -30,8 +29,8 @@ QLabel* makeLabel(QWidget* parent) {
 PlaceholderWidget::PlaceholderWidget(QWidget* parent)
     : QWidget(parent),
       symbol_(new SymbolWidget(this)),
-      title_(makeLabel(this)),
-      words_(makeLabel(this)) {
+      title_(makeLabel(TextLabel::Heading, this)),
+      words_(makeLabel(TextLabel::Quiet, this)) {
     symbol_->setExtent(symbolExtent);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     auto* column = new QVBoxLayout(this);
@@ -41,7 +40,6 @@ PlaceholderWidget::PlaceholderWidget(QWidget* parent)
     column->addWidget(title_);
     column->addWidget(words_);
     column->addStretch();
-    updateLook();
 }
 
 void PlaceholderWidget::setText(Symbol symbol, const QString& title, const QString& words) {
@@ -129,19 +127,6 @@ void PlaceholderWidget::paintEvent(QPaintEvent* /*event*/) {
     const double inset = width / 2;
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
                             theme::cardRadius, theme::cardRadius);
-}
-
-void PlaceholderWidget::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
-        updateLook();
-}
-
-void PlaceholderWidget::updateLook() {
-    title_->setFont(theme::scaled(font(), 1, QFont::DemiBold));
-    QPalette muted = palette();
-    muted.setColor(QPalette::WindowText, theme::mutedText(palette()));
-    words_->setPalette(muted);
 }
 
 } // namespace zarvil::qt

@@ -5,11 +5,10 @@
 #include <QPointer>
 #include <QWidget>
 
-class QLabel;
-
 namespace zarvil::qt {
 
 class SymbolWidget;
+class TextLabel;
 
 /// A framed text in place of a list's rows. It lies over the list, as its sibling, and so keeps
 /// its contrast while the list is dimmed. The list bears its text as the accessible description.
@@ -36,7 +35,6 @@ protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     [[nodiscard]] QWidget* covered();
@@ -44,11 +42,10 @@ private:
     void describe();
     /// The words need the room more than the symbol does.
     void showSymbolWhereItFits();
-    void updateLook();
 
     SymbolWidget* symbol_;
-    QLabel* title_;
-    QLabel* words_;
+    TextLabel* title_;
+    TextLabel* words_;
     QString covers_;
     bool hidesCovered_ = false;
     QPointer<QWidget> covered_;

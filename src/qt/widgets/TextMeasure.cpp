@@ -56,6 +56,14 @@ QSize measured(const Question& question) {
 
 QSize textSize(const QWidget& widget, const QFont& font, int flags, const QString& text,
                int width) {
+    if (width != unwrapped) {
+        // Most texts fit, whatever their widths, and are shaped once for all of these.
+        const int mnemonic = Qt::TextShowMnemonic | Qt::TextHideMnemonic;
+        const QSize natural =
+            textSize(widget, font, (flags & mnemonic) != 0 ? Qt::TextShowMnemonic : 0, text);
+        if (natural.width() <= width)
+            return natural;
+    }
     const Question question{text, font, flags, width, widget.logicalDpiY()};
     Answers& all = known();
     auto answer = all.constFind(question);

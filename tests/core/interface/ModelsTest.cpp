@@ -215,8 +215,10 @@ TEST(DisplayText, shortensBetweenWholeCharacters) {
 }
 
 TEST(DisplayText, sortsNumbersByValueAndLettersWithoutCaseAndAccents) {
-    const std::vector<std::string> sorted{"",     "2",     "010",    "a",       "É 1", "e 02",
-                                          "über", "UPS 9", "ups 10", "UPS 10a", "Z",   "ж"};
+    const std::string nines(255, '9');
+    const std::string power = "1" + std::string(300, '0');
+    const std::vector<std::string> sorted{"",     "2",    "010",   nines,    power,     "a", "É 1",
+                                          "e 02", "über", "UPS 9", "ups 10", "UPS 10a", "Z", "ж"};
     for (std::size_t index = 1; index < sorted.size(); ++index)
         EXPECT_LT(naturalSortKey(sorted[index - 1]), naturalSortKey(sorted[index]))
             << sorted[index];

@@ -173,7 +173,7 @@ TEST_F(ScriptItem, cancellingDropsWhatWasTypedAndTheDraftThatCameBack) {
     EXPECT_EQ(files.files[pathOf("b.zvscript")], "echo b");
 }
 
-TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
+TEST_F(ScriptItem, aDraftGoesToItsOwnScriptOrGetsACardOfItsOwn) {
     put("a.txt", "another");
     pane.unloadScripts();
     pane.loadScripts();
@@ -184,7 +184,8 @@ TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
     pane.unloadScripts();
     const auto kept = std::exchange(files.files, {{pathOf("b.zvscript"), "echo b"}});
     pane.loadScripts();
-    EXPECT_FALSE(item(0)->editing());
+    EXPECT_THAT(titles(), ElementsAre("b", "a"));
+    EXPECT_EQ(item(1)->eText()->stringValue(), "draft");
     pane.unloadScripts();
     files.files = kept;
     pane.loadScripts();
@@ -192,21 +193,52 @@ TEST_F(ScriptItem, aDraftWaitsForItsScriptAndGoesToNoOther) {
         EXPECT_EQ(item(index)->editing(), listed(index, script::text) == own) << index;
 }
 
-TEST_F(ScriptItem, twoTextsTypedForOneFileComeBackOneAfterTheOther) {
-    item(0)->edit();
-    item(0)->eText()->userDidEdit("for the file that is replaced");
-    editByHand(*item(1), "a", "saved");
-    item(1)->edit();
-    item(1)->eText()->userDidEdit("for the file as it is");
-    for (const std::string_view typed :
-         {"for the file as it is", "for the file that is replaced"}) {
-        time.advance(5);
-        agentSends(message::pingAnswer);
-        ASSERT_THAT(titles(), ElementsAre("a"));
-        ASSERT_TRUE(item(0)->editing()) << typed;
-        EXPECT_EQ(item(0)->eText()->stringValue(), typed);
-        item(0)->edit();
+/// A script is created where the rename of another failed, so that both were of one file.
+class ScriptsOfOneFile : public ScriptItem {
+protected:
+    void SetUp() override {
+        ScriptItem::SetUp();
+        files.failing = {pathOf("x.zvscript")};
+        editByHand(*item(0), "x", "first");
+        createByHand("a");
+        files.failing.clear();
     }
+    const std::map<std::string, std::string> both{{pathOf("a.zvscript"), "second"},
+                                                  {pathOf("b.zvscript"), "echo b"},
+                                                  {pathOf("x.zvscript"), "first"}};
+};
+
+TEST_F(ScriptsOfOneFile, theLaterRenameLeavesTheFileToTheOther) {
+    editByHand(*item(2), "a", "second");
+    editByHand(*item(0), "x", "first");
+    EXPECT_EQ(files.files, both);
+}
+
+TEST_F(ScriptsOfOneFile, bothTextsComeBackAfterAMissedPing) {
+    item(2)->edit();
+    item(2)->eText()->userDidEdit("second");
+    time.advance(5);
+    agentSends(message::pingAnswer);
+    ASSERT_THAT(titles(), ElementsAre("a", "b", "x"));
+    ASSERT_TRUE(item(0)->editing());
+    item(0)->edit();
+    item(2)->cancelEditing();
+    EXPECT_EQ(item(2)->noteProperty().get().caption, "Not saved");
+    item(2)->edit();
+    item(2)->edit();
+    EXPECT_EQ(files.files, both);
+}
+
+TEST_F(ScriptsOfOneFile, whatIsSavedIsNeitherReplacedNorRemovedByTheOther) {
+    editByHand(*item(2), "a", "second");
+    time.advance(5);
+    agentSends(message::pingAnswer);
+    ASSERT_THAT(titles(), ElementsAre("a", "b", "x"));
+    EXPECT_FALSE(item(0)->editing());
+    EXPECT_EQ(item(2)->eText()->stringValue(), "first");
+    item(2)->remove();
+    EXPECT_EQ(files.files[pathOf("a.zvscript")], "second");
+    EXPECT_THAT(errors.presented, IsEmpty());
 }
 
 TEST_F(ScriptItem, aFailingScriptShowsTheRunnersNumberAndMessage) {

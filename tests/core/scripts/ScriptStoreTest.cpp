@@ -49,8 +49,10 @@ TEST_F(ScriptStore, textsAreReadInSlicesAndThereWhenAskedFor) {
     };
     EXPECT_EQ(item(199)->shownLines().at(0), "as listed") << "before its turn";
     const auto other = item(1)->data();
+    const std::string* title = other->stringForKey(script::title);
     editByHand(*item(0), "1001", "echo new");
     EXPECT_EQ(*other->stringForKey(script::text), "as listed") << "its file was replaced";
+    EXPECT_EQ(other->stringForKey(script::title), title) << "does not move";
     pane.unloadScripts();
     pane.loadScripts();
     time.advance(0);
