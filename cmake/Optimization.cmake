@@ -1,6 +1,7 @@
 # Most code runs once a click, and the less there is of it the sooner the pane is there: it is made
 # small, and what nothing calls is dropped. What draws or holds long lists asks to be fast:
 #   zarvil_fast(TARGET...)
+#   zarvil_fast_sources(FILE...)
 set(optimized $<NOT:$<CONFIG:Debug>>)
 add_compile_options("$<${optimized}:-Os;-ffunction-sections;-fdata-sections>")
 if(NOT APPLE)
@@ -8,6 +9,9 @@ if(NOT APPLE)
 endif()
 function(zarvil_fast)
     foreach(target IN LISTS ARGN)
-        target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-O3>)
+        target_compile_options(${target} PRIVATE $<${optimized}:-O3>)
     endforeach()
+endfunction()
+function(zarvil_fast_sources)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS $<${optimized}:-O3>)
 endfunction()

@@ -25,6 +25,59 @@
 }
 @end
 
+/// A box with nothing behind it but the system's notifications: shows what one of them says, and
+/// says in another what it shows when it is clicked.
+@interface ZVBareBox : NSButton {
+@public
+    int heard;
+}
+- (void)listenFor:(NSString*)name selector:(SEL)selector;
+- (void)show:(NSNotification*)notification;
+- (void)hear:(NSNotification*)notification;
+- (void)say:(id)sender;
+@end
+
+static NSString* const ZVBareIn = @"ZVBareIn";
+static NSString* const ZVBareOut = @"ZVBareOut";
+
+static void ZVPost(NSString* name, NSDictionary* info) {
+    [[NSDistributedNotificationCenter defaultCenter] postNotificationName:name
+                                                                   object:nil
+                                                                 userInfo:info
+                                                       deliverImmediately:YES];
+}
+
+@implementation ZVBareBox
+
+- (void)listenFor:(NSString*)name selector:(SEL)selector {
+    [[NSDistributedNotificationCenter defaultCenter]
+               addObserver:self
+                  selector:selector
+                      name:name
+                    object:nil
+        suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+}
+
+- (void)show:(NSNotification*)notification {
+    [self setState:[[[notification userInfo] objectForKey:@"LaunchAtLogin"] boolValue]];
+}
+
+- (void)hear:(NSNotification*)notification {
+    (void)notification;
+    ++heard;
+}
+
+- (void)say:(id)sender {
+    (void)sender;
+    ZVPost(ZVBareOut,
+           [NSDictionary
+               dictionaryWithObjectsAndKeys:@"LaunchAtLogin", @"pref",
+                                            [NSNumber numberWithBool:[self state] == NSOnState],
+                                            @"prefObj", nil]);
+}
+
+@end
+
 /// The Cocoa pane's figures, in a host in this process and over a notification server of its own.
 namespace zarvil::cocoa {
 
@@ -95,20 +148,72 @@ struct Bench {
                 "the pane sees the agent");
     }
 
-    void latency() {
-        std::vector<double> times;
+    /// Both ways by turns, since a machine is not equally fast all the time.
+    template <typename Raw, typename Own>
+    static void compare(const char* what, Raw raw, Own own) {
+        std::vector<double> rawTimes;
+        std::vector<double> ownTimes;
         constexpr int rounds = 500;
-        const auto box = host.outlet("launchAtLogin");
         for (int round = 0; round < rounds; ++round) {
-            const bool on = round % 2 == 0;
-            const auto start = Clock::now();
-            agent.send(Message(message::savedPrefs, Dictionary{{"LaunchAtLogin", on}}));
-            require(runUntil([=] { return [box state] == (on ? NSOnState : NSOffState); }),
-                    "the box shows what the agent sent");
-            times.push_back(millisecondsSince(start));
+            const Pool pool;
+            rawTimes.push_back(milliseconds([=] { raw(round); }));
+            ownTimes.push_back(milliseconds([=] { own(round); }));
         }
-        std::printf("notification to widget    median %.2f ms, p99 %.2f ms (%d)\n",
-                    percentile(times, 0.5), percentile(times, 0.99), rounds);
+        const double median = percentile(rawTimes, 0.5);
+        std::printf("%-25s raw median %.2f ms, p99 %.2f ms; pane median %.2f ms, p99 %.2f ms; "
+                    "own layer %+.1f %% (%d)\n",
+                    what, median, percentile(rawTimes, 0.99), percentile(ownTimes, 0.5),
+                    percentile(ownTimes, 0.99), 100 * (percentile(ownTimes, 0.5) / median - 1),
+                    rounds);
+    }
+
+    /// Turns the run loop from one arrival to the next.
+    template <typename Condition>
+    static void spinUntil(Condition condition) {
+        while (!condition())
+            [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode
+                                     beforeDate:[NSDate dateWithTimeIntervalSinceNow:1]];
+    }
+
+    static void press(NSButton* box) {
+        [box setNextState];
+        [box sendAction:[box action] to:[box target]];
+    }
+
+    void latency() {
+        NSButton* box = host.outlet("launchAtLogin");
+        const auto raw = Ref<ZVBareBox>::adopt([[ZVBareBox alloc] initWithFrame:[box frame]]);
+        const auto ear = Ref<ZVBareBox>::adopt([[ZVBareBox alloc] initWithFrame:[box frame]]);
+        ZVBareBox* bare = raw.get();
+        ZVBareBox* hears = ear.get();
+        [bare setButtonType:NSSwitchButton];
+        [bare setTarget:bare];
+        [bare setAction:@selector(say:)];
+        [[host.window() contentView] addSubview:bare];
+        [bare listenFor:ZVBareIn selector:@selector(show:)];
+        const auto show = [](NSButton* shown, NSString* name, int round) {
+            const bool on = round % 2 == 0;
+            NSNumber* value = [NSNumber numberWithBool:on];
+            ZVPost(name, [NSDictionary dictionaryWithObject:value forKey:@"LaunchAtLogin"]);
+            spinUntil([=] { return [shown state] == (on ? NSOnState : NSOffState); });
+        };
+        NSString* saved = toCocoa(message::savedPrefs);
+        compare(
+            "notification to box", [=](int round) { show(bare, ZVBareIn, round); },
+            [=](int round) { show(box, saved, round); });
+
+        [hears listenFor:ZVBareOut selector:@selector(hear:)];
+        [hears listenFor:toCocoa(message::prefsChanged) selector:@selector(hear:)];
+        const auto say = [=](NSButton* pressed) {
+            const int before = hears->heard;
+            press(pressed);
+            spinUntil([=] { return hears->heard > before; });
+        };
+        compare(
+            "click to notification", [=](int) { say(bare); }, [=](int) { say(box); });
+        for (ZVBareBox* listener : {bare, hears})
+            [[NSDistributedNotificationCenter defaultCenter] removeObserver:listener];
+        [bare removeFromSuperview];
     }
 
     /// Each of them adds a row below those that came before, so that none can be missing.

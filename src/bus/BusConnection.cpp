@@ -130,9 +130,11 @@ void BusConnection::finish() {
     thread_.join();
     QDBusConnection connection = *std::exchange(attempt_, nullptr)->connection;
     if (connection.isConnected())
-        connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                           QStringLiteral("org.freedesktop.DBus.Local"),
-                           QStringLiteral("Disconnected"), this, SLOT(lost()));
+        loss_.emplace(connection,
+                      SignalHook::Signal{QStringLiteral("/org/freedesktop/DBus/Local"),
+                                         QStringLiteral("org.freedesktop.DBus.Local"),
+                                         QStringLiteral("Disconnected")},
+                      [this](const QDBusMessage&) { lost(); });
     // Asked again: a bus that went before its end was being listened for.
     if (!connection.isConnected()) {
         const QString reason = connection.lastError().message();
@@ -179,6 +181,7 @@ void BusConnection::scheduleRetry() {
 }
 
 void BusConnection::leave() {
+    loss_.reset();
     const auto left = std::exchange(connection_, std::nullopt);
     if (left && left->name().startsWith(QLatin1String("zarvil-")))
         QDBusConnection::disconnectFromBus(left->name());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bus/MessageBus.h"
+#include "bus/SignalHook.h"
 #include "protocol/ObserverList.h"
 
 #include <QByteArray>
@@ -67,7 +68,6 @@ public:
     void whenReady(QObject* context, Ready ready);
 
 private Q_SLOTS:
-    void lost();
     void finish();
 
 private:
@@ -77,6 +77,7 @@ private:
     void expire();
     void becomeUnavailable(const QString& error);
     void scheduleRetry();
+    void lost();
     void leave();
     void setState(BusState state);
     void callBack();
@@ -86,6 +87,7 @@ private:
     QString error_;
     ObserverList<BusState> observers_;
     std::optional<QDBusConnection> connection_;
+    std::optional<SignalHook> loss_;
     std::vector<Ready> waiting_;
     std::shared_ptr<Attempt> attempt_; ///< null unless a thread connects
     std::thread thread_;

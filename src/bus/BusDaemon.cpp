@@ -64,9 +64,9 @@ bool isActivatable(const QDBusConnection& connection, const QString& name, int l
 }
 
 OwnerWatch::OwnerWatch(QDBusConnection connection, const QString& name, Reports reports)
-    : reports_(std::move(reports)) {
-    connection.connect(QString(), path, busName(), QStringLiteral("NameOwnerChanged"), {name},
-                       QStringLiteral("sss"), this, SLOT(changed(QDBusMessage)));
+    : reports_(std::move(reports)),
+      changes_(connection, {path, busName(), QStringLiteral("NameOwnerChanged"), {name}},
+               [this](const QDBusMessage& signal) { changed(signal); }) {
     auto* watcher =
         new QDBusPendingCallWatcher(connection.asyncCall(busCall("GetNameOwner", {name})), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

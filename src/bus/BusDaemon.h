@@ -1,5 +1,7 @@
 #pragma once
 
+#include "bus/SignalHook.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QObject>
@@ -42,8 +44,6 @@ ownedNames(const QDBusConnection& connection, int limit);
 /// signals of the same connection. The bus library's own filter by well-known name would block to
 /// ask for the owner, and let through what others address to this connection directly.
 class OwnerWatch final : public QObject {
-    Q_OBJECT
-
 public:
     struct Reports {
         /// The answer to the question who owns the name; empty for nobody.
@@ -52,11 +52,11 @@ public:
     };
     OwnerWatch(QDBusConnection connection, const QString& name, Reports reports);
 
-private Q_SLOTS:
+private:
     void changed(const QDBusMessage& signal);
 
-private:
     Reports reports_;
+    SignalHook changes_;
 };
 
 } // namespace zarvil

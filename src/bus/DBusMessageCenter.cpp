@@ -34,7 +34,7 @@ void DBusMessageCenter::post(Message message) {
 Subscription DBusMessageCenter::addObserver(std::string_view name, Handler handler) {
     const auto entry = observed_.try_emplace(std::string(name)).first;
     if (++entry->second.count == 1)
-        watch(entry->first);
+        watch(entry->first, entry->second);
     auto registration =
         std::make_shared<Subscription>(entry->second.observers.add(std::move(handler)));
     return Subscription(
@@ -69,9 +69,9 @@ void DBusMessageCenter::busChanged(BusState state) {
 
 void DBusMessageCenter::hookUp() {
     connection_ = bus_.connection();
-    for (const auto& [name, observed] : observed_)
+    for (auto& [name, observed] : observed_)
         if (observed.count > 0)
-            watch(name);
+            watch(name, observed);
     if (!acceptFrom_.isEmpty())
         owner_ = std::make_unique<OwnerWatch>(
             *connection_, acceptFrom_,
@@ -86,6 +86,8 @@ void DBusMessageCenter::hookUp() {
 }
 
 void DBusMessageCenter::hang() {
+    for (auto& entry : observed_)
+        entry.second.hook.reset();
     connection_.reset();
     unflushed_ = false;
     waiting_.clear();
@@ -146,21 +148,17 @@ void DBusMessageCenter::deliver(const QDBusMessage& signal) {
 }
 
 // One match a message name, so that the bus does not wake this process for its own broadcasts.
-void DBusMessageCenter::watch(const std::string& name) {
+void DBusMessageCenter::watch(const std::string& name, Observed& observed) {
     if (connection_)
-        connection_->connect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
-                             SLOT(receive(QDBusMessage)));
-}
-
-void DBusMessageCenter::unwatch(const std::string& name) {
-    if (connection_)
-        connection_->disconnect(QString(), bus::path, bus::interface, QString::fromUtf8(name), this,
-                                SLOT(receive(QDBusMessage)));
+        observed.hook.emplace(
+            *connection_, SignalHook::Signal{bus::path, bus::interface, QString::fromUtf8(name)},
+            [this](const QDBusMessage& signal) { receive(signal); });
 }
 
 void DBusMessageCenter::forget(const std::string& name) {
-    if (--observed_.find(name)->second.count == 0)
-        unwatch(name);
+    Observed& observed = observed_.find(name)->second;
+    if (--observed.count == 0)
+        observed.hook.reset();
 }
 
 } // namespace zarvil

@@ -3,11 +3,11 @@
 #include "bus/BusDaemon.h"
 #include "bus/MessageBus.h"
 #include "bus/SenderGate.h"
+#include "bus/SignalHook.h"
 #include "protocol/MessageCenter.h"
 #include "protocol/ObserverList.h"
 
 #include <QDBusConnection>
-#include <QObject>
 #include <QString>
 
 #include <deque>
@@ -20,9 +20,7 @@ namespace zarvil {
 /// Messages as broadcast signals on a message bus. What is posted while the bus is being connected
 /// to is sent once it is; what is posted without a bus is lost, like a message that nobody
 /// receives. Nothing here blocks but `flush` and the destructor.
-class DBusMessageCenter final : public QObject, public MessageCenter {
-    Q_OBJECT
-
+class DBusMessageCenter final : public MessageCenter {
 public:
     /// Messages are taken from the owner of the well-known name `acceptFrom` alone; from anyone
     /// when it is empty. The bus must outlive the center.
@@ -38,13 +36,11 @@ public:
     /// process is ended: messages leave through another thread, which ends with the process.
     void flush();
 
-private Q_SLOTS:
-    void receive(const QDBusMessage& signal);
-
 private:
     struct Observed {
         ObserverList<const Message&> observers;
         std::size_t count = 0;
+        std::optional<SignalHook> hook;
     };
 
     void busChanged(BusState state);
@@ -55,9 +51,9 @@ private:
     void peerIs(const QString& owner);
 
     void send(const Message& message);
+    void receive(const QDBusMessage& signal);
     void deliver(const QDBusMessage& signal);
-    void watch(const std::string& name);
-    void unwatch(const std::string& name);
+    void watch(const std::string& name, Observed& observed);
     void forget(const std::string& name);
 
     MessageBus& bus_;

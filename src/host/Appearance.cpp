@@ -7,11 +7,11 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
-#include <QSettings>
 #include <QStyle>
 #include <QToolTip>
 
 #include <cstring>
+#include <string>
 
 namespace zarvil::host {
 
@@ -31,6 +31,8 @@ constexpr uint preferDark = 1;
 constexpr uint preferLight = 2;
 constexpr uint preferHighContrast = 1;
 
+constexpr const char* section = "appearance";
+
 } // namespace
 
 std::optional<AppearanceChoice> appearanceChoice(const QString& text) {
@@ -43,17 +45,21 @@ std::optional<AppearanceChoice> appearanceChoice(const QString& text) {
     return std::nullopt;
 }
 
-Appearance::Appearance(AppearanceChoice choice, QSettings& settings)
+Appearance::Appearance(AppearanceChoice choice, posix::SettingsFile& settings)
     : choice_(choice),
       settings_(settings),
       desktopPalette_(QApplication::palette()),
       desktopStyle_(QApplication::style()->name()),
-      scheme_{everyDesktops, "color-scheme", "appearance/scheme", 0},
-      contrast_{everyDesktops, "contrast", "appearance/contrast", 0},
-      reducedMotion_{everyDesktops, "reduced-motion", "appearance/reduced-motion", 0},
-      animations_{gnomes, "enable-animations", "appearance/animations", 1} {
-    for (Preference* preference : preferences_)
-        preference->value = settings_.value(preference->stored, preference->unanswered).toUInt();
+      scheme_{everyDesktops, "color-scheme", "scheme", 0},
+      contrast_{everyDesktops, "contrast", "contrast", 0},
+      reducedMotion_{everyDesktops, "reduced-motion", "reduced-motion", 0},
+      animations_{gnomes, "enable-animations", "animations", 1} {
+    for (Preference* preference : preferences_) {
+        bool isNumber = false;
+        const auto stored = settings_.value(section, preference->stored);
+        const uint value = QByteArray::fromStdString(stored).toUInt(&isNumber);
+        preference->value = isNumber ? value : preference->unanswered;
+    }
     apply();
 }
 
@@ -68,13 +74,14 @@ Look Appearance::look() const {
 
 void Appearance::follow(MessageBus& session) {
     session_ = session.observe([this, &session](BusState) {
+        changes_.reset();
         bus_ = session.connection();
         if (!bus_)
             return;
         // From any sender: naming the portal here would make Qt wait for the bus to say who that
         // is. So the signal is only a hint, and the portal itself is asked for the value.
-        bus_->connect(QString(), path, interface, "SettingChanged", this,
-                      SLOT(settingChanged(QString, QString)));
+        changes_.emplace(*bus_, SignalHook::Signal{path, interface, "SettingChanged"},
+                         [this](const QDBusMessage& signal) { settingChanged(signal); });
         for (Preference* preference : preferences_)
             ask(*preference, readOne);
     });
@@ -101,7 +108,10 @@ void Appearance::ask(Preference& preference, const char* method) {
             });
 }
 
-void Appearance::settingChanged(const QString& group, const QString& key) {
+void Appearance::settingChanged(const QDBusMessage& signal) {
+    const QVariantList arguments = signal.arguments();
+    const QString group = arguments.value(0).toString();
+    const QString key = arguments.value(1).toString();
     for (Preference* preference : preferences_)
         if (group == QLatin1String(preference->group) && key == QLatin1String(preference->key))
             ask(*preference, readOne);
@@ -115,7 +125,7 @@ void Appearance::accept(Preference& preference, const QVariant& value) {
     if (wanted == preference.value)
         return;
     preference.value = wanted;
-    settings_.setValue(preference.stored, wanted);
+    settings_.setValue(section, preference.stored, std::to_string(wanted));
     apply();
 }
 

@@ -3,13 +3,13 @@
 #include "host/Palettes.h"
 
 #include "bus/MessageBus.h"
+#include "bus/SignalHook.h"
+#include "posix/SettingsFile.h"
 
 #include <QObject>
 
 #include <array>
 #include <optional>
-
-class QSettings;
 
 namespace zarvil::host {
 
@@ -19,37 +19,35 @@ enum class AppearanceChoice { Auto, Light, Dark };
 [[nodiscard]] std::optional<AppearanceChoice> appearanceChoice(const QString& text);
 
 /// Keeps the application's palette, and whether it moves anything, as the user wants the desktop to
-/// look. Asks the settings portal
-/// and follows it; until it answers, what it said at the last start holds. Without a portal the
-/// desktop's own palette decides. Needs the application object, and no window yet.
+/// look. Asks the settings portal and follows it; until it answers, what it said at the last start
+/// holds. Without a portal the desktop's own palette decides. Needs the application object, and no
+/// window yet.
 class Appearance final : public QObject {
-    Q_OBJECT
 public:
-    Appearance(AppearanceChoice choice, QSettings& settings);
+    Appearance(AppearanceChoice choice, posix::SettingsFile& settings);
 
     /// Asks the portal of every connection to the session bus, without waiting.
     void follow(MessageBus& session);
     [[nodiscard]] Look look() const;
 
-private Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key);
-
 private:
     struct Preference {
         const char* group;
         const char* key;
-        const char* stored;
-        uint unanswered; ///< holds without a portal that knows the key
+        const char* stored; ///< key of the settings
+        uint unanswered;    ///< holds without a portal that knows the key
         uint value = unanswered;
     };
 
     void ask(Preference& preference, const char* method);
+    void settingChanged(const QDBusMessage& signal);
     void accept(Preference& preference, const QVariant& value);
     void apply();
 
     AppearanceChoice choice_;
-    QSettings& settings_;
+    posix::SettingsFile& settings_;
     std::optional<QDBusConnection> bus_;
+    std::optional<SignalHook> changes_;
     QPalette desktopPalette_;
     QString desktopStyle_;
     Preference scheme_;

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFontDatabase>
 #include <QStandardPaths>
 #include <QTimer>
@@ -77,7 +78,12 @@ bool isBroken(const BundleOutcome& bundle) { return std::holds_alternative<Bundl
 
 Host::Host(const CommandLine& commandLine)
     : commandLine_(commandLine),
-      settings_(settingsFile(), QSettings::IniFormat),
+      settings_(QFile::encodeName(settingsFile()).toStdString(),
+                [] {
+                    qCWarning(hostLog).noquote() << "What the window remembers cannot be read or "
+                                                    "written:"
+                                                 << settingsFile();
+                }),
       appearance_(commandLine.appearance, settings_),
       session_(sessionBusFor(instance_)) {}
 

@@ -7,8 +7,6 @@
 #include "host/SingleInstance.h"
 #include "host/UnixSignals.h"
 
-#include <QSettings>
-
 #include <memory>
 #include <optional>
 #include <vector>
@@ -45,7 +43,7 @@ private:
     void yieldToFirst();
 
     CommandLine commandLine_;
-    QSettings settings_;
+    posix::SettingsFile settings_;
     Appearance appearance_;
     SingleInstance instance_;
     BusConnection session_;

@@ -9,16 +9,19 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScreen>
-#include <QSettings>
 #include <QShortcut>
 #include <QTabWidget>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace zarvil::host {
 
 namespace {
 
-constexpr const char* geometryKey = "window/geometry";
+// Sections and keys of the settings.
+constexpr const char* windowSection = "window";
+constexpr const char* geometryKey = "geometry";
+constexpr const char* tabsSection = "tabs";
 constexpr int listWidth = 180;
 
 /// Qt takes a plain widget for a part of a window, also where it is one.
@@ -30,7 +33,7 @@ QAccessibleInterface* makeAccessibleWindow(const QString& /*className*/, QObject
 } // namespace
 
 HostWindow::HostWindow(const std::vector<BundleOutcome>& bundles, const PaneOptions& options,
-                       QSettings& settings)
+                       posix::SettingsFile& settings)
     : settings_(settings) {
     setObjectName("hostWindow");
     QAccessible::installFactory(makeAccessibleWindow);
@@ -106,7 +109,8 @@ std::optional<BundleFailure> HostWindow::open() {
 
 /// The first size is the one that the pane would like, as far as the screen has room for it.
 void HostWindow::restorePlace() {
-    if (restoreGeometry(settings_.value(geometryKey).toByteArray()))
+    const std::string stored = settings_.value(windowSection, geometryKey);
+    if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
         return;
     constexpr QSize frame(16, 48); // what a window manager may put around a window
     resize(sizeHint().boundedTo(screen()->availableSize() - frame));
@@ -114,18 +118,24 @@ void HostWindow::restorePlace() {
 
 QTabWidget* HostWindow::tabs() const { return view_ ? view_->findChild<QTabWidget*>() : nullptr; }
 
-QString HostWindow::tabKey() const {
-    return QStringLiteral("tabs/") + entries_[current_].driver->bundle().identifier;
+std::string HostWindow::tabKey() const {
+    return QUrl::toPercentEncoding(entries_[current_].driver->bundle().identifier).toStdString();
 }
 
 void HostWindow::restoreTab() {
-    if (QTabWidget* pages = tabs())
-        pages->setCurrentIndex(settings_.value(tabKey(), pages->currentIndex()).toInt());
+    QTabWidget* pages = tabs();
+    if (!pages)
+        return;
+    bool isNumber = false;
+    const auto stored = settings_.value(tabsSection, tabKey());
+    const int tab = QByteArray::fromStdString(stored).toInt(&isNumber);
+    if (isNumber)
+        pages->setCurrentIndex(tab);
 }
 
 void HostWindow::rememberTab() {
     if (const QTabWidget* pages = tabs())
-        settings_.setValue(tabKey(), pages->currentIndex());
+        settings_.setValue(tabsSection, tabKey(), std::to_string(pages->currentIndex()));
 }
 
 void HostWindow::closeRegardless() {
@@ -183,7 +193,8 @@ void HostWindow::showPane(std::size_t row) {
     view_ = entry.driver->view();
     content_->addWidget(view_);
     entry.driver->select();
-    view_->show();
+    if (isVisible()) // otherwise it comes up with the window, and is laid out once
+        view_->show();
     setWindowTitle(entry.driver->title());
     if (const QIcon icon = entry.driver->icon(); !icon.isNull())
         setWindowIcon(icon);
@@ -208,10 +219,12 @@ void HostWindow::markCurrent() {
 }
 
 void HostWindow::finish() {
-    if (isVisible()) // not the place of a window that never was
-        settings_.setValue(geometryKey, saveGeometry());
+    const bool wasThere = isVisible();
+    const std::string place = saveGeometry().toBase64().toStdString();
     finished_ = true;
-    hide();
+    hide(); // before a slow disk is waited for
+    if (wasThere)
+        settings_.setValue(windowSection, geometryKey, place);
     Q_EMIT closed();
 }
 

@@ -1,17 +1,18 @@
 #pragma once
 
 #include "host/PaneDriver.h"
+#include "posix/SettingsFile.h"
 
 #include <QPointer>
 #include <QWidget>
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 class QLabel;
 class QListWidget;
-class QSettings;
 class QTabWidget;
 class QVBoxLayout;
 
@@ -24,7 +25,7 @@ class HostWindow final : public QWidget {
 public:
     /// Needs at least one pane. Broken bundles are listed, with the reason in place of a pane.
     HostWindow(const std::vector<BundleOutcome>& bundles, const PaneOptions& options,
-               QSettings& settings);
+               posix::SettingsFile& settings);
     ~HostWindow() override;
 
     /// Makes the view of the first pane that can be loaded; what failed if there is none. The
@@ -60,12 +61,12 @@ private:
     void markCurrent();
     void restorePlace();
     [[nodiscard]] QTabWidget* tabs() const;
-    [[nodiscard]] QString tabKey() const;
+    [[nodiscard]] std::string tabKey() const;
     void restoreTab();
     void rememberTab();
 
     std::vector<Entry> entries_;
-    QSettings& settings_;
+    posix::SettingsFile& settings_;
     QVBoxLayout* content_ = nullptr;
     QPointer<QWidget> view_; ///< of the pane that is shown
     QListWidget* list_ = nullptr;

@@ -8,6 +8,7 @@
 #include <QDBusPendingCallWatcher>
 
 #include <mutex>
+#include <optional>
 
 namespace zarvil::host {
 
@@ -39,12 +40,21 @@ struct SingleInstance::Shared {
     std::mutex mutex;
     SingleInstance* owner = nullptr;
     Standing standing = Standing::Unknown;
+    /// Kept open: the bus library's thread still reaches what a connection that it closes offers.
+    std::optional<QDBusConnection> offered;
 
     /// Before the name is taken: whoever sees the name may call at once.
     void offer(QDBusConnection bus) {
         const std::lock_guard lock(mutex);
-        if (owner)
-            bus.registerObject(objectPath, owner, QDBusConnection::ExportScriptableSlots);
+        withdraw();
+        if (owner && bus.registerObject(objectPath, owner, QDBusConnection::ExportScriptableSlots))
+            offered = bus;
+    }
+    /// To be called with the lock.
+    void withdraw() {
+        if (offered)
+            offered->unregisterObject(objectPath);
+        offered.reset();
     }
     void decide(Standing outcome) {
         const std::lock_guard lock(mutex);
@@ -57,6 +67,9 @@ SingleInstance::SingleInstance() : shared_(std::make_shared<Shared>()) { shared_
 SingleInstance::~SingleInstance() {
     const std::lock_guard lock(shared_->mutex);
     shared_->owner = nullptr;
+    shared_->withdraw();
+    // Of this too the bus library's thread would take notice.
+    disconnect(this, &QObject::destroyed, nullptr, nullptr);
 }
 
 std::function<void(const QDBusConnection&)> SingleInstance::claim() const {

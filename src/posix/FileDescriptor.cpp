@@ -1,6 +1,7 @@
 #include "posix/FileDescriptor.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -48,6 +49,17 @@ std::optional<std::string> readAll(int descriptor) {
     bytes.resize(length);
     bytes.shrink_to_fit();
     return bytes;
+}
+
+std::optional<std::string> readFile(const std::string& path) {
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!file.isOpen())
+        return std::nullopt;
+    struct stat status {};
+    if (::fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode))
+        return readAll(file.get());
+    errno = EINVAL;
+    return std::nullopt;
 }
 
 } // namespace zarvil::posix

@@ -34,5 +34,8 @@ private:
 [[nodiscard]] bool writeAll(int descriptor, std::string_view bytes);
 /// Reads to the end; nothing on failure, with the reason in `errno`.
 [[nodiscard]] std::optional<std::string> readAll(int descriptor);
+/// The same for a regular file; whatever else bears the name is not waited for. `ENOENT` says that
+/// there is none.
+[[nodiscard]] std::optional<std::string> readFile(const std::string& path);
 
 } // namespace zarvil::posix

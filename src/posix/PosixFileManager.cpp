@@ -208,12 +208,7 @@ std::vector<std::string> PosixFileManager::visibleContentsOfDirectory(std::strin
 std::optional<std::string> PosixFileManager::readText(std::string_view path) const try {
     if (hasNul(path))
         return std::nullopt;
-    const FileDescriptor file(
-        ::open(std::string(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    struct stat status {};
-    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-    auto text = readAll(file.get());
+    auto text = readFile(std::string(path));
     if (!text || !isValidUtf8(*text))
         return std::nullopt;
     return text;

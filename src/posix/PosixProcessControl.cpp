@@ -8,9 +8,9 @@
 
 namespace zarvil::posix {
 
-void PosixProcessControl::kill(std::int64_t processIdentifier) {
-    if (processIdentifier > 0 && processIdentifier <= std::numeric_limits<pid_t>::max())
-        ::kill(static_cast<pid_t>(processIdentifier), SIGKILL);
+bool PosixProcessControl::kill(std::int64_t processIdentifier) {
+    return processIdentifier > 0 && processIdentifier <= std::numeric_limits<pid_t>::max() &&
+           ::kill(static_cast<pid_t>(processIdentifier), SIGKILL) == 0;
 }
 
 void PosixProcessControl::exit(int status) {

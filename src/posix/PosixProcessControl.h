@@ -8,7 +8,7 @@ namespace zarvil::posix {
 /// processes (0 and below) end nothing.
 class PosixProcessControl final : public ProcessControl {
 public:
-    void kill(std::int64_t processIdentifier) override;
+    bool kill(std::int64_t processIdentifier) override;
     void exit(int status) override;
 };
 

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QPushButton>
-#include <QSettings>
 #include <QStyle>
 #include <QTabWidget>
 #include <QTest>
@@ -26,23 +25,24 @@ protected:
         return QTest::qWaitFor([&] { return appearance.look() == look; });
     }
 
-    QSettings settings{path("host.ini"), QSettings::IniFormat};
+    posix::SettingsFile settings{path("host.ini").toStdString(), [] {}};
     QPalette desktop = QApplication::palette();
 };
 
 TEST_F(AppearanceTest, followsThePortalAndRemembersItForTheNextStart) {
     for (const bool old : {false, true}) {
-        settings.clear();
+        QFile::remove(path("host.ini"));
+        posix::SettingsFile fresh(path("host.ini").toStdString(), [] {});
         PrivateBus bus;
         fake::Portal portal(bus.connect("portal"), old);
         portal.values = {{"color-scheme", 1U}, {"contrast", 1U}};
         BusConnection session(bus.options());
-        Appearance appearance(AppearanceChoice::Auto, settings);
+        Appearance appearance(AppearanceChoice::Auto, fresh);
         EXPECT_FALSE(isDark(QApplication::palette()));
         appearance.follow(session);
         ASSERT_TRUE(becomes(appearance, {true, true})) << old;
         EXPECT_EQ(QApplication::palette(), paletteFor({true, true}));
-        EXPECT_EQ(Appearance(AppearanceChoice::Auto, settings).look(), (Look{true, true}));
+        EXPECT_EQ(Appearance(AppearanceChoice::Auto, fresh).look(), (Look{true, true}));
         portal.announce("org.gnome.desktop", "color-scheme", 2);
         portal.change("accent-color", 2);
         portal.change("contrast", 0);
@@ -57,13 +57,14 @@ TEST_F(AppearanceTest, nothingMovesWhereTheUserWantsLessMotionByEitherKey) {
     const auto moves = [] { return QApplication::isEffectEnabled(Qt::UI_General); };
     for (const auto& [key, still, moving] :
          {std::tuple("reduced-motion", 1U, 0U), std::tuple("enable-animations", 0U, 1U)}) {
-        settings.clear();
+        QFile::remove(path("host.ini"));
+        posix::SettingsFile fresh(path("host.ini").toStdString(), [] {});
         PrivateBus bus;
         fake::Portal portal(bus.connect("portal"));
         portal.values = {{"reduced-motion", 0U}, {"enable-animations", true}};
         portal.values[key] = still;
         BusConnection session(bus.options());
-        Appearance appearance(AppearanceChoice::Auto, settings);
+        Appearance appearance(AppearanceChoice::Auto, fresh);
         EXPECT_TRUE(moves());
         appearance.follow(session);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !moves(); })) << key;
@@ -75,7 +76,7 @@ TEST_F(AppearanceTest, nothingMovesWhereTheUserWantsLessMotionByEitherKey) {
 }
 
 TEST_F(AppearanceTest, withoutAPortalTheDesktopsPaletteDecides) {
-    settings.setValue("appearance/scheme", 1); // of a start with a portal, gone since
+    settings.setValue("appearance", "scheme", "1"); // of a start with a portal, gone since
     QApplication::setPalette(paletteFor({false, false}));
     PrivateBus bus;
     BusConnection session(bus.options());

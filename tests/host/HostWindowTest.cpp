@@ -5,8 +5,10 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScreen>
-#include <QSettings>
 #include <QSignalSpy>
+
+#include <csignal>
+#include <sys/resource.h>
 
 namespace zarvil::host {
 namespace {
@@ -28,7 +30,7 @@ protected:
         ASSERT_TRUE(QMetaObject::invokeMethod(pane, "decide", Q_ARG(bool, leave)));
     }
 
-    QSettings settings{path("host.ini"), QSettings::IniFormat};
+    posix::SettingsFile settings{path("host.ini").toStdString(), [] {}};
     std::unique_ptr<HostWindow> window;
     std::unique_ptr<QSignalSpy> closed;
     std::optional<BundleFailure> failure;
@@ -142,8 +144,8 @@ TEST_F(HostWindowTest, withoutAnyLoadablePaneItStaysHidden) {
 
 TEST_F(HostWindowTest, thePlaceOfTheWindowIsKept) {
     makeBundle("A");
-    for (const QByteArray& stored : {QByteArray(), QByteArray("garbage")}) {
-        settings.setValue("window/geometry", stored);
+    for (const char* stored : {"", "garbage"}) {
+        settings.setValue("window", "geometry", stored);
         openWindow();
         EXPECT_TRUE(window->isVisible());
         const QRect room = window->screen()->availableGeometry();
@@ -155,6 +157,31 @@ TEST_F(HostWindowTest, thePlaceOfTheWindowIsKept) {
         EXPECT_EQ(window->geometry(), place);
         window->close();
     }
+}
+
+TEST_F(HostWindowTest, aFullDiskTakesNothingOfWhatWasRemembered) {
+    makeBundle("A");
+    openWindow();
+    window->close();
+    QFile file(path("host.ini"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray stored = file.readAll();
+    openWindow();
+    const QRect place(60, 40, 640, 480);
+    window->setGeometry(place);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit full{static_cast<rlim_t>(stored.size()) - 1, usual.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &full);
+    window->close();
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    QFile after(path("host.ini"));
+    ASSERT_TRUE(after.open(QIODevice::ReadOnly));
+    EXPECT_EQ(after.readAll(), stored);
+    openWindow();
+    EXPECT_EQ(window->geometry(), place) << "what could not be stored holds";
 }
 
 } // namespace

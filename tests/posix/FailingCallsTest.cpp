@@ -2,12 +2,17 @@
 #include "PaneOnFakes.h"
 #include "PosixHarness.h"
 #include "pane/Product.h"
+#include "posix/FileDescriptor.h"
+#include "posix/PosixProcessControl.h"
 #include "posix/PosixScriptRunner.h"
+#include "posix/SettingsFile.h"
 #include "protocol/Messages.h"
 #include "scripts/ZVScriptCollectionItem.h"
 
+#include <array>
 #include <condition_variable>
 #include <mutex>
+#include <sys/socket.h>
 
 namespace zarvil::posix {
 namespace {
@@ -15,10 +20,41 @@ namespace {
 /// What the user must be told.
 enum class Due { Alert, Note, Nothing };
 
+/// Another process, which is nobody's child here and ends with this object.
+class Stranger {
+public:
+    Stranger() {
+        std::array<int, 2> ends{};
+        EXPECT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()), 0);
+        ours_ = FileDescriptor(ends[0]);
+        const FileDescriptor theirs(ends[1]);
+        const pid_t parent = ::fork();
+        if (parent == 0) {
+            ours_.close();
+            if (pid_t self = ::fork() == 0 ? ::getpid() : 0; self != 0) {
+                static_cast<void>(!::write(theirs.get(), &self, sizeof self));
+                static_cast<void>(!::read(theirs.get(), &self, sizeof self));
+            }
+            ::_exit(0);
+        }
+        ::waitpid(parent, nullptr, 0);
+        EXPECT_EQ(::read(ours_.get(), &process, sizeof process), ssize_t{sizeof process});
+    }
+
+    pid_t process = 0;
+
+private:
+    FileDescriptor ours_;
+};
+
 /// A pane on the real file system, with scripts that really run.
 class World {
 public:
     explicit World(PosixFileManager& files) : fakes(&files, &runner_) {
+        fakes.workspace.running = {{fakes.workspace.mainBundleIdentifier(), host_.process}};
+        fakes.processes.killing = [this](std::int64_t process) {
+            return isHostKilled = PosixProcessControl().kill(process);
+        };
         fakes.pane.mainViewDidLoad();
         fakes.pane.willSelect();
         fakes.pane.createNewScript.setAction("create:");
@@ -81,8 +117,11 @@ private:
                                   arrived_.notify_one();
                               }};
 
+    Stranger host_;
+
 public:
     PaneOnFakes fakes;
+    bool isHostKilled = false;
 };
 
 class FailingCallsTest : public PosixHarness {
@@ -200,7 +239,7 @@ TEST_F(FailingCallsTest, eachOnceLosesNothingAndIsToldOfWhereTheUserMustKnow) {
         {"uninstall", [](World& world) { world.fakes.pane.performAction("unistall:", nullptr); },
          [this](World& world) {
              return !fs::exists(home / "Applications/Zarvil.app") &&
-                    !world.fakes.processes.log.empty();
+                    world.isHostKilled != (world.fakes.processes.log.back() == "exit 0");
          },
          due(Due::Nothing), keeps,
          [this] { fs::create_directories(home / "Applications/Zarvil.app"); }},
@@ -213,6 +252,31 @@ TEST_F(FailingCallsTest, eachOnceLosesNothingAndIsToldOfWhereTheUserMustKnow) {
                 ++call;
             EXPECT_GT(call, 2) << task.name << " makes calls";
         }
+}
+
+TEST_F(FailingCallsTest, settingsAreKeptUntilTheyCanBeWrittenAndHarmNoOthers) {
+    const std::string path = (home / "config/settings.ini").string();
+    for (int error = 0; error < failing::errorsOfACall; ++error) {
+        std::string failed = "none yet";
+        for (int call = 1; !failed.empty(); ++call) {
+            fs::remove_all(home / "config");
+            SettingsFile(path, [] {}).setValue("window", "former", "1");
+            int faults = 0;
+            SettingsFile settings(path, [&] { ++faults; });
+            failing::arm(call, error);
+            settings.setValue("tabs", "new", "2");
+            failed = failing::disarm();
+            SCOPED_TRACE("call " + std::to_string(call) + " " + failed);
+            EXPECT_EQ(settings.value("tabs", "new"), "2");
+            EXPECT_EQ(settings.value("window", "new"), "");
+            const std::string text = get(path);
+            const bool isWritten = text == "[window]\nformer=1\n[tabs]\nnew=2\n";
+            EXPECT_TRUE(isWritten || text == "[window]\nformer=1\n") << text;
+            EXPECT_EQ(faults, isWritten ? 0 : 1);
+            settings.setValue("window", "next", "3");
+            EXPECT_EQ(get(path), "[window]\nnext=3\nformer=1\n[tabs]\nnew=2\n");
+        }
+    }
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 #include "FailingCalls.h"
 
+#include <csignal>
 #include <cstdarg>
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
 #include <sys/types.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace zarvil::failing {
@@ -58,6 +60,17 @@ ZARVIL_FAILING(int, -1, socketpair, starting, (int domain, int type, int protoco
 ZARVIL_FAILING(pid_t, -1, fork, starting, (), ())
 ZARVIL_FAILING(int, -1, poll, waiting, (pollfd * files, nfds_t count, int timeout),
                (files, count, timeout))
+
+// The system never refuses it for a process's own child.
+int __real_kill(pid_t process, int number);
+int __wrap_kill(pid_t process, int number) {
+    siginfo_t end{};
+    const bool isChild = process > 0 && ::waitid(P_PID, static_cast<id_t>(process), &end,
+                                                 WEXITED | WNOHANG | WNOWAIT) == 0;
+    return !isChild && zarvil::failing::fails("kill", zarvil::failing::ending)
+               ? -1
+               : __real_kill(process, number);
+}
 
 int __real_open(const char* path, int flags, ...);
 int __wrap_open(const char* path, int flags, ...) {

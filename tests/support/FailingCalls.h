@@ -19,6 +19,7 @@ using Errors = std::array<int, errorsOfACall>;
 inline constexpr Errors writing{ENOSPC, EIO, EDQUOT, EINTR};
 inline constexpr Errors reading{EIO, EINTR, EIO, EINTR};
 inline constexpr Errors changing{EACCES, ENOENT, EROFS, ENOSPC};
+inline constexpr Errors ending{EPERM, ESRCH, EPERM, ESRCH};
 inline constexpr Errors starting{EAGAIN, ENOMEM, EMFILE, ENFILE};
 
 inline std::atomic<int> callsLeft{0}; ///< the last of them fails

@@ -3,7 +3,9 @@
 #include "pane/Platform.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -198,11 +200,13 @@ public:
 
 class ProcessControl final : public zarvil::ProcessControl {
 public:
-    void kill(std::int64_t processIdentifier) override {
+    bool kill(std::int64_t processIdentifier) override {
         log.push_back("kill " + std::to_string(processIdentifier));
+        return killing(processIdentifier);
     }
     void exit(int status) override { log.push_back("exit " + std::to_string(status)); }
 
+    std::function<bool(std::int64_t)> killing = [](std::int64_t) { return true; };
     std::vector<std::string> log;
 };
 

@@ -2,30 +2,31 @@
 
 #include "bus/BusConnection.h"
 
+#include <QByteArrayList>
 #include <QFile>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cerrno>
 #include <csignal>
-#include <sys/prctl.h>
-#include <sys/types.h>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 namespace zarvil {
 
 /// A message bus of the test's own, listening in a temporary folder: in health, hung (`freeze`) or
-/// absent (`stop`). Ends with its owner, even when that crashes.
+/// absent (`stop`). Ends with its owner, even when that crashes. The thread sanitizer does not
+/// survive QProcess, so the system starts it.
 class PrivateBus {
 public:
-    explicit PrivateBus(
-        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
-        daemon_.setProcessEnvironment(environment);
-        start();
-    }
+    PrivateBus() { start(); }
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
     ~PrivateBus() {
@@ -51,28 +52,52 @@ public:
 
     /// Returns once the bus listens; after `stop` it does so at the same address.
     void start() {
-        daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        daemon_.setStandardErrorFile(QProcess::nullDevice());
-        daemon_.start("dbus-daemon",
-                      {"--session", "--nofork", "--print-address", "--address=" + address()});
-        ASSERT_TRUE(daemon_.waitForReadyRead()) << qPrintable(daemon_.errorString());
+        std::array<int, 2> pipe{};
+        ASSERT_EQ(::pipe2(pipe.data(), O_CLOEXEC), 0);
+        posix_spawn_file_actions_t files;
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_adddup2(&files, pipe[1], STDOUT_FILENO);
+        posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        QByteArrayList words{"setpriv",
+                             "--pdeathsig",
+                             "KILL",
+                             "dbus-daemon",
+                             "--session",
+                             "--nofork",
+                             "--print-address",
+                             "--address=" + address().toUtf8()};
+        std::vector<char*> arguments;
+        for (QByteArray& word : words)
+            arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        EXPECT_EQ(
+            ::posix_spawnp(&daemon_, arguments[0], &files, nullptr, arguments.data(), environ), 0);
+        posix_spawn_file_actions_destroy(&files);
+        ::close(pipe[1]);
+        QFile said;
+        EXPECT_TRUE(said.open(pipe[0], QIODevice::ReadOnly, QFile::AutoCloseHandle));
+        EXPECT_TRUE(said.readLine().startsWith("unix:")) << "the bus does not start";
     }
 
     void stop() {
-        daemon_.kill();
-        daemon_.waitForFinished();
+        if (daemon_ <= 0)
+            return;
+        ::kill(daemon_, SIGKILL);
+        while (::waitpid(daemon_, nullptr, 0) < 0 && errno == EINTR) {
+        }
+        daemon_ = 0;
         QFile::remove(socket());
     }
 
     /// Keeps the bus from reading and answering anything until `resume`; it takes connections.
-    void freeze() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP); }
-    void resume() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT); }
+    void freeze() { ::kill(daemon_, SIGSTOP); }
+    void resume() { ::kill(daemon_, SIGCONT); }
 
 private:
     [[nodiscard]] QString socket() const { return folder_.filePath("bus"); }
 
     QTemporaryDir folder_;
-    QProcess daemon_;
+    pid_t daemon_ = 0;
     QStringList connections_;
 };
 

@@ -9,41 +9,44 @@ namespace zarvil {
 
 namespace {
 
-constexpr std::array identityKeys{payload::deviceName, payload::deviceVendor,
-                                  payload::deviceSerial};
+/// Name, vendor and serial of a device; null where one is missing or is no string.
+using Identity = std::array<const std::string*, 3>;
 
-bool hasIdentity(const Dictionary& device) {
-    return std::ranges::all_of(identityKeys, [&device](std::string_view key) {
-        return device.stringForKey(key) != nullptr;
-    });
+Identity identityOf(const Dictionary& device) {
+    return {device.stringForKey(payload::deviceName), device.stringForKey(payload::deviceVendor),
+            device.stringForKey(payload::deviceSerial)};
 }
 
-bool isSameDevice(const Dictionary& left, const Dictionary& right) {
-    return std::ranges::all_of(identityKeys, [&left, &right](std::string_view key) {
-        const std::string* text = left.stringForKey(key);
-        const std::string* other = right.stringForKey(key);
-        return text && other && *text == *other;
-    });
+bool isComplete(const Identity& identity) {
+    return std::ranges::none_of(identity, [](const std::string* text) { return text == nullptr; });
 }
 
-std::size_t identityHash(const Dictionary& device) {
-    if (!hasIdentity(device))
+std::size_t identityHash(const Dictionary& device, const Identity& identity) {
+    if (!isComplete(identity))
         return contentHash(device);
     std::size_t hash = 0;
-    for (const std::string_view key : identityKeys) {
+    for (const std::string* text : identity) {
         constexpr std::size_t multiplier = 0x9e3779b97f4a7c15U; // 2^64 divided by the golden ratio
-        hash = hash * multiplier + std::hash<std::string_view>{}(*device.stringForKey(key));
+        hash = hash * multiplier + std::hash<std::string>{}(*text);
     }
     return hash;
 }
 
 } // namespace
 
-std::size_t deviceHash(const MutableRecord& device) { return identityHash(device.contents()); }
+std::size_t deviceHash(const MutableRecord& device) {
+    return identityHash(device.contents(), identityOf(device.contents()));
+}
 
 Record firstSameDevice(const ArrayController& list, const Dictionary& device) {
-    return list.firstOfHash(identityHash(device), [&device](const Record& record) {
-        return isSameDevice(record->contents(), device);
+    const Identity identity = identityOf(device);
+    if (list.empty() || !isComplete(identity))
+        return nullptr;
+    return list.firstOfHash(identityHash(device, identity), [&identity](const Record& record) {
+        return std::ranges::equal(identityOf(record->contents()), identity,
+                                  [](const std::string* left, const std::string* right) {
+                                      return left && *left == *right;
+                                  });
     });
 }
 

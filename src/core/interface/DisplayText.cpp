@@ -76,6 +76,8 @@ std::size_t characterStart(std::string_view utf8, std::size_t place) {
     return place;
 }
 
+bool isAscii(char character) { return static_cast<unsigned char>(character) < 0x80; }
+
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 /// U+00C0 to U+00FF, small and without accents; the others stand for themselves.
@@ -88,15 +90,14 @@ void appendFolded(std::string& key, std::string_view sequence) {
     const bool isLatin = isBetween(character, firstLatin, 0xFF);
     if (isLatin && latinLetters[character - firstLatin] != '?')
         key += latinLetters[character - firstLatin];
-    else if (isBetween(character, 'A', 'Z'))
-        key += static_cast<char>(character - 'A' + 'a');
     else
         key += sequence;
 }
 
 /// The number's length goes before its digits, so that a longer number follows a shorter one.
 std::size_t appendNumber(std::string& key, std::string_view text) {
-    const std::size_t end = std::min(text.find_first_not_of("0123456789"), text.size());
+    const auto* const behind = std::ranges::find_if_not(text, isDigit);
+    const auto end = static_cast<std::size_t>(behind - text.begin());
     const std::size_t first = std::min(text.find_first_not_of('0'), end);
     const std::size_t digits = end - first; // in two bytes: below `longestShownLine`
     key += '0';
@@ -125,11 +126,16 @@ std::string naturalSortKey(std::string_view utf8) {
     std::string key;
     utf8 = utf8.substr(0, longestShownLine);
     while (!utf8.empty()) {
-        std::size_t length = std::max<std::size_t>(utf8SequenceLength(utf8), 1);
-        if (isDigit(utf8.front()))
+        const char first = utf8.front();
+        std::size_t length = 1;
+        if (isDigit(first)) {
             length = appendNumber(key, utf8);
-        else
+        } else if (isAscii(first)) {
+            key += first >= 'A' && first <= 'Z' ? static_cast<char>(first - 'A' + 'a') : first;
+        } else {
+            length = std::max(utf8SequenceLength(utf8), length);
             appendFolded(key, utf8.substr(0, length));
+        }
         utf8.remove_prefix(length);
     }
     return key;

@@ -36,8 +36,8 @@ void Zarvil_Preferences::unistall(Control* /*sender*/) {
     removeQuietly(platform_.files, library + std::string(product::paneBundle));
     removeQuietly(platform_.files, library + std::string(product::agentSettings));
     platform_.modal.stopModal();
-    // A host that the session does not list is this process still: the pane must not stay usable
-    // without its files.
+    // A host that the session does not list, or that cannot be killed, is this process still: the
+    // pane must not stay usable without its files.
     if (!killHost())
         platform_.processes.exit(0);
 }

@@ -43,7 +43,8 @@ Guidance::Guidance(Outlets& outlets, const StringTable& strings)
     chooseDevices.setAction("chooseDevices:");
     observeOutlets();
     showAgent();
-    showDevices();
+    showCount(connectedCount, outlets_.arrayController);
+    showCount(watchedCount, outlets_.savedArrayController);
     showWhatIsNotStored();
 }
 
@@ -54,11 +55,14 @@ void Guidance::observeOutlets() {
     };
     follow(outlets_.onDesc.hiddenProperty(), &Guidance::showStatus);
     follow(selectedTab_, &Guidance::showStatus);
-    for (const ArrayController* list : {&outlets_.arrayController, &outlets_.savedArrayController})
-        subscriptions_.push_back(list->observe([this](const ListChange&) {
-            showDevices();
+    subscriptions_.push_back(outlets_.arrayController.observe(
+        [this](const ListChange&) { showCount(connectedCount, outlets_.arrayController); }));
+    subscriptions_.push_back(outlets_.savedArrayController.observe([this](const ListChange&) {
+        showCount(watchedCount, outlets_.savedArrayController);
+        // It counts them only then.
+        if (isProtectionOn(outlets_))
             showStatus();
-        }));
+    }));
     follow(outlets_.toggleMinSec.enabledProperty(), &Guidance::showDelayHint);
     follow(outlets_.toggleMinSec.stateProperty(), &Guidance::showDelayHint);
     follow(outlets_.shutdownDelayText.enabledProperty(), &Guidance::showDelayHint);
@@ -72,6 +76,9 @@ void Guidance::observeOutlets() {
 }
 
 void Guidance::agentDidAnswer() {
+    // Every message of the agent is one answer more.
+    if (presence_ == Presence::Running && !launching_)
+        return;
     launching_ = false;
     setPresence(Presence::Running);
 }
@@ -91,11 +98,16 @@ void Guidance::launchDidBegin(bool possible) {
 }
 
 void Guidance::deviceDidConnect(const Dictionary& device) {
-    announce(strings_.localizedString("Connected: %1", {deviceName(device, strings_)}));
+    announceDevice("Connected: %1", device);
 }
 
 void Guidance::deviceDidDisconnect(const Dictionary& device) {
-    announce(strings_.localizedString("Disconnected: %1", {deviceName(device, strings_)}));
+    announceDevice("Disconnected: %1", device);
+}
+
+void Guidance::announceDevice(std::string_view words, const Dictionary& device) {
+    if (!announcements_.empty())
+        announce(strings_.localizedString(words, {deviceName(device, strings_)}));
 }
 
 void Guidance::testDidChange(bool running) {
@@ -206,13 +218,9 @@ void Guidance::showAgent() {
         agentHint.setStringValue(text("Launch it to see your devices and change the settings."));
 }
 
-void Guidance::showDevices() {
-    const auto count = [](TextField& field, const ArrayController& list) {
-        field.setHidden(list.empty());
-        field.setIntegerValue(static_cast<std::int64_t>(list.arrangedObjects().size()));
-    };
-    count(connectedCount, outlets_.arrayController);
-    count(watchedCount, outlets_.savedArrayController);
+void Guidance::showCount(TextField& field, const ArrayController& list) {
+    field.setHidden(list.empty());
+    field.setIntegerValue(static_cast<std::int64_t>(list.arrangedObjects().size()));
     devicesHint.setHidden(outlets_.arrayController.empty() &&
                           outlets_.savedArrayController.empty());
 }

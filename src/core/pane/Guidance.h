@@ -89,11 +89,12 @@ private:
     [[nodiscard]] std::string protectionInWords() const;
     void performAction(std::string_view action, Control* sender) override;
     void setPresence(Presence presence);
+    void announceDevice(std::string_view words, const Dictionary& device);
 
     void observeOutlets();
     void showStatus();
     void showAgent();
-    void showDevices();
+    void showCount(TextField& field, const ArrayController& list);
     void showDelayHint();
     void showTest();
     void showWhatIsNotStored();

@@ -143,8 +143,7 @@ bool Zarvil_Preferences::killHost() {
     // Without an identifier of its own the host cannot be told from others without one.
     if (identifier.empty() || host == running.end())
         return false;
-    platform_.processes.kill(host->processIdentifier);
-    return true;
+    return platform_.processes.kill(host->processIdentifier);
 }
 
 } // namespace zarvil

@@ -11,8 +11,8 @@ class ProcessControl : NonCopyable {
 public:
     virtual ~ProcessControl() = default;
 
-    /// Sends SIGKILL.
-    virtual void kill(std::int64_t processIdentifier) = 0;
+    /// Sends SIGKILL; false if the system refuses.
+    virtual bool kill(std::int64_t processIdentifier) = 0;
     /// Ends this process; does not return outside tests.
     virtual void exit(int status) = 0;
 };

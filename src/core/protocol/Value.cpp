@@ -74,6 +74,12 @@ Dictionary Dictionary::ofEntries(Entries entries) {
 }
 
 const Value* Dictionary::objectForKey(std::string_view key) const {
+    // Most differ in length already, so that a short walk needs fewer comparisons of text.
+    constexpr std::size_t fewEntries = 8;
+    if (entries_.size() <= fewEntries) {
+        const auto found = std::ranges::find(entries_, key, &Entry::key);
+        return found == entries_.end() ? nullptr : &found->value;
+    }
     const auto found = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
     return found == entries_.end() || found->key != key ? nullptr : &found->value;
 }

@@ -1,19 +1,14 @@
 #pragma once
 
 #include "platform/UserDefaults.h"
+#include "posix/SettingsFile.h"
 
-#include <QByteArray>
 #include <QString>
-
-#include <functional>
-#include <map>
-#include <string>
 
 namespace zarvil {
 
 /// The user's defaults in an INI file. A file that cannot be read or written is reported to the
-/// log once; what was set still holds for as long as this object lives, and goes with the next
-/// write. Qt's own settings would leave an empty file where the disk is full.
+/// log once.
 class QtUserDefaults final : public UserDefaults {
 public:
     explicit QtUserDefaults(const QString& path = userFile());
@@ -26,14 +21,7 @@ public:
     void setBool(bool value, std::string_view key) override;
 
 private:
-    [[nodiscard]] bool read();
-    [[nodiscard]] bool write();
-    void report();
-
-    QString path_;
-    QByteArray content_; ///< of the file, with lines that nobody understands
-    std::map<std::string, bool, std::less<>> unwritten_;
-    bool reported_ = false;
+    posix::SettingsFile file_;
 };
 
 } // namespace zarvil

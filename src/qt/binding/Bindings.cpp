@@ -57,8 +57,11 @@ void showAttributes(QLabel& label, const AttributedString& text) {
 } // namespace
 
 void bindView(View& model, QWidget& widget, Subscriptions& kept) {
-    kept.push_back(model.hiddenProperty().observe(
-        [&widget](bool hidden, Transition) { widget.setVisible(!hidden); }));
+    kept.push_back(model.hiddenProperty().observe([&widget](bool hidden, Transition) {
+        // What nobody hid comes up with its window, and is not laid out before.
+        if (hidden || widget.testAttribute(Qt::WA_WState_ExplicitShowHide))
+            widget.setVisible(!hidden);
+    }));
     kept.push_back(model.alphaProperty().observe([&widget](double alpha, Transition transition) {
         showOpacity(widget, alpha, transition);
     }));

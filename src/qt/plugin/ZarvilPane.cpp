@@ -35,9 +35,9 @@ class FlushingProcessControl final : public ProcessControl {
 public:
     explicit FlushingProcessControl(DBusMessageCenter& messages) : messages_(messages) {}
 
-    void kill(std::int64_t processIdentifier) override {
+    bool kill(std::int64_t processIdentifier) override {
         messages_.flush();
-        processes_.kill(processIdentifier);
+        return processes_.kill(processIdentifier);
     }
     void exit(int status) override {
         messages_.flush();

@@ -42,7 +42,9 @@ Column::Column(QWidget* parent) : QWidget(parent) {
 void Column::setVerticalMargins(int top, int bottom) {
     top_ = top;
     bottom_ = bottom;
-    adoptMargins();
+    // The sides follow the font and the width, once the column is given one.
+    if (layout())
+        layout()->setContentsMargins(theme::sideMargin, top, theme::sideMargin, bottom);
 }
 
 int Column::columnWidth(int span) const {
@@ -78,6 +80,8 @@ QSize Column::minimumSizeHint() const {
 }
 
 QSize Column::sizeHint() const {
+    if (!layout())
+        return {};
     const int width = theme::widestColumn(*this) + 2 * theme::sideMargin;
     return {width, heightForWidth(width)};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qt/widgets/Arranger.h"
+
 #include <QCheckBox>
 #include <QFrame>
 #include <QScrollArea>
@@ -81,27 +83,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-};
-
-/// A widget that arranges its children itself, by width. Qt hears of their changes, also while all
-/// is hidden, through a layout that only passes its questions on.
-class Arranger : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit Arranger(QWidget* parent);
-
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
-
-protected:
-    bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    /// Gives the children their places within the present size.
-    virtual void arrangeChildren() = 0;
-
-private:
-    class Layout;
 };
 
 /// Lays out its children by what they are told in the dynamic property "place": "start" for a
@@ -209,24 +190,6 @@ protected:
 
 private:
     bool prominent_ = false;
-};
-
-/// Sets its children one after the other and wraps where they do not fit.
-class Flow final : public Arranger {
-    Q_OBJECT
-
-public:
-    explicit Flow(QWidget* parent = nullptr);
-
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] int heightForWidth(int width) const override;
-
-protected:
-    void arrangeChildren() override;
-
-private:
-    int arrange(int width, bool apply) const;
 };
 
 /// A box of two equal parts beside each other, or below each other where that is too narrow.

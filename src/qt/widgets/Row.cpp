@@ -3,10 +3,8 @@
 #include "qt/widgets/TextLabel.h"
 #include "qt/widgets/Theme.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QLayout>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
@@ -22,93 +20,7 @@ constexpr int sectionBelow = 8;
 constexpr int pictureGap = 14;
 constexpr int bannerPictureShift = 6;
 
-/// Whether the child takes room: it is shown, or its room is kept.
-bool takesRoom(const QWidget& child) {
-    return !child.isWindow() && (!child.isHidden() || child.sizePolicy().retainSizeWhenHidden());
-}
-
-template <typename Callback>
-void forEachChild(const QWidget& parent, Callback&& callback) {
-    for (QObject* object : parent.children())
-        if (auto* child = qobject_cast<QWidget*>(object); child && takesRoom(*child))
-            callback(child);
-}
-
-/// What a child would like, by the rules that hold on all pages.
-QSize wishOf(const QWidget& child) {
-    if (const auto* button = qobject_cast<const QPushButton*>(&child))
-        return theme::buttonSize(*button);
-    QSize wish = child.sizeHint().expandedTo(child.minimumSizeHint());
-    if (const int digits = child.property("digits").toInt(); digits > 0)
-        wish.setWidth(child.minimumSizeHint().width() +
-                      digits * child.fontMetrics().horizontalAdvance(u'0'));
-    return wish.expandedTo(child.minimumSize()).boundedTo(child.maximumSize());
-}
-
-int heightOf(const QWidget& child, int width) {
-    return child.hasHeightForWidth() ? child.heightForWidth(width) : wishOf(child).height();
-}
-
 } // namespace
-
-// Arranger
-
-class Arranger::Layout final : public QLayout {
-public:
-    explicit Layout(Arranger& arranger) : QLayout(&arranger), arranger_(arranger) {
-        setContentsMargins(0, 0, 0, 0);
-        // The widget says itself how small it may become.
-        setSizeConstraint(QLayout::SetNoConstraint);
-    }
-
-    [[nodiscard]] QSize sizeHint() const override { return arranger_.sizeHint(); }
-    [[nodiscard]] QSize minimumSize() const override { return arranger_.minimumSizeHint(); }
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
-    /// A row is never higher than what it holds: what is left of a page lies below all rows.
-    [[nodiscard]] Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
-    [[nodiscard]] int heightForWidth(int width) const override {
-        return arranger_.heightForWidth(width);
-    }
-    void setGeometry(const QRect& place) override {
-        QLayout::setGeometry(place);
-        arranger_.arrangeChildren();
-    }
-
-    // It holds no items: the children are the arranger's own affair.
-    void addItem(QLayoutItem* item) override { delete item; }
-    [[nodiscard]] int count() const override { return 0; }
-    [[nodiscard]] QLayoutItem* itemAt(int /*index*/) const override { return nullptr; }
-    QLayoutItem* takeAt(int /*index*/) override { return nullptr; }
-
-private:
-    Arranger& arranger_;
-};
-
-Arranger::Arranger(QWidget* parent) : QWidget(parent) {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
-    new Layout(*this);
-}
-
-bool Arranger::event(QEvent* event) {
-    if (event->type() == QEvent::ChildAdded)
-        static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
-    return QWidget::event(event);
-}
-
-bool Arranger::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::EnabledChange)
-        update(); // the outline around the child
-    return QWidget::eventFilter(watched, event);
-}
-
-void Arranger::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    theme::paintFieldOutlines(painter, *this);
-}
-
-// Row
 
 Row::Row(QWidget* parent) : Arranger(parent) {}
 
@@ -126,14 +38,14 @@ void Row::setFollows(const QString& name) { follows_ = name; }
 
 Row::Parts Row::parts() const {
     Parts found;
-    forEachChild(*this, [&found](QWidget* child) {
+    for (QWidget* child : placedChildren()) {
         const QString place = child->property("place").toString();
         auto& group = place == QLatin1String("start")   ? found.start
                       : place == QLatin1String("label") ? found.label
                       : place == QLatin1String("end")   ? found.end
                                                         : found.text;
         group.push_back(child);
-    });
+    }
     return found;
 }
 
@@ -361,73 +273,5 @@ void BannerRow::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::cardRadius,
                             theme::cardRadius);
 }
-
-// Flow
-
-Flow::Flow(QWidget* parent) : Arranger(parent) {}
-
-int Flow::arrange(int width, bool apply) const {
-    const int gap = property("gap").isValid() ? property("gap").toInt() : theme::unit(*this);
-    struct Item {
-        QWidget* widget;
-        QRect rect;
-    };
-    std::vector<Item> line;
-    int x = 0;
-    int y = 0;
-    int height = 0;
-    const auto endLine = [&] {
-        for (Item& item : line) {
-            item.rect.moveTop(y + (height - item.rect.height()) / 2);
-            if (apply)
-                item.widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), item.rect));
-        }
-        y += height;
-        line.clear();
-        x = 0;
-        height = 0;
-    };
-    forEachChild(*this, [&](QWidget* child) {
-        int wish = std::min(wishOf(*child).width(), width);
-        // A line that may be shortened makes room for what follows it.
-        if (const auto* label = qobject_cast<const TextLabel*>(child); label && label->isElided()) {
-            int others = 0;
-            forEachChild(*this, [&](const QWidget* other) {
-                others += other == child ? 0 : wishOf(*other).width() + gap;
-            });
-            wish = std::min(wish, std::max(width - others, child->minimumSizeHint().width()));
-        }
-        if (x > 0 && x + wish > width) {
-            endLine();
-            y += theme::textGap;
-        }
-        const int childHeight = heightOf(*child, wish);
-        line.push_back({child, QRect(x, y, wish, childHeight)});
-        x += wish + gap;
-        height = std::max(height, childHeight);
-    });
-    endLine();
-    return y;
-}
-
-int Flow::heightForWidth(int width) const { return arrange(width, false); }
-
-QSize Flow::sizeHint() const {
-    constexpr int unbounded = QWIDGETSIZE_MAX;
-    int width = 0;
-    forEachChild(
-        *this, [&](const QWidget* child) { width += wishOf(*child).width() + theme::unit(*this); });
-    return {width, arrange(unbounded, false)};
-}
-
-QSize Flow::minimumSizeHint() const {
-    int width = 0;
-    forEachChild(*this, [&](const QWidget* child) {
-        width = std::max(width, child->minimumSizeHint().width());
-    });
-    return {width, theme::lineHeight(*this)};
-}
-
-void Flow::arrangeChildren() { arrange(width(), true); }
 
 } // namespace zarvil::qt

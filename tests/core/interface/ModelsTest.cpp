@@ -46,6 +46,28 @@ TEST(Property, letsObserversCancelEachOtherAndThemselvesWhileCalled) {
     outliving.cancel();
 }
 
+TEST(ObserverList, keepsWhatIsCalledUntilItReturnsThoughItsSubjectEnds) {
+    auto list = std::make_unique<ObserverList<>>();
+    std::vector<Subscription> kept;
+    std::string calls;
+    const auto add = [&](auto observer) { kept.push_back(list->add(std::move(observer))); };
+    auto owned = std::make_shared<char>('a');
+    const std::weak_ptr<char> token = owned;
+    add([&, owned] {
+        kept.front().cancel();
+        add([&calls] { calls += 'n'; });
+        if (calls.empty())
+            list->notify(); // reaches neither this one nor what ends in the course of it
+        calls += token.expired() ? '-' : *owned;
+        list.reset();
+    });
+    add([&] { calls += 'b'; });
+    owned.reset();
+    list->notify();
+    EXPECT_EQ(calls, "bnab");
+    EXPECT_TRUE(token.expired());
+}
+
 Record record(const char* name) { return makeRecord(Dictionary{{"name", name}}); }
 
 class Lists : public testing::Test {

@@ -32,14 +32,16 @@ TEST_F(Uninstall, removesThreeThingsInOrderAfterAskingTheAgentToQuitAndKillsTheF
     EXPECT_TRUE(files.files.contains(script));
 }
 
-TEST_F(Uninstall, goesOnWhenNothingCanBeRemovedAndEndsItselfWhenNoHostIsListed) {
+TEST_F(Uninstall, goesOnWhenNothingCanBeRemovedAndEndsItselfWhenNoHostIsListedOrCanBeKilled) {
     files.failing = {agent, bundle};
     files.files.erase(settingsFile);
-    workspace.running.clear();
+    processes.killing = [](std::int64_t) { return false; };
     pane.unistall(nullptr);
     EXPECT_EQ(files.log, removals);
+    workspace.running.clear();
+    pane.unistall(nullptr);
     EXPECT_TRUE(errors.presented.empty());
-    EXPECT_EQ(processes.log, std::vector<std::string>{"exit 0"});
+    EXPECT_EQ(processes.log, (std::vector<std::string>{"kill 42", "exit 0", "exit 0"}));
 }
 
 TEST_F(Uninstall, thePanelWaitsAndCancellingChangesNothing) {

@@ -6,7 +6,6 @@
 #include "bus/DBusValues.h"
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
-#include "qt/adapters/QtUserDefaults.h"
 #include "qt/adapters/QtWorkspace.h"
 
 #include <QFile>
@@ -62,14 +61,6 @@ extern "C" {
 
 ZARVIL_FAILING(ssize_t, write, writing, zarvil::isFile(file),
                (int file, const void* bytes, std::size_t count), (file, bytes, count))
-ZARVIL_FAILING(int, rename, changing, true, (const char* from, const char* to), (from, to))
-ZARVIL_FAILING(int, renameat2, changing, true,
-               (int folder, const char* from, int other, const char* to, unsigned flags),
-               (folder, from, other, to, flags))
-ZARVIL_FAILING(int, linkat, changing, true,
-               (int folder, const char* from, int other, const char* to, int flags),
-               (folder, from, other, to, flags))
-ZARVIL_FAILING(int, mkdir, changing, true, (const char* path, mode_t mode), (path, mode))
 ZARVIL_FAILING(int, pipe2, starting, true, (int* ends, int flags), (ends, flags))
 ZARVIL_FAILING(pid_t, fork, starting, true, (), ())
 ZARVIL_FAILING(ssize_t, send, sending, !zarvil::isSpared(file),
@@ -125,27 +116,6 @@ int eachFailure(Try attempt) {
     }
     testing::Test::RecordProperty("failures", failures);
     return failures;
-}
-
-TEST(FailingAdapters, aSettingOfTheHostIsKeptUntilItCanBeWrittenAndHarmsNoOther) {
-    const QTemporaryDir folder;
-    const int failures = eachFailure([&](int call, int error) {
-        const QString path =
-            folder.filePath(QStringLiteral("%1-%2/defaults.ini").arg(call).arg(error));
-        QtUserDefaults(path).setBool(true, "former");
-        QtUserDefaults defaults(path);
-        failing::arm(call, error);
-        defaults.setBool(true, "new");
-        const std::string failed = failing::disarm();
-        EXPECT_TRUE(defaults.boolForKey("new"));
-        EXPECT_TRUE(QtUserDefaults(path).boolForKey("former"));
-        EXPECT_TRUE(!failed.empty() || QtUserDefaults(path).boolForKey("new"));
-        defaults.setBool(true, "next");
-        for (const char* key : {"former", "new", "next"})
-            EXPECT_TRUE(QtUserDefaults(path).boolForKey(key)) << key;
-        return failed;
-    });
-    EXPECT_GT(failures, 10);
 }
 
 TEST(FailingAdapters, anApplicationIsStartedOrSaidNotToBe) {

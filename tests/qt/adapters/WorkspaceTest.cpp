@@ -62,9 +62,9 @@ TEST_F(QtWorkspaceTest, asksTheBusForAnAgentThatIsNotInstalled) {
     service.write("[D-BUS Service]\nName=com.Tessrow.Zarvil\nExec=" + path("agent").toUtf8() +
                   "\n");
     service.close();
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("XDG_DATA_HOME", path("data"));
-    PrivateBus bus(environment);
+    qputenv("XDG_DATA_HOME", path("data").toUtf8());
+    PrivateBus bus;
+    qunsetenv("XDG_DATA_HOME");
     BusConnection session(bus.options());
     QtWorkspace workspace(session);
     ASSERT_TRUE(session.wait(std::chrono::seconds(2)));
