@@ -126,11 +126,13 @@ class Check(SystemTest):
                        "(a{sv})", ["waits in line", "ZVPrefsLoaded alike", "setting in its type: ShutdownDelay",
                                    "same devices as connected", "forgets a device", "while it is saved too",
                                    "bears messages", "no value of a wrong type"]),
+            "idle": ({"ZVPing": pong, "ZVPrefsLoaded": [state]}, "(a{sv})",
+                     ["reports Testing", "ends a test", "ends a Pushover check", "quits on ZVQuit"]),
         }
         for kind, (replies, signature, broken) in wrong.items():
             agents = [WrongAgent(told, signature) for told in (replies, {})[:1 + (kind == "fickle")]]
             try:
-                status, rules = self.check()
+                status, rules = self.check(*("--all", "--patience", "0")[:3 * (kind == "idle")])
             finally:  # whoever owns the name at the session's end is killed
                 for agent in reversed(agents):
                     agent.bus.close_sync()

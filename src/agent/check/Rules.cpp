@@ -14,8 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto pingLimit = 2s;  // the pane gives the agent up then
-constexpr auto longLimit = 60s; // for what the agent needs the network or a test for
+constexpr auto pingLimit = 2s; // the pane gives the agent up then
 
 QString namesOf(const std::vector<Heard>& messages) {
     QStringList names;
@@ -322,9 +321,9 @@ void Rules::testing() {
     tell("reports Testing while a test of the shutdown runs",
          isOver || (testing && testing->boolValue()) ? QString() : QStringLiteral("it does not"));
     const bool ended = agent_.waitFor(
-        [&] { return agent_.countSince(moment, message::testFinished) > 0; }, longLimit);
+        [&] { return agent_.countSince(moment, message::testFinished) > 0; }, patience_);
     tell("ends a test of the shutdown with ZVTestFinished",
-         ended ? QString() : QStringLiteral("none within a minute"));
+         ended ? QString() : QStringLiteral("none in time"));
 }
 
 void Rules::pushover() {
@@ -337,9 +336,9 @@ void Rules::pushover() {
     const auto finished = [&] {
         return agent_.countSince(moment, message::pushValidationFinished);
     };
-    const bool ended = agent_.waitFor([&] { return finished() > 0; }, longLimit);
+    const bool ended = agent_.waitFor([&] { return finished() > 0; }, patience_);
     static_cast<void>(heardBeforePing());
-    QString fault = ended ? QString() : QStringLiteral("none within a minute");
+    QString fault = ended ? QString() : QStringLiteral("none in time");
     if (finished() > 1)
         fault = QString::number(finished()) + " came";
     for (std::size_t index = moment; index < agent_.heard().size(); ++index) {
@@ -368,7 +367,7 @@ void Rules::quitting() {
     agent_.send(Message(message::quit));
     QTimer look;
     look.start(50ms);
-    const bool gone = agent_.waitFor([this] { return agent_.owners().isEmpty(); }, longLimit);
+    const bool gone = agent_.waitFor([this] { return agent_.owners().isEmpty(); }, patience_);
     tell("quits on ZVQuit", gone ? QString() : QStringLiteral("it still owns its name"));
 }
 

@@ -36,7 +36,9 @@ public:
         All
     };
 
-    explicit Rules(Conversation& agent) : agent_(agent) {}
+    /// `patience` is for what the agent needs the network or a test for.
+    Rules(Conversation& agent, std::chrono::seconds patience)
+        : agent_(agent), patience_(patience) {}
 
     void check(Extent extent);
     [[nodiscard]] int broken() const { return broken_; }
@@ -73,6 +75,7 @@ private:
     void change(std::string_view key, const Value& value);
 
     Conversation& agent_;
+    std::chrono::seconds patience_;
     QString notStored_; ///< keys, with blanks
     int kept_ = 0;
     int broken_ = 0;
