@@ -4,6 +4,7 @@
 #include "Values.h"
 #include "devices/ZVCollectionItem.h"
 #include "pane/Zarvil_Preferences.h"
+#include "scripts/ScriptFile.h"
 #include "scripts/ZVScriptCollectionItem.h"
 
 #include <algorithm>
@@ -356,8 +357,7 @@ private:
         const auto index = anyScript();
         if (!index)
             return;
-        const std::string path =
-            std::string(scriptsFolder) + "/" + model_.scripts[*index] + ".zvscript";
+        const std::string path = script::filePath(ports_.files, model_.scripts[*index]);
         const bool fails =
             ports_.files.failing.contains(path) || !ports_.files.files.contains(path);
         const auto item = scriptAt(*index);

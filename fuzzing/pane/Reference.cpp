@@ -3,6 +3,7 @@
 #include "protocol/Messages.h"
 #include "protocol/Numbers.h"
 #include "protocol/Settings.h"
+#include "scripts/ScriptFile.h"
 
 #include <algorithm>
 #include <regex>
@@ -516,9 +517,7 @@ void Reference::createScript() {
         return;
     }
     // The pane has done so already, and once more does no harm: it fails as often.
-    const std::string path =
-        files_.expandingTilde("~/Library/Zarvil Scripts/") + title + ".zvscript";
-    if (files_.writeText("", path, Atomicity::Direct)) {
+    if (files_.writeText("", script::filePath(files_, title), Atomicity::Direct)) {
         ++alerts;
         return;
     }
