@@ -63,7 +63,7 @@ bool isActivatable(const QDBusConnection& connection, const QString& name, int l
     return names.value().contains(name);
 }
 
-OwnerWatch::OwnerWatch(QDBusConnection connection, const QString& name, Reports reports)
+OwnerWatch::OwnerWatch(const QDBusConnection& connection, const QString& name, Reports reports)
     : reports_(std::move(reports)),
       changes_(connection, {path, busName(), QStringLiteral("NameOwnerChanged"), {name}},
                [this](const QDBusMessage& signal) { changed(signal); }) {

@@ -50,7 +50,7 @@ public:
         std::function<void(const QString& owner)> ownerIs;
         std::function<void(const QString& from, const QString& to)> ownerChanged;
     };
-    OwnerWatch(QDBusConnection connection, const QString& name, Reports reports);
+    OwnerWatch(const QDBusConnection& connection, const QString& name, Reports reports);
 
 private:
     void changed(const QDBusMessage& signal);

@@ -4,13 +4,30 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace zarvil {
+
+/// Hands the signals that it hears to a handler, which may end it.
+class SignalListener final : public QObject {
+    Q_OBJECT
+
+public:
+    using Handler = std::function<void(const QDBusMessage&)>;
+    explicit SignalListener(Handler handler) : handler_(std::move(handler)) {}
+
+public Q_SLOTS:
+    void hear(const QDBusMessage& signal) const;
+
+private:
+    Handler handler_;
+};
 
 /// One signal of a connection, from any sender, led to a handler on the main thread for as long as
 /// this lives; the handler may end it. When the bus library closes a connection, its own thread
@@ -24,16 +41,13 @@ public:
         QString name;
         QStringList arguments{}; ///< the first ones, as they must be
     };
-    using Handler = std::function<void(const QDBusMessage&)>;
+    using Handler = SignalListener::Handler;
 
     SignalHook(QDBusConnection connection, const Signal& signal, Handler handler);
-    ~SignalHook();
 
 private:
-    class Listener;
-
     QDBusConnection connection_;
-    std::unique_ptr<Listener> listener_;
+    std::unique_ptr<SignalListener> listener_;
 };
 
 } // namespace zarvil
