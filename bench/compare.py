@@ -18,8 +18,11 @@ PROGRAMS = {
     "lxqt-powermanagement": ["lxqt-config-powermanagement"],
     "gnome-power-manager": ["gnome-power-statistics"],
 }
-# What a program needs that is running on its own desktop.
-HELPERS = [["/usr/libexec/upowerd"], ["xfce4-power-manager", "--no-daemon"]]
+# What a program needs that is running on its own desktop, and the bus and the name that tell that it is.
+HELPERS = [(["/usr/libexec/upowerd"], "--system", "org.freedesktop.UPower"),
+           (["/usr/bin/python3", "-m", "dbusmock", "--system", "--template", "logind"], "--system",
+            "org.freedesktop.login1"),
+           (["xfce4-power-manager", "--no-daemon"], "--session", "org.xfce.PowerManager")]
 START_LIMIT, SILENCE, SETTLED, IDLE = 10, 0.5, 1.0, 5.0  # seconds
 STILL = 1e6  # nanoseconds of CPU time in a look that count as rest
 SYSTEM_BUS = """<busconfig><type>system</type><listen>unix:path=%s</listen><auth>EXTERNAL</auth>
@@ -214,11 +217,13 @@ def main():
         bus = pathlib.Path(folder, "bus")
         pathlib.Path(folder, "bus.conf").write_text(SYSTEM_BUS % bus)
         os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={bus}"
-        helpers = []
-        for command in [["dbus-daemon", "--nofork", f"--config-file={folder}/bus.conf"], *HELPERS]:
-            helpers.append(subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
-            time.sleep(1)
+        helpers = [subprocess.Popen(["dbus-daemon", "--nofork", "--print-address", f"--config-file={folder}/bus.conf"],
+                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)]
+        helpers[0].stdout.readline()
         try:
+            for command, where, name in HELPERS:
+                helpers.append(subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+                subprocess.run(["gdbus", "wait", where, "--timeout", str(START_LIMIT), name], check=True)
             for what in arguments.what:
                 speed(arguments.rounds) if what == "speed" else names()
                 print()

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// A pane that holds nothing: what a host pays for any.
@@ -337,12 +338,15 @@ struct Bench {
 
 } // namespace zarvil::cocoa
 
-/// To be run under `tools/with-private-session tools/with-gnustep`.
-int main() {
+/// To be run under `tools/with-private-session tools/with-gnustep`. Given "load" it measures that
+/// alone.
+int main(int argc, char** argv) {
     const zarvil::cocoa::Pool pool;
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     [NSApplication sharedApplication];
     zarvil::cocoa::loading();
+    if (argc > 1 && std::string_view(argv[1]) == "load")
+        std::_Exit(EXIT_SUCCESS);
     {
         zarvil::cocoa::Bench bench;
         bench.redraw();

@@ -233,27 +233,19 @@ int print(const QString& text) {
 /// which it never makes again, is made to fail here; ours goes on trying.
 class HungBusHidden : NonCopyable {
 public:
-    HungBusHidden() {
-        constexpr std::chrono::milliseconds limit{500};
-        if (busAnswers(sessionBusAddress(), limit))
-            return;
-        address_ = qgetenv(variable);
-        qputenv(variable, "disabled:");
-    }
+    HungBusHidden() { qputenv(variable, "disabled:"); }
     /// Needs the application object.
     ~HungBusHidden() {
-        if (!address_)
-            return;
         [[maybe_unused]] const auto failed = QDBusConnection::sessionBus();
-        if (address_->isEmpty())
+        if (address_.isEmpty())
             qunsetenv(variable);
         else
-            qputenv(variable, *address_);
+            qputenv(variable, address_);
     }
 
 private:
     static constexpr const char* variable = "DBUS_SESSION_BUS_ADDRESS";
-    std::optional<QByteArray> address_;
+    QByteArray address_ = qgetenv(variable);
 };
 
 /// Does what a start needs beside what the main thread does, and lasts until it is done.
@@ -277,17 +269,29 @@ int endDespiteHangs(int code) {
 }
 
 int runOnDisplay(const CommandLine& commandLine, char** argv) {
-    auto hidden = std::make_optional<HungBusHidden>();
     // Fonts are a third of the work of a start: their configuration is read while the display is
     // connected, and Qt lists them while the pane is loaded.
     auto configuring = std::make_optional<Beside>([] { FcInit(); });
+    if (const auto fault = displayFault()) {
+        logFailure(*fault);
+        return exitCode::unavailable;
+    }
+    // Panes keep files under it and count on it, though nothing else here makes it. Without it a
+    // pane tells of the failure itself.
+    QDir::home().mkpath(QStringLiteral("Library"));
+    constexpr std::chrono::milliseconds limit{500};
+    std::optional<HungBusHidden> hidden;
+    if (!busAnswers(sessionBusAddress(), limit)) {
+        configuring.reset(); // it reads the environment, which changes now
+        hidden.emplace();
+    }
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
+    hidden.reset();
     const qt::Translation translation(qt::Translation::Toolkit::Adopted);
     configuring.reset();
     const Beside listing([] { QFontDatabase::families(); });
-    hidden.reset(); // changes the environment, which the other thread has read
     QApplication::setApplicationVersion(ZARVIL_VERSION);
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);
@@ -313,13 +317,6 @@ int runHost(int argc, char** argv) {
         QCoreApplication application(argc, argv);
         return endDespiteHangs(diagnose(commandLine));
     }
-    if (const auto fault = displayFault()) {
-        logFailure(*fault);
-        return exitCode::unavailable;
-    }
-    // Panes keep files under it and count on it, though nothing else here makes it. Without it a
-    // pane tells of the failure itself.
-    QDir::home().mkpath(QStringLiteral("Library"));
     return runOnDisplay(commandLine, argv);
 }
 

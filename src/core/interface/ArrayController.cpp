@@ -61,16 +61,17 @@ void ArrayController::recordWasEdited(Entry& entry) {
 
 void ArrayController::list(Entry& entry) {
     entry.before = entry.after = &entry;
-    const auto [listed, isOnly] = firstOfHash_.try_emplace(entry.hash, &entry);
-    if (isOnly)
+    Entry* const first = firstOfHash_.find(entry.hash);
+    if (!first) {
+        firstOfHash_.insert(entry);
         return;
-    Entry* const first = listed->second;
+    }
     Entry* smaller = first->before; // a new one follows the last
     while (smaller != first && smaller->serial > entry.serial)
         smaller = smaller->before;
     if (smaller->serial > entry.serial) {
         smaller = first->before;
-        listed->second = &entry;
+        firstOfHash_.replace(*first, entry);
     }
     entry.before = smaller;
     entry.after = smaller->after;
@@ -78,11 +79,10 @@ void ArrayController::list(Entry& entry) {
 }
 
 void ArrayController::unlist(Entry& entry) {
-    const auto listed = firstOfHash_.find(entry.hash);
     if (entry.after == &entry)
-        firstOfHash_.erase(listed);
-    else if (listed->second == &entry)
-        listed->second = entry.after;
+        firstOfHash_.erase(entry);
+    else if (firstOfHash_.find(entry.hash) == &entry)
+        firstOfHash_.replace(entry, *entry.after);
     entry.before->after = entry.after;
     entry.after->before = entry.before;
 }

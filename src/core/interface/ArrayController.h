@@ -1,13 +1,13 @@
 #pragma once
 
 #include "interface/ChunkedList.h"
+#include "interface/HashIndex.h"
 #include "interface/Record.h"
 #include "protocol/NonCopyable.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace zarvil {
@@ -28,10 +28,11 @@ struct ListChange {
 /// order would, in constant time.
 class ArrayController : NonCopyable {
     /// Watches its record.
-    struct Entry final : Chunked, RecordWatcher {
+    struct Entry final : Chunked, Hashed<Entry>, RecordWatcher {
         Entry(ArrayController& list, RecordSerial ownSerial, Record listed);
         ~Entry() { record->removeWatcher(*this); }
         void recordWasEdited() override { owner.recordWasEdited(*this); }
+        [[nodiscard]] std::size_t hashKey() const { return hash; }
 
         ArrayController& owner;
         RecordSerial serial;
@@ -122,16 +123,13 @@ public:
 private:
     template <typename Predicate>
     [[nodiscard]] Entry* firstEntry(std::size_t hash, Predicate&& matches) const {
-        const auto listed = firstOfHash_.find(hash);
-        if (listed == firstOfHash_.end())
-            return nullptr;
-        Entry* const first = listed->second;
-        for (Entry* entry = first;; entry = entry->after) {
+        Entry* const first = firstOfHash_.find(hash);
+        for (Entry* entry = first; entry;) {
             if (matches(entry->record))
                 return entry;
-            if (entry->after == first)
-                return nullptr;
+            entry = entry->after == first ? nullptr : entry->after;
         }
+        return nullptr;
     }
     [[nodiscard]] Entry* firstEqual(const Record& record) const;
     void recordWasEdited(Entry& entry);
@@ -139,9 +137,8 @@ private:
     void unlist(Entry& entry);
 
     Hash hash_;
-    Entries entries_; ///< with ascending serials
-    /// By serial, so that the first match is the walk's answer.
-    std::unordered_map<std::size_t, Entry*> firstOfHash_;
+    Entries entries_;              ///< with ascending serials
+    HashIndex<Entry> firstOfHash_; ///< by serial, so that the first match is the walk's answer
     RecordSerial nextSerial_ = 1;
     mutable ObserverList<const ListChange&> observers_;
 };

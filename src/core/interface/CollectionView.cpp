@@ -29,8 +29,8 @@ CollectionView::~CollectionView() {
 std::shared_ptr<CollectionViewItem> CollectionView::itemAtIndex(std::size_t index) {
     if (index >= content_.arrangedObjects().size())
         return nullptr;
-    const auto listed = rowsBySerial_.find(content_.serialAtIndex(index));
-    return listed == rowsBySerial_.end() ? nullptr : itemOf(*listed->second);
+    Row* const row = rowsBySerial_.find(content_.serialAtIndex(index));
+    return row ? itemOf(*row) : nullptr;
 }
 
 std::shared_ptr<CollectionViewItem> CollectionView::itemAtRow(std::size_t row) {
@@ -42,9 +42,8 @@ RecordSerial CollectionView::serialAtRow(std::size_t row) const {
 }
 
 std::optional<std::size_t> CollectionView::rowOfSerial(RecordSerial serial) const {
-    const auto listed = rowsBySerial_.find(serial);
-    return listed == rowsBySerial_.end() ? std::nullopt
-                                         : std::optional(rows_.indexOf(*listed->second));
+    const Row* const row = rowsBySerial_.find(serial);
+    return row ? std::optional(rows_.indexOf(*row)) : std::nullopt;
 }
 
 Subscription CollectionView::observeRows(RowObserver observer) const {
@@ -77,16 +76,15 @@ void CollectionView::insert(const ListChange& change) {
     const std::size_t place = placeOf(row.key, row.serial);
     notify(Kind::Inserted, Phase::Before, place);
     rows_.insert(place, std::move(added));
-    rowsBySerial_.emplace(row.serial, &row);
+    rowsBySerial_.insert(row);
     notify(Kind::Inserted, Phase::After, place);
 }
 
 void CollectionView::remove(RecordSerial serial) {
-    const auto listed = rowsBySerial_.find(serial);
-    const std::size_t place = rows_.indexOf(*listed->second);
+    const std::size_t place = rows_.indexOf(*rowsBySerial_.find(serial));
     notify(Kind::Removed, Phase::Before, place);
     const auto removed = rows_.take(place);
-    rowsBySerial_.erase(listed);
+    rowsBySerial_.erase(*removed);
     release(*removed);
     notify(Kind::Removed, Phase::After, place);
 }
@@ -94,7 +92,7 @@ void CollectionView::remove(RecordSerial serial) {
 void CollectionView::moveToItsPlace(RecordSerial serial) {
     if (!sortKey_)
         return;
-    Row& row = *rowsBySerial_.find(serial)->second;
+    Row& row = *rowsBySerial_.find(serial);
     std::string key = sortKey_(*row.record);
     const std::size_t from = rows_.indexOf(row);
     const std::size_t behind = placeOf(key, serial);

@@ -7,7 +7,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <unordered_map>
 
 namespace zarvil {
 
@@ -109,9 +108,10 @@ public:
 
 private:
     friend class CollectionViewItem;
-    struct Row final : Chunked {
+    struct Row final : Chunked, Hashed<Row> {
         Row(std::string sortedBy, RecordSerial ownSerial, Record shown)
             : key(std::move(sortedBy)), serial(ownSerial), record(std::move(shown)) {}
+        [[nodiscard]] std::size_t hashKey() const { return serial; }
 
         std::string key;
         RecordSerial serial;
@@ -135,7 +135,7 @@ private:
     ItemObserver itemWasMade_;
     CollectionViewDelegate* delegate_ = nullptr;
     ChunkedList<Row> rows_; ///< by key, then serial
-    std::unordered_map<RecordSerial, Row*> rowsBySerial_;
+    HashIndex<Row> rowsBySerial_;
     Property<std::size_t> rowCount_;
     mutable ObserverList<const RowChange&> observers_;
     Subscription contentChanges_;
