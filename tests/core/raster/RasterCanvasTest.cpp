@@ -112,6 +112,7 @@ TEST(RasterCanvas, lightensWithThePremultipliedFormula) {
     };
     EXPECT_EQ(pixel({0.2, 0.8, 0.4, 1}, {0.6, 0.2, 0.6, 1}),
               pixel(color::clear, {0.6, 0.8, 0.6, 1}));
+    EXPECT_EQ(pixel(color::clear, {0.2, 0.4, 0.6, 1}), 0xFFFF'9999'6666'3333U);
 }
 
 TEST(RasterCanvas, drawsALayerOnceWithTheStateOfItsBeginning) {
