@@ -269,13 +269,13 @@ int endDespiteHangs(int code) {
 }
 
 int runOnDisplay(const CommandLine& commandLine, char** argv) {
-    // Fonts are a third of the work of a start: their configuration is read while the display is
-    // connected, and Qt lists them while the pane is loaded.
-    auto configuring = std::make_optional<Beside>([] { FcInit(); });
     if (const auto fault = displayFault()) {
         logFailure(*fault);
         return exitCode::unavailable;
     }
+    // Fonts are a third of the work of a start: their configuration is read while the display is
+    // connected, and Qt lists them while the pane is loaded.
+    auto configuring = std::make_optional<Beside>([] { FcInit(); });
     // Panes keep files under it and count on it, though nothing else here makes it. Without it a
     // pane tells of the failure itself.
     QDir::home().mkpath(QStringLiteral("Library"));
