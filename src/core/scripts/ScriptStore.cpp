@@ -4,6 +4,7 @@
 #include "scripts/ScriptRecord.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zarvil {
 

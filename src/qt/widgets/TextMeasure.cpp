@@ -57,7 +57,7 @@ QSize measured(const Question& question) {
 QSize textSize(const QWidget& widget, const QFont& font, int flags, const QString& text,
                int width) {
     if (width != unwrapped) {
-        // Most texts fit, whatever their widths, and are shaped once for all of these.
+        // Most texts fit, and are shaped once for all widths that they fit in.
         const int mnemonic = Qt::TextShowMnemonic | Qt::TextHideMnemonic;
         const QSize natural =
             textSize(widget, font, (flags & mnemonic) != 0 ? Qt::TextShowMnemonic : 0, text);
