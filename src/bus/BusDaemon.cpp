@@ -29,6 +29,12 @@ QDBusMessage busCall(const char* method, const QVariantList& arguments) {
     return call;
 }
 
+QDBusMessage answer(const QDBusConnection& connection, const QDBusMessage& call, int limit) {
+    QDBusPendingCall pending = connection.asyncCall(call, limit);
+    pending.waitForFinished();
+    return pending.reply();
+}
+
 QDBusMessage nameRequest(const QString& name) { return busCall("RequestName", {name, doNotQueue}); }
 
 NameOutcome nameOutcome(const QDBusMessage& reply) {
@@ -40,8 +46,7 @@ NameOutcome nameOutcome(const QDBusMessage& reply) {
 
 std::vector<std::pair<QString, std::uint32_t>> ownedNames(const QDBusConnection& connection,
                                                           int limit) {
-    const QDBusReply<QStringList> names =
-        connection.call(busCall("ListNames"), QDBus::Block, limit);
+    const QDBusReply<QStringList> names = answer(connection, busCall("ListNames"), limit);
     // All questions go out before the first answer is waited for, so that the limits do not add up.
     std::vector<std::pair<QString, QDBusPendingReply<uint>>> answers;
     for (const QString& name : names.value())
@@ -59,7 +64,7 @@ std::vector<std::pair<QString, std::uint32_t>> ownedNames(const QDBusConnection&
 
 bool isActivatable(const QDBusConnection& connection, const QString& name, int limit) {
     const QDBusReply<QStringList> names =
-        connection.call(busCall("ListActivatableNames"), QDBus::Block, limit);
+        answer(connection, busCall("ListActivatableNames"), limit);
     return names.value().contains(name);
 }
 

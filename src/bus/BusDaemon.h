@@ -21,6 +21,11 @@ namespace zarvil {
 /// A call of one of the bus's own methods.
 [[nodiscard]] QDBusMessage busCall(const char* method, const QVariantList& arguments = {});
 
+/// Asks and waits for the reply, at most `limit` milliseconds. A connection's own call would also
+/// write its last error, which is shared with whoever else waits for a reply, and has no lock.
+[[nodiscard]] QDBusMessage answer(const QDBusConnection& connection, const QDBusMessage& call,
+                                  int limit);
+
 enum class NameOutcome : std::uint8_t {
     Owned,
     Taken,  ///< another connection owns it

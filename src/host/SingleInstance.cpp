@@ -75,8 +75,7 @@ SingleInstance::~SingleInstance() {
 std::function<void(const QDBusConnection&)> SingleInstance::claim() const {
     return [shared = shared_](const QDBusConnection& bus) {
         shared->offer(bus);
-        const auto outcome =
-            nameOutcome(bus.call(nameRequest(bus::hostName), QDBus::Block, nameLimit));
+        const auto outcome = nameOutcome(answer(bus, nameRequest(bus::hostName), nameLimit));
         shared->decide(outcome == NameOutcome::Taken ? Standing::Second : Standing::First);
     };
 }

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <atomic>
+#include <thread>
 
 namespace zarvil {
 namespace {
@@ -208,6 +209,27 @@ TEST_F(Connection, onDemandIsMadeWhenAskedForAndOnlyForThoseWhoLive) {
     });
     ASSERT_TRUE(answered(4));
     EXPECT_EQ(answers, "yny!");
+}
+
+TEST_F(Connection, anAnswerLeavesTheSharedLastErrorAlone) {
+    const QDBusConnection connection = peer();
+    EXPECT_EQ(answer(connection, busCall("NoSuchMethod"), 1000).type(), QDBusMessage::ErrorMessage);
+    EXPECT_FALSE(connection.lastError().isValid());
+}
+
+/// For tools/check-threads, which runs it and fails unless the sanitizer reports it.
+TEST_F(Connection, DISABLED_aRaceIsSeen) {
+    std::vector<int> written(100);
+    std::atomic<bool> isWritten = false;
+    BusOptions options = bus.options();
+    options.join = [&](const QDBusConnection&) {
+        written.assign(written.size(), 1);
+        isWritten.store(true, std::memory_order_relaxed);
+    };
+    const BusConnection connection(options);
+    while (!isWritten.load(std::memory_order_relaxed))
+        std::this_thread::yield();
+    EXPECT_EQ(written, std::vector<int>(100, 1));
 }
 
 TEST(BusProbe, onlySilenceCountsAsHanging) {
