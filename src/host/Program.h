@@ -4,9 +4,6 @@
 
 namespace zarvil::host {
 
-/// Found by the program's own path of libraries.
-inline constexpr const char* programLibrary = "libzarvil-preferences.so";
-
 /// Exit codes, after those of sysexits(3).
 namespace exitCode {
 

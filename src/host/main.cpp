@@ -66,8 +66,9 @@ int main(int argc, char** argv) {
     economizeMemory();
     beginWithFonts();
     int code = zarvil::host::exitCode::unavailable;
+    // The loader itself knows where the program is.
     if (auto* run =
-            find<decltype(zarvilRunProgram)>(zarvil::host::programLibrary, "zarvilRunProgram"))
+            find<decltype(zarvilRunProgram)>("$ORIGIN/" ZARVIL_PROGRAM_LIBRARY, "zarvilRunProgram"))
         code = run(argc, argv, awaitFonts);
     else
         std::fprintf(stderr, "zarvil-preferences: %s\n", dlerror());
