@@ -21,4 +21,4 @@ inline constexpr int unavailable = 69;
 /// configured, which began before, and may be called again; until then the environment must not
 /// change.
 extern "C" __attribute__((visibility("default"))) int zarvilRunProgram(int argc, char** argv,
-                                                                      void (*awaitFonts)());
+                                                                       void (*awaitFonts)());
