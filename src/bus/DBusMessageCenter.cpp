@@ -18,7 +18,10 @@ constexpr int flushTimeout = 1000; // milliseconds
 DBusMessageCenter::DBusMessageCenter(MessageBus& bus, QString acceptFrom)
     : bus_(bus),
       acceptFrom_(std::move(acceptFrom)),
-      gate_([this](const QDBusMessage& signal) { deliver(signal); }) {
+      inbox_([this](const QDBusMessage& signal, std::optional<Dictionary> payload) {
+          deliver(signal, std::move(payload));
+      }),
+      gate_([this](const QDBusMessage& signal) { inbox_.receive(signal); }) {
     busState_ = bus_.observe([this](BusState state) { busChanged(state); });
 }
 
@@ -93,6 +96,7 @@ void DBusMessageCenter::hang() {
     waiting_.clear();
     owner_.reset();
     gate_.reset();
+    inbox_.clear();
     peer_.clear();
     expectsNewcomer_ = true;
     if (std::exchange(link_, LinkEvent::Down) != LinkEvent::Down)
@@ -113,7 +117,7 @@ void DBusMessageCenter::ownerChanged(const QString& from, const QString& to) {
 
 void DBusMessageCenter::peerIs(const QString& owner) {
     if (std::exchange(peer_, owner) != owner && !owner.isEmpty() && expectsNewcomer_)
-        links_.notify(LinkEvent::NewPeer);
+        inbox_.follow([this] { links_.notify(LinkEvent::NewPeer); });
 }
 
 void DBusMessageCenter::send(const Message& message) {
@@ -133,17 +137,17 @@ void DBusMessageCenter::receive(const QDBusMessage& signal) {
     if (!connection_)
         return;
     if (acceptFrom_.isEmpty())
-        deliver(signal);
+        inbox_.receive(signal);
     else
         gate_.receive(signal);
 }
 
-void DBusMessageCenter::deliver(const QDBusMessage& signal) {
+void DBusMessageCenter::deliver(const QDBusMessage& signal, std::optional<Dictionary> payload) {
     const auto found = observed_.find(signal.member().toStdString());
     if (found == observed_.end() || found->second.count == 0)
         return;
     Message message(found->first);
-    message.userInfo = decodePayload(signal);
+    message.userInfo = std::move(payload);
     found->second.observers.notify(message);
 }
 

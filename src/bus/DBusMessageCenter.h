@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bus/BusDaemon.h"
+#include "bus/Inbox.h"
 #include "bus/MessageBus.h"
 #include "bus/SenderGate.h"
 #include "bus/SignalHook.h"
@@ -31,6 +32,7 @@ public:
     void post(Message message) override;
     Subscription addObserver(std::string_view name, Handler handler) override;
     Subscription observeLink(const LinkObserver& observer) override;
+    [[nodiscard]] bool isBehind() const override { return !inbox_.isEmpty(); }
 
     /// Waits, at most a second, until what was posted has reached the bus. For use before the
     /// process is ended: messages leave through another thread, which ends with the process.
@@ -52,7 +54,7 @@ private:
 
     void send(const Message& message);
     void receive(const QDBusMessage& signal);
-    void deliver(const QDBusMessage& signal);
+    void deliver(const QDBusMessage& signal, std::optional<Dictionary> payload);
     void watch(const std::string& name, Observed& observed);
     void forget(const std::string& name);
 
@@ -65,6 +67,7 @@ private:
     std::map<std::string, Observed, std::less<>> observed_;
     ObserverList<LinkEvent> links_;
     LinkEvent link_ = LinkEvent::Up; ///< `Up` or `Down`; nobody is alarmed before the first attempt
+    Inbox inbox_;
     SenderGate gate_;
     std::unique_ptr<OwnerWatch> owner_;
     QString peer_;                 ///< the owner that the link's observers know of

@@ -1,8 +1,11 @@
 #include "bus/DBusValues.h"
 
+#include "protocol/NonCopyable.h"
+
 #include <QDBusArgument>
 #include <QDBusUnixFileDescriptor>
 
+#include <iterator>
 #include <limits>
 #include <type_traits>
 
@@ -116,11 +119,14 @@ QVariant encode(const Value& value, int depth) {
         value.storage());
 }
 
-std::optional<Value> decode(const QVariant& variant);
+/// What variants within one another hold.
+QVariant unwrapped(const QVariant& variant) {
+    if (variant.metaType() == QMetaType::fromType<QDBusVariant>())
+        return unwrapped(variant.value<QDBusVariant>().variant());
+    return variant;
+}
 
 QString signatureOf(const QVariant& variant) {
-    if (variant.metaType() == QMetaType::fromType<QDBusVariant>())
-        return signatureOf(variant.value<QDBusVariant>().variant());
     if (variant.metaType() == QMetaType::fromType<QDBusArgument>())
         return variant.value<QDBusArgument>().currentSignature();
     if (variant.metaType() == QMetaType::fromType<QDBusUnixFileDescriptor>())
@@ -128,62 +134,10 @@ QString signatureOf(const QVariant& variant) {
     return QString::fromLatin1(variant.typeName());
 }
 
-void warnOfForeign(const QVariant& variant, const QString& where) {
-    qCWarning(busLog, "Dropped an entry of the foreign type %s %s",
-              qUtf8Printable(signatureOf(variant)), qUtf8Printable(where));
-}
-
-Dictionary decodeDictionary(const QDBusArgument& argument) {
-    Dictionary::Entries entries;
-    argument.beginMap();
-    while (!argument.atEnd()) {
-        argument.beginMapEntry();
-        const std::optional<Value> key = decode(argument.asVariant());
-        const QVariant variant = argument.asVariant();
-        argument.endMapEntry();
-        const std::string* text = key ? key->as<std::string>() : nullptr;
-        if (!text)
-            continue;
-        if (std::optional<Value> value = decode(variant))
-            entries.push_back({*text, std::move(*value)});
-        else
-            warnOfForeign(variant, "under \"" + QString::fromUtf8(*text) + '"');
-    }
-    argument.endMap();
-    return Dictionary::ofEntries(std::move(entries));
-}
-
-Array decodeArray(const QDBusArgument& argument) {
-    Array array;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        const QVariant variant = argument.asVariant();
-        if (std::optional<Value> element = decode(variant))
-            array.push_back(std::move(*element));
-        else
-            warnOfForeign(variant, QStringLiteral("in an array"));
-    }
-    argument.endArray();
-    return array;
-}
-
 bool hasTextualKeys(const QDBusArgument& map) {
     constexpr qsizetype keyPosition = 2; // behind "a{"
     const QString signature = map.currentSignature();
     return signature.size() > keyPosition && QStringView(u"sog").contains(signature[keyPosition]);
-}
-
-std::optional<Value> decodeContainer(const QDBusArgument& argument) {
-    switch (argument.currentType()) {
-    case QDBusArgument::ArrayType:
-        return decodeArray(argument);
-    case QDBusArgument::MapType:
-        if (hasTextualKeys(argument))
-            return decodeDictionary(argument);
-        return std::nullopt;
-    default:
-        return std::nullopt;
-    }
 }
 
 Value decodeUnsigned(qulonglong number) {
@@ -206,10 +160,6 @@ Array decodeTexts(const QStringList& texts) {
 
 std::optional<Value> decodeBusType(const QVariant& variant) {
     const QMetaType type = variant.metaType();
-    if (type == QMetaType::fromType<QDBusVariant>())
-        return decode(variant.value<QDBusVariant>().variant());
-    if (type == QMetaType::fromType<QDBusArgument>())
-        return decodeContainer(variant.value<QDBusArgument>());
     if (type == QMetaType::fromType<QDBusObjectPath>())
         return variant.value<QDBusObjectPath>().path().toStdString();
     if (type == QMetaType::fromType<QDBusSignature>())
@@ -217,7 +167,7 @@ std::optional<Value> decodeBusType(const QVariant& variant) {
     return std::nullopt;
 }
 
-/// Empty for a value of a foreign type.
+/// Empty for a container, and for a value of a foreign type.
 std::optional<Value> decode(const QVariant& variant) {
     switch (variant.typeId()) {
     case QMetaType::Bool:
@@ -254,20 +204,113 @@ std::optional<QVariantMap> encodePayload(const Dictionary& info) {
     return encodeDictionary(info, 0);
 }
 
-std::optional<Dictionary> decodePayload(const QDBusMessage& signal) {
+/// A container that is being read, and what has been read of it.
+struct PayloadReader::Level : NonCopyable {
+    Level(const QDBusArgument& container, bool withKeys) : rest(container), isMap(withKeys) {
+        isMap ? rest.beginMap() : rest.beginArray();
+    }
+    /// The bus library does not free what was begun and not ended.
+    ~Level() { isMap ? rest.endMap() : rest.endArray(); }
+
+    const QDBusArgument rest; ///< constant, for any other would be written to
+    const bool isMap;
+    Dictionary::Entries entries; ///< of a map
+    Array elements;              ///< of an array
+    std::string key;             ///< of the map's entry that was read last
+
+    [[nodiscard]] QVariant next() {
+        if (!isMap)
+            return unwrapped(rest.asVariant());
+        QString text;
+        rest.beginMapEntry();
+        rest >> text;
+        QVariant variant = unwrapped(rest.asVariant());
+        rest.endMapEntry();
+        key = text.toStdString();
+        return variant;
+    }
+    void add(Value value) {
+        if (isMap)
+            entries.push_back({std::move(key), std::move(value)});
+        else
+            elements.push_back(std::move(value));
+    }
+    [[nodiscard]] QString name() const {
+        return isMap ? "under \"" + QString::fromUtf8(key) + '"' : QStringLiteral("in an array");
+    }
+};
+
+PayloadReader::PayloadReader(const QDBusMessage& signal) {
     const QVariantList arguments = signal.arguments();
     if (arguments.isEmpty())
-        return std::nullopt;
+        return;
     if (arguments.size() > 1)
         qCWarning(busLog, "Ignored further arguments of %s", qUtf8Printable(signal.member()));
-    const std::optional<Value> payload = decode(arguments.first());
-    const Dictionary* dictionary = payload ? payload->as<Dictionary>() : nullptr;
-    if (!dictionary) {
+    const QVariant payload = unwrapped(arguments.first());
+    if (!open(payload) || !levels_.front().isMap) {
+        levels_.clear();
         qCWarning(busLog, "Ignored the payload of %s: it has the type %s, not a{sv}",
                   qUtf8Printable(signal.member()), qUtf8Printable(signal.signature()));
-        return std::nullopt;
     }
-    return dictionary->count() > 0 ? std::optional(*dictionary) : std::nullopt;
+}
+
+PayloadReader::PayloadReader(PayloadReader&& other) noexcept = default;
+PayloadReader& PayloadReader::operator=(PayloadReader&& other) noexcept = default;
+PayloadReader::~PayloadReader() = default;
+
+bool PayloadReader::readUntil(const QDeadlineTimer& end) {
+    constexpr int stepsALook = 64; // looking at the clock costs about as much as a step
+    for (int step = 1; !isComplete(); ++step) {
+        if (step % stepsALook == 0 && end.hasExpired())
+            return false;
+        readNext();
+    }
+    return true;
+}
+
+void PayloadReader::readNext() {
+    Level& level = levels_.back();
+    if (level.rest.atEnd())
+        close();
+    else if (const QVariant variant = level.next(); auto value = decode(variant))
+        level.add(std::move(*value));
+    else if (!open(variant))
+        qCWarning(busLog, "Dropped an entry of the foreign type %s %s",
+                  qUtf8Printable(signatureOf(variant)), qUtf8Printable(level.name()));
+}
+
+/// Whether it is a container that can be read.
+bool PayloadReader::open(const QVariant& variant) {
+    if (variant.metaType() != QMetaType::fromType<QDBusArgument>())
+        return false;
+    const auto argument = variant.value<QDBusArgument>();
+    const bool isMap = argument.currentType() == QDBusArgument::MapType;
+    if (isMap ? !hasTextualKeys(argument) : argument.currentType() != QDBusArgument::ArrayType)
+        return false;
+    levels_.emplace_back(argument, isMap);
+    return true;
+}
+
+void PayloadReader::close() {
+    std::list<Level> closed;
+    closed.splice(closed.begin(), levels_, std::prev(levels_.end()));
+    Level& level = closed.front();
+    if (levels_.empty())
+        payload_ = Dictionary::ofEntries(std::move(level.entries));
+    else if (level.isMap)
+        levels_.back().add(Dictionary::ofEntries(std::move(level.entries)));
+    else
+        levels_.back().add(std::move(level.elements));
+}
+
+std::optional<Dictionary> PayloadReader::take() {
+    return payload_.count() > 0 ? std::optional(std::move(payload_)) : std::nullopt;
+}
+
+std::optional<Dictionary> decodePayload(const QDBusMessage& signal) {
+    PayloadReader reader(signal);
+    reader.readUntil(QDeadlineTimer::Forever);
+    return reader.take();
 }
 
 } // namespace zarvil

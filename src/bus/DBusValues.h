@@ -3,9 +3,11 @@
 #include "protocol/Value.h"
 
 #include <QDBusMessage>
+#include <QDeadlineTimer>
 #include <QLoggingCategory>
 #include <QVariantMap>
 
+#include <list>
 #include <optional>
 
 /// Property lists as D-Bus values and back.
@@ -23,8 +25,34 @@ Q_DECLARE_LOGGING_CATEGORY(busLog)
 /// logged. Empty when the whole is larger than D-Bus allows: the bus would cut off the sender.
 [[nodiscard]] std::optional<QVariantMap> encodePayload(const Dictionary& info);
 
-/// The payload of a received signal, none when it is missing, empty or of the wrong type. Logs
-/// what it cannot read; never fails.
+/// Reads the payload of a received signal, in parts if need be. Logs what it cannot read; never
+/// fails.
+class PayloadReader {
+public:
+    explicit PayloadReader(const QDBusMessage& signal);
+    PayloadReader(PayloadReader&& other) noexcept;
+    PayloadReader& operator=(PayloadReader&& other) noexcept;
+    ~PayloadReader();
+
+    /// Reads on for as long as there is time, and a little in any case; whether all has been read.
+    bool readUntil(const QDeadlineTimer& end);
+    [[nodiscard]] bool isComplete() const { return levels_.empty(); }
+    /// Of a payload that has been read: none when it is missing, empty or of the wrong type.
+    [[nodiscard]] std::optional<Dictionary> take();
+
+private:
+    struct Level;
+
+    void readNext();
+    [[nodiscard]] bool open(const QVariant& variant);
+    void close();
+
+    std::list<Level> levels_; ///< from the outermost inwards
+    Dictionary payload_;
+};
+
+/// The payload of a received signal at one go, none when it is missing, empty or of the wrong
+/// type.
 [[nodiscard]] std::optional<Dictionary> decodePayload(const QDBusMessage& signal);
 
 } // namespace zarvil

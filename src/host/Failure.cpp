@@ -1,5 +1,7 @@
 #include "host/Failure.h"
 
+#include "host/Program.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -115,6 +117,12 @@ std::optional<QString> displayFault() {
 
 void logFailure(const QString& message) {
     std::fprintf(stderr, "zarvil-preferences: %s\n", qPrintable(message));
+}
+
+int failUsage(const QString& message) {
+    logFailure(message);
+    logFailure(QStringLiteral("try --help"));
+    return exitCode::usage;
 }
 
 void showFailure(const QString& message) {

@@ -13,8 +13,12 @@ namespace zarvil::host {
 /// Writes to the standard error stream.
 void logFailure(const QString& message);
 
-/// The same, and in a message box if the user did not start the program from a terminal: there
-/// nobody reads the stream. Needs the application object; returns when the box is dismissed.
+/// Writes what is wrong with the command line; gives the exit code.
+int failUsage(const QString& message);
+
+/// Writes the message, and shows it in a message box if the user did not start the program from a
+/// terminal: there nobody reads the stream. Needs the application object; returns when the box is
+/// dismissed.
 void showFailure(const QString& message);
 
 } // namespace zarvil::host

@@ -1,29 +1,21 @@
 #include "host/Host.h"
 
-#include "bus/BusProbe.h"
 #include "host/Activation.h"
-#include "host/Diagnosis.h"
 #include "host/Failure.h"
 #include "host/Log.h"
+#include "host/Program.h"
 #include "host/Tabs.h"
 #include "pane/Product.h"
 #include "protocol/BusNames.h"
-#include "protocol/NonCopyable.h"
-#include "qt/translation/Translation.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFontDatabase>
 #include <QStandardPaths>
 #include <QTimer>
-#include <fontconfig/fontconfig.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
-#include <thread>
 #include <utility>
 
 namespace zarvil::host {
@@ -54,16 +46,10 @@ int failWithoutPanes() {
     return exitCode::noPane;
 }
 
-int failUsage(const UsageError& error) {
-    logFailure(error.message);
-    logFailure(QStringLiteral("try --help"));
-    return exitCode::usage;
-}
-
 int failTab(const QString& name, const QStringList& known) {
     const QString offer = known.isEmpty() ? QStringLiteral("the pane has no named tabs")
                                           : "there are " + known.join(QLatin1String(", "));
-    return failUsage({QStringLiteral("--tab: there is no tab \"%1\"; %2").arg(name, offer)});
+    return failUsage(QStringLiteral("--tab: there is no tab \"%1\"; %2").arg(name, offer));
 }
 
 BusOptions sessionBusFor(const SingleInstance& instance) {
@@ -212,112 +198,6 @@ void Host::yieldToFirst() {
                                    : answer == Answer::NoSuchTab ? exitCode::usage
                                                                  : exitCode::unavailable);
         });
-}
-
-namespace {
-
-QStringList argumentsOf(int argc, char** argv) {
-    QStringList arguments;
-    for (int index = 0; index < argc; ++index)
-        arguments << QString::fromLocal8Bit(argv[index]);
-    return arguments;
-}
-
-int print(const QString& text) {
-    std::fputs(qPrintable(text), stdout);
-    return exitCode::success;
-}
-
-/// Qt connects to the session bus, at the latest when its accessibility first looks for it, and a
-/// bus that hangs would keep the main thread waiting for half a minute. So Qt's own connection,
-/// which it never makes again, is made to fail here; ours goes on trying.
-class HungBusHidden : NonCopyable {
-public:
-    HungBusHidden() { qputenv(variable, "disabled:"); }
-    /// Needs the application object.
-    ~HungBusHidden() {
-        [[maybe_unused]] const auto failed = QDBusConnection::sessionBus();
-        if (address_.isEmpty())
-            qunsetenv(variable);
-        else
-            qputenv(variable, address_);
-    }
-
-private:
-    static constexpr const char* variable = "DBUS_SESSION_BUS_ADDRESS";
-    QByteArray address_ = qgetenv(variable);
-};
-
-/// Does what a start needs beside what the main thread does, and lasts until it is done.
-class Beside : NonCopyable {
-public:
-    template <typename Work>
-    explicit Beside(Work work) : thread_(work) {}
-    ~Beside() { thread_.join(); }
-
-private:
-    std::thread thread_;
-};
-
-/// For the last value before the program's end.
-int endDespiteHangs(int code) {
-    if (BusConnection::anyHangs()) {
-        std::fflush(nullptr);
-        std::_Exit(code);
-    }
-    return code;
-}
-
-int runOnDisplay(const CommandLine& commandLine, char** argv) {
-    if (const auto fault = displayFault()) {
-        logFailure(*fault);
-        return exitCode::unavailable;
-    }
-    // Fonts are a third of the work of a start: their configuration is read while the display is
-    // connected, and Qt lists them while the pane is loaded.
-    auto configuring = std::make_optional<Beside>([] { FcInit(); });
-    // Panes keep files under it and count on it, though nothing else here makes it. Without it a
-    // pane tells of the failure itself.
-    QDir::home().mkpath(QStringLiteral("Library"));
-    constexpr std::chrono::milliseconds limit{500};
-    std::optional<HungBusHidden> hidden;
-    if (!busAnswers(sessionBusAddress(), limit)) {
-        configuring.reset(); // it reads the environment, which changes now
-        hidden.emplace();
-    }
-    // Qt is shown the program's name alone: the options are ours.
-    int qtArgc = 1;
-    QApplication application(qtArgc, argv);
-    hidden.reset();
-    const qt::Translation translation(qt::Translation::Toolkit::Adopted);
-    configuring.reset();
-    const Beside listing([] { QFontDatabase::families(); });
-    QApplication::setApplicationVersion(ZARVIL_VERSION);
-    QApplication::setApplicationName("zarvil-preferences");
-    QGuiApplication::setDesktopFileName(bus::hostName);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    return endDespiteHangs(Host(commandLine).run());
-}
-
-} // namespace
-
-int runHost(int argc, char** argv) {
-    const auto parsed =
-        parseCommandLine(argumentsOf(argc, argv), qEnvironmentVariable("ZARVIL_APPEARANCE"));
-    if (const auto* error = std::get_if<UsageError>(&parsed))
-        return failUsage(*error);
-    const auto& commandLine = std::get<CommandLine>(parsed);
-    if (commandLine.wish == CommandLine::Wish::Help) {
-        const QCoreApplication application(argc, argv);
-        return print(helpText());
-    }
-    if (commandLine.wish == CommandLine::Wish::Version)
-        return print(QStringLiteral("zarvil-preferences " ZARVIL_VERSION "\n"));
-    if (commandLine.wish == CommandLine::Wish::Diagnose) {
-        QCoreApplication application(argc, argv);
-        return endDespiteHangs(diagnose(commandLine));
-    }
-    return runOnDisplay(commandLine, argv);
 }
 
 } // namespace zarvil::host

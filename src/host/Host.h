@@ -13,17 +13,6 @@
 
 namespace zarvil::host {
 
-/// Exit codes, after those of sysexits(3).
-namespace exitCode {
-
-inline constexpr int success = 0;
-inline constexpr int usage = 64;
-inline constexpr int brokenPane = 65;
-inline constexpr int noPane = 66;
-inline constexpr int unavailable = 69;
-
-} // namespace exitCode
-
 /// The preferences application once its command line is understood. Needs the application object.
 class Host {
 public:
@@ -54,8 +43,5 @@ private:
     bool yielding_ = false;                ///< it is not, and ends
     bool shown_ = false;                   ///< the window has been opened
 };
-
-/// The whole program, from its arguments to its exit code.
-int runHost(int argc, char** argv);
 
 } // namespace zarvil::host

@@ -154,6 +154,77 @@ TEST_F(Connection, anotherOwnerOfTheAgentsNameIsANewPeer) {
     EXPECT_EQ(newPeers, 1U);
 }
 
+/// Notes what a center tells of, by letters.
+class Diary {
+public:
+    explicit Diary(MessageCenter& center) {
+        for (const std::string_view name :
+             {message::pingAnswer, message::allDevices, message::stateChanged})
+            subscriptions_.push_back(center.addObserver(name, [this](const Message& message) {
+                const Array* devices = message.info().arrayForKey("devices");
+                listed += devices ? devices->size() : 0;
+                told += message.name.substr(2, 1);
+            }));
+        subscriptions_.push_back(center.observeLink(
+            [this](LinkEvent event) { told += "ud+"[static_cast<int>(event)]; }));
+    }
+
+    std::string told;
+    std::size_t listed = 0;
+
+private:
+    std::vector<Subscription> subscriptions_;
+};
+
+/// Reading so many takes a multiple of what one turn of the event loop may.
+constexpr int manyDevices = 30'000;
+
+QVariantList longPayload() {
+    const QVariantMap device{{"DeviceName", "Name"}, {"DeviceVendor", "Vendor"}};
+    return {QVariantMap{{"devices", QVariantList(manyDevices, QVariant(device))}}};
+}
+
+TEST_F(Connection, aLongMessageLeavesOthersTheirTurnsAndComesWholeAndInOrder) {
+    auto agent = peer(Owns::AgentName);
+    PaneCenter pane(bus);
+    const Diary diary(pane.messages);
+    ASSERT_TRUE(pane.waitUntilConnected());
+    int turns = 0;
+    QTimer everyTurn;
+    QObject::connect(&everyTurn, &QTimer::timeout,
+                     [&] { turns += pane.messages.isBehind() ? 1 : 0; });
+    everyTurn.start();
+    ASSERT_TRUE(agent.send(signal(message::pingAnswer)) &&
+                agent.send(signal(message::allDevices, longPayload())));
+    ASSERT_TRUE(agent.send(signal(message::stateChanged)));
+    ASSERT_TRUE(agent.unregisterService(bus::agentName));
+    ASSERT_TRUE(peer(Owns::AgentName).send(signal(message::pingAnswer)));
+    const std::string inOrder = "uPAS+P";
+    ASSERT_TRUE(waitFor([&] { return diary.told.size() >= 6; }));
+    EXPECT_EQ(diary.told, inOrder);
+    EXPECT_EQ(diary.listed, static_cast<std::size_t>(manyDevices));
+    EXPECT_GE(turns, 2);
+    EXPECT_FALSE(pane.messages.isBehind());
+}
+
+TEST_F(Connection, aLongMessageEndsWithItsConnection) {
+    PaneCenter pane(bus);
+    const Diary diary(pane.messages);
+    ASSERT_TRUE(pane.waitUntilConnected());
+    const auto agent = peer(Owns::AgentName);
+    ASSERT_TRUE(agent.send(signal(message::allDevices, longPayload())) &&
+                agent.send(signal(message::stateChanged)));
+    ASSERT_TRUE(waitFor([&] { return pane.messages.isBehind(); }));
+    bus.stop();
+    ASSERT_TRUE(waitFor([&] { return diary.told.ends_with('d'); }));
+    EXPECT_FALSE(pane.messages.isBehind());
+    bus.start();
+    ASSERT_TRUE(pane.waitUntilConnected());
+    ASSERT_TRUE(peer(Owns::AgentName).send(signal(message::pingAnswer)));
+    ASSERT_TRUE(waitFor([&] { return diary.told.ends_with('P'); }));
+    EXPECT_EQ(diary.told, "u+du+P");
+}
+
 TEST_F(Connection, aBusThatStopsAnsweringHoldsUpNothingButTheEnd) {
     auto pane = std::make_unique<PaneCenter>(bus);
     ASSERT_TRUE(pane->waitUntilConnected());

@@ -51,8 +51,7 @@ Record firstSameDevice(const ArrayController& list, const Dictionary& device) {
 }
 
 void DeviceList::add(const Record& record) {
-    if (const Value* serial = record->contents().objectForKey(payload::deviceSerial))
-        ++serials_[*serial];
+    serials_.reset();
     list_.addObject(record);
 }
 
@@ -60,17 +59,23 @@ void DeviceList::removeSameDevice(const Dictionary& device) {
     const Record same = firstSameDevice(list_, device);
     if (!same)
         return;
+    serials_.reset();
     list_.removeObject(same);
-    const auto serial = serials_.find(*device.objectForKey(payload::deviceSerial));
-    if (--serial->second == 0)
-        serials_.erase(serial);
 }
 
 void DeviceList::clear() {
-    serials_.clear();
+    serials_.reset();
     list_.removeAllArrangedObjects();
 }
 
-bool DeviceList::containsSerial(const Value& serial) const { return serials_.contains(serial); }
+bool DeviceList::containsSerial(const Value& serial) const {
+    if (!serials_) {
+        serials_.emplace();
+        for (const Record& record : list_.arrangedObjects())
+            if (const Value* listed = record->contents().objectForKey(payload::deviceSerial))
+                serials_->insert(*listed);
+    }
+    return serials_->contains(serial);
+}
 
 } // namespace zarvil

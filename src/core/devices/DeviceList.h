@@ -3,7 +3,8 @@
 #include "interface/ArrayController.h"
 #include "protocol/NonCopyable.h"
 
-#include <unordered_map>
+#include <optional>
+#include <unordered_set>
 
 namespace zarvil {
 
@@ -38,7 +39,8 @@ private:
     };
 
     ArrayController list_{&deviceHash};
-    std::unordered_map<Value, std::size_t, ContentHash> serials_; ///< how many have each
+    /// Made when a question needs it: unlike arrivals, questions come with a user's clicks alone.
+    mutable std::optional<std::unordered_set<Value, ContentHash>> serials_;
 };
 
 } // namespace zarvil

@@ -91,10 +91,7 @@ void Zarvil_Preferences::removeDevice(const Dictionary& device) {
 void Zarvil_Preferences::addSavedDevice(const Record& record) {
     savedArrayController.addObject(record);
     // The first of equal records gets the tick, even if this one stands behind it.
-    const auto index = savedArrayController.indexOfObject(record);
-    if (!index)
-        return;
-    if (const auto item = selectedDevices.itemAtIndexAs<ZVCollectionItem>(*index))
+    if (const auto item = selectedDevices.itemOfObjectAs<ZVCollectionItem>(record))
         item->setState(saved);
 }
 

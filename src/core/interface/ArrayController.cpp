@@ -23,7 +23,7 @@ void ArrayController::removeObject(const Record& record) {
     if (!listed)
         return;
     unlist(*listed);
-    const auto removed = entries_.take(entries_.indexOf(*listed));
+    const auto removed = entries_.take(*listed);
     observers_.notify({ListChange::Kind::Removed, removed->serial, removed->record});
 }
 
@@ -33,6 +33,11 @@ void ArrayController::removeAllArrangedObjects() {
     firstOfHash_.clear();
     entries_.clear();
     observers_.notify({ListChange::Kind::Cleared, 0, nullptr});
+}
+
+std::optional<RecordSerial> ArrayController::serialOfObject(const Record& record) const {
+    const Entry* equal = firstEqual(record);
+    return equal ? std::optional(equal->serial) : std::nullopt;
 }
 
 std::optional<std::size_t> ArrayController::indexOfObject(const Record& record) const {

@@ -103,6 +103,8 @@ public:
 
     /// Index of the first record of contents equal to those of this one.
     [[nodiscard]] std::optional<std::size_t> indexOfObject(const Record& record) const;
+    /// Its serial, for whoever need not know where it stands.
+    [[nodiscard]] std::optional<RecordSerial> serialOfObject(const Record& record) const;
     [[nodiscard]] RecordSerial serialAtIndex(std::size_t index) const {
         return entries_[index].serial;
     }

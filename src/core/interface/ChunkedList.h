@@ -16,7 +16,7 @@ namespace zarvil {
 class Chunked : NonCopyable {
     template <typename Element>
     friend class ChunkedList;
-    const void* chunk_ = nullptr;
+    void* chunk_ = nullptr;
 };
 
 /// A sequence that owns its elements, and takes and gives them anywhere without moving everything
@@ -92,15 +92,16 @@ public:
         chunk.insert(chunk.begin() + static_cast<std::ptrdiff_t>(place.offset), std::move(element));
         ++size_;
     }
-    std::unique_ptr<Element> take(std::size_t index) {
-        const Place place = placeOf(index);
-        Chunk& chunk = *chunks_[place.chunk];
-        std::unique_ptr<Element> element = std::move(chunk[place.offset]);
-        chunk.erase(chunk.begin() + static_cast<std::ptrdiff_t>(place.offset));
+    /// Of an element of this list, whose index need not be known.
+    std::unique_ptr<Element> take(const Element& element) {
+        Chunk& chunk = *static_cast<Chunk*>(element.chunk_);
+        const auto place = chunk.begin() + static_cast<std::ptrdiff_t>(offsetOf(element, chunk));
+        std::unique_ptr<Element> taken = std::move(*place);
+        chunk.erase(place);
         if (chunk.empty())
-            chunks_.erase(chunks_.begin() + static_cast<std::ptrdiff_t>(place.chunk));
+            std::erase_if(chunks_, [&](const auto& each) { return each.get() == &chunk; });
         --size_;
-        return element;
+        return taken;
     }
     void clear() {
         chunks_.clear();

@@ -33,6 +33,12 @@ std::shared_ptr<CollectionViewItem> CollectionView::itemAtIndex(std::size_t inde
     return row ? itemOf(*row) : nullptr;
 }
 
+std::shared_ptr<CollectionViewItem> CollectionView::itemOfObject(const Record& record) {
+    const auto serial = content_.serialOfObject(record);
+    Row* const row = serial ? rowsBySerial_.find(*serial) : nullptr;
+    return row ? itemOf(*row) : nullptr;
+}
+
 std::shared_ptr<CollectionViewItem> CollectionView::itemAtRow(std::size_t row) {
     return row < rows_.size() ? itemOf(rows_[row]) : nullptr;
 }
@@ -81,9 +87,10 @@ void CollectionView::insert(const ListChange& change) {
 }
 
 void CollectionView::remove(RecordSerial serial) {
-    const std::size_t place = rows_.indexOf(*rowsBySerial_.find(serial));
+    const Row& row = *rowsBySerial_.find(serial);
+    const std::size_t place = rows_.indexOf(row);
     notify(Kind::Removed, Phase::Before, place);
-    const auto removed = rows_.take(place);
+    const auto removed = rows_.take(row);
     rowsBySerial_.erase(*removed);
     release(*removed);
     notify(Kind::Removed, Phase::After, place);
@@ -102,7 +109,7 @@ void CollectionView::moveToItsPlace(RecordSerial serial) {
         return;
     }
     notify(Kind::Moved, Phase::Before, from, to);
-    auto moved = rows_.take(from);
+    auto moved = rows_.take(row);
     row.key = std::move(key);
     rows_.insert(to, std::move(moved));
     notify(Kind::Moved, Phase::After, from, to);

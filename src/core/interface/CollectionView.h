@@ -83,6 +83,13 @@ public:
         return std::dynamic_pointer_cast<Item>(itemAtIndex(index));
     }
 
+    /// The item of the first arranged object of contents equal to those of this one, or null.
+    std::shared_ptr<CollectionViewItem> itemOfObject(const Record& record);
+    template <typename Item>
+    std::shared_ptr<Item> itemOfObjectAs(const Record& record) {
+        return std::dynamic_pointer_cast<Item>(itemOfObject(record));
+    }
+
     /// The items that were asked for so far, by row.
     template <typename Item, typename Callback>
     void forEachMadeItem(Callback&& callback) const {

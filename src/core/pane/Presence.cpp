@@ -9,6 +9,8 @@ namespace zarvil {
 namespace {
 
 constexpr double answerTimeout = 2.0; // seconds
+/// The wait for what came within the time-out and is still being read.
+constexpr double readingTime = 0.05; // seconds
 
 } // namespace
 
@@ -17,10 +19,20 @@ std::string Zarvil_Preferences::agentApplicationPath() const {
 }
 
 void Zarvil_Preferences::appStatus() {
-    appOfflineTimer.reset();
-    appOfflineTimer = platform_.handlers.schedule(platform_.timers, answerTimeout, Repetition::Once,
-                                                  [this] { appDidNotAnswer(); });
+    expectAnswer(answerTimeout);
     post(message::ping);
+}
+
+void Zarvil_Preferences::expectAnswer(double seconds) {
+    appOfflineTimer.reset();
+    appOfflineTimer =
+        platform_.handlers.schedule(platform_.timers, seconds, Repetition::Once, [this] {
+            // The answer may be among what has come.
+            if (platform_.messages.isBehind())
+                expectAnswer(readingTime);
+            else
+                appDidNotAnswer();
+        });
 }
 
 void Zarvil_Preferences::appDidAnswer(const Message* /*message*/) {

@@ -204,6 +204,7 @@ private:
     /// Says why "Create" is greyed where the title alone does not.
     void showTitleFault();
 
+    void expectAnswer(double seconds);
     /// False when the host is not among the running applications.
     bool killHost();
     void openURL(std::string_view url);

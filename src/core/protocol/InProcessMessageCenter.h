@@ -18,6 +18,9 @@ public:
     Subscription observeLink(const LinkObserver& observer) override;
     /// Plays the fate of a bus.
     void announce(LinkEvent event) { links_.notify(event); }
+    /// Plays a bus with messages that are long to read.
+    void setBehind(bool isBehind) { isBehind_ = isBehind; }
+    [[nodiscard]] bool isBehind() const override { return isBehind_; }
 
     /// Delivers what waits and what the handlers post meanwhile, in order. Within a handler it
     /// does nothing: the delivery under way goes on to the new messages by itself.
@@ -28,6 +31,7 @@ private:
     ObserverList<LinkEvent> links_;
     std::deque<Message> pending_;
     bool delivering_ = false;
+    bool isBehind_ = false;
 };
 
 } // namespace zarvil

@@ -64,6 +64,8 @@ public:
         observer(LinkEvent::Up);
         return {};
     }
+    /// Whether messages have come that the observers have not been told of yet.
+    [[nodiscard]] virtual bool isBehind() const { return false; }
 };
 
 } // namespace zarvil

@@ -60,36 +60,63 @@ std::size_t hashOf(const Array& array) {
 } // namespace
 
 Dictionary::Dictionary(std::initializer_list<std::pair<const std::string, Value>> entries) {
-    entries_.reserve(entries.size());
+    Entries unsorted;
+    unsorted.reserve(entries.size());
     for (const auto& [key, value] : entries)
-        setObject(key, value);
+        unsorted.push_back({key, value});
+    *this = ofEntries(std::move(unsorted));
 }
 
 Dictionary Dictionary::ofEntries(Entries entries) {
+    // Most senders sort them.
+    if (!std::ranges::is_sorted(entries, std::ranges::less_equal(), &Entry::key)) {
+        std::ranges::stable_sort(entries, {}, &Entry::key);
+        const auto sameKey = [](const Entry& left, const Entry& right) {
+            return left.key == right.key;
+        };
+        const auto behindFormer = std::unique(entries.rbegin(), entries.rend(), sameKey);
+        entries.erase(entries.begin(), behindFormer.base());
+    }
     Dictionary dictionary;
-    std::ranges::stable_sort(entries, {}, &Entry::key);
-    for (auto& [key, value] : entries)
-        dictionary.setObject(key, std::move(value)); // at the end
+    if (entries.empty())
+        return dictionary;
+    dictionary.count_ = entries.size();
+    dictionary.entries_ = std::make_shared<Entry[]>(entries.size());
+    std::ranges::move(entries, dictionary.entries_.get());
     return dictionary;
 }
 
 const Value* Dictionary::objectForKey(std::string_view key) const {
+    const auto all = entries();
     // Most differ in length already, so that a short walk needs fewer comparisons of text.
     constexpr std::size_t fewEntries = 8;
-    if (entries_.size() <= fewEntries) {
-        const auto found = std::ranges::find(entries_, key, &Entry::key);
-        return found == entries_.end() ? nullptr : &found->value;
+    if (count_ <= fewEntries) {
+        const auto found = std::ranges::find(all, key, &Entry::key);
+        return found == all.end() ? nullptr : &found->value;
     }
-    const auto found = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
-    return found == entries_.end() || found->key != key ? nullptr : &found->value;
+    const auto found = std::ranges::lower_bound(all, key, {}, &Entry::key);
+    return found == all.end() || found->key != key ? nullptr : &found->value;
 }
 
 void Dictionary::setObject(std::string_view key, Value value) {
-    const auto place = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
-    if (place != entries_.end() && place->key == key)
+    const std::span<Entry> own(entries_.get(), count_);
+    const auto place = std::ranges::lower_bound(own, key, {}, &Entry::key);
+    const bool isThere = place != own.end() && place->key == key;
+    const bool isShared = entries_.use_count() > 1;
+    if (isThere && !isShared) {
         place->value = std::move(value);
+        return;
+    }
+    Entries changed;
+    changed.reserve(count_ + 1);
+    for (Entry& entry : own)
+        changed.push_back(isShared ? entry : std::move(entry));
+    const auto changedPlace = changed.begin() + (place - own.begin());
+    if (isThere)
+        changedPlace->value = std::move(value);
     else
-        entries_.insert(place, {std::string(key), std::move(value)});
+        changed.insert(changedPlace, {std::string(key), std::move(value)});
+    *this = ofEntries(std::move(changed));
 }
 
 bool Dictionary::boolForKey(std::string_view key) const {
@@ -123,7 +150,7 @@ const Dictionary* Dictionary::dictionaryForKey(std::string_view key) const {
 }
 
 bool operator==(const Dictionary& left, const Dictionary& right) {
-    return left.entries_ == right.entries_;
+    return std::ranges::equal(left.entries(), right.entries());
 }
 
 bool Value::boolValue() const {

@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,20 +20,14 @@ using Data = std::vector<std::byte>;
 using Array = std::vector<Value>;
 
 /// A string-keyed property-list dictionary. The readers forgive: a missing key reads as false,
-/// 0 or null, and so does a value that cannot be read as what is asked for.
+/// 0 or null, and so does a value that cannot be read as what is asked for. A copy shares the
+/// entries until one of the two changes: a message lists thousands of records that are then kept.
 class Dictionary {
 public:
-    /// Sorted by key; a record has a few, which side by side cost less than the nodes of a tree.
     struct Entry;
     using Entries = std::vector<Entry>;
 
-    // Defined below, where an entry is complete.
-    Dictionary();
-    Dictionary(const Dictionary& other);
-    Dictionary(Dictionary&& other) noexcept;
-    Dictionary& operator=(const Dictionary& other);
-    Dictionary& operator=(Dictionary&& other) noexcept;
-    ~Dictionary();
+    Dictionary() = default;
     Dictionary(std::initializer_list<std::pair<const std::string, Value>> entries);
     /// From entries in any order; of equal keys the last counts. Unlike setting them one by one,
     /// the time is in proportion to their number.
@@ -51,13 +47,16 @@ public:
     /// Null unless the value is a dictionary.
     [[nodiscard]] const Dictionary* dictionaryForKey(std::string_view key) const;
 
-    [[nodiscard]] std::size_t count() const;
-    [[nodiscard]] const Entries& entries() const { return entries_; }
+    [[nodiscard]] std::size_t count() const { return count_; }
+    /// Sorted by key.
+    [[nodiscard]] std::span<const Entry> entries() const;
 
     friend bool operator==(const Dictionary& left, const Dictionary& right);
 
 private:
-    Entries entries_;
+    /// A record has a few, which side by side cost less than the nodes of a tree.
+    std::shared_ptr<Entry[]> entries_; // NOLINT: the standard's arrays have a fixed length
+    std::size_t count_ = 0;
 };
 
 /// One property-list value, the only kind of thing that travels between pane and agent.
@@ -97,16 +96,12 @@ private:
 
 struct Dictionary::Entry {
     std::string key;
-    Value value;
+    Value value = false;
     friend bool operator==(const Entry&, const Entry&) = default;
 };
-inline Dictionary::Dictionary() = default;
-inline Dictionary::Dictionary(const Dictionary& other) = default;
-inline Dictionary::Dictionary(Dictionary&& other) noexcept = default;
-inline Dictionary& Dictionary::operator=(const Dictionary& other) = default;
-inline Dictionary& Dictionary::operator=(Dictionary&& other) noexcept = default;
-inline Dictionary::~Dictionary() = default;
-inline std::size_t Dictionary::count() const { return entries_.size(); }
+inline std::span<const Dictionary::Entry> Dictionary::entries() const {
+    return {entries_.get(), count_};
+}
 
 /// Equal contents have equal hashes, numbers of different kinds included.
 [[nodiscard]] std::size_t contentHash(const Value& value);

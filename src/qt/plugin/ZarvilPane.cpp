@@ -109,7 +109,7 @@ QString ZarvilPane::title() const { return QStringLiteral("Zarvil"); }
 
 QIcon ZarvilPane::icon() const {
     QIcon icon;
-    for (const int extent : {16, 24, 32, 48, 64, 128}) {
+    for (const int extent : {16, 24, 32, 48, 64}) {
         QPixmap picture(extent, extent);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);

@@ -79,6 +79,16 @@ TEST_F(Presence, messagesThatAreNoAnswersDoNot) {
     EXPECT_TRUE(looksAbsent());
 }
 
+TEST_F(Presence, anAgentIsNotAbsentWhileWhatItSentIsBeingRead) {
+    loadWithAgent();
+    bus.setBehind(true);
+    time.advance(20);
+    EXPECT_TRUE(looksRunning());
+    bus.setBehind(false);
+    time.advance(2);
+    EXPECT_TRUE(looksAbsent());
+}
+
 TEST_F(Presence, theFirstAnswerAfterEachLossAsksOnceForEverything) {
     loadWithAgent();
     for (int round = 0; round < 3; ++round) {

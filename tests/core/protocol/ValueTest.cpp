@@ -44,6 +44,17 @@ TEST(Dictionary, holdsEveryKeyOnceWithItsLastValueHoweverItIsFilled) {
     EXPECT_EQ(oneByOne.objectForKey("bb"), nullptr);
 }
 
+TEST(Dictionary, keepsItsEntriesWhenACopyChanges) {
+    const Dictionary first{{"a", 1}, {"b", 2}};
+    for (const char* key : {"a", "c"}) {
+        Dictionary copy = first;
+        copy.setObject(key, 3);
+        EXPECT_EQ(copy.integerForKey(key), 3);
+        EXPECT_EQ(copy.integerForKey("b"), 2);
+        EXPECT_EQ(first, (Dictionary{{"a", 1}, {"b", 2}})) << key;
+    }
+}
+
 TEST(Value, equalsByContentsAndNumbersByTheirValue) {
     const Value equal[][2] = {{true, 1},
                               {1, 1.0},
