@@ -62,6 +62,21 @@ TEST_F(GuidanceTest, theFirstLineSaysWhetherTheComputerIsProtected) {
     EXPECT_EQ(said.statusSymbol.symbol(), Symbol::ShieldOff);
 }
 
+TEST_F(GuidanceTest, aCountStandsBesideAListThatHoldsSomething) {
+    loadWithAgent();
+    EXPECT_TRUE(said.connectedCount.isHidden());
+    EXPECT_TRUE(said.watchedCount.isHidden());
+    EXPECT_TRUE(said.devicesHint.isHidden());
+    watch(3);
+    EXPECT_FALSE(said.watchedCount.isHidden());
+    EXPECT_EQ(said.watchedCount.integerValue(), 3);
+    EXPECT_TRUE(said.connectedCount.isHidden());
+    EXPECT_FALSE(said.devicesHint.isHidden());
+    agentSends(Message(message::deviceConnected, Dictionary{{"DeviceName", "UPS"}}));
+    EXPECT_FALSE(said.connectedCount.isHidden());
+    EXPECT_EQ(said.connectedCount.integerValue(), 1);
+}
+
 TEST_F(GuidanceTest, theLinkLeadsToTheDevicesFromEveryOtherPage) {
     loadWithAgent();
     EXPECT_TRUE(said.chooseDevices.isHidden());
