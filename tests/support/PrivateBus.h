@@ -23,7 +23,7 @@ namespace zarvil {
 
 /// A message bus of the test's own, listening in a temporary folder: in health, hung (`freeze`) or
 /// absent (`stop`). Ends with its owner, even when that crashes. The thread sanitizer does not
-/// survive QProcess, so the system starts it.
+/// survive QProcess of Qt as it is delivered, so the system starts it.
 class PrivateBus {
 public:
     PrivateBus() { start(); }

@@ -61,7 +61,8 @@ void QtMainThread::call(std::function<void()> function) {
         const std::lock_guard lock(mutex_);
         waiting_.push_back(std::move(function));
     }
-    // The event carries nothing: the thread sanitizer does not see the lock of Qt's queue.
+    // The event carries nothing: of Qt as it is delivered the thread sanitizer does not see the
+    // lock of its queue.
     QMetaObject::invokeMethod(this, "work", Qt::QueuedConnection);
 }
 
