@@ -80,7 +80,9 @@ int runOnDisplay(const CommandLine& commandLine, char** argv, void (*awaitFonts)
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
     hidden.reset();
-    const qt::Translation translation(qt::Translation::Toolkit::Adopted);
+    const qt::Translation translation(QCoreApplication::applicationDirPath() +
+                                          QStringLiteral("/" ZARVIL_TEXTS_FROM_PROGRAM),
+                                      qt::Translation::Toolkit::Adopted);
     awaitFonts();
     const auto listing = std::async(std::launch::async, [] { QFontDatabase::families(); });
     QApplication::setApplicationVersion(ZARVIL_VERSION);

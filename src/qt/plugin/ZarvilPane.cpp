@@ -65,7 +65,8 @@ QtPlatform::Parts partsOfThePlatform(MessageBus& session, const StringTable& str
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
     explicit Loaded(const PaneOptions& options)
-        : platform(partsOfThePlatform(*options.session, strings), *options.session,
+        : translation(options.bundlePath + "/Contents/Resources", qt::Translation::Toolkit::Left),
+          platform(partsOfThePlatform(*options.session, strings), *options.session,
                    options.root.toStdString()),
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
@@ -87,7 +88,7 @@ struct ZarvilPane::Loaded {
         qt::HelpWindow::explainControls(part, strings);
     }
 
-    qt::Translation translation{qt::Translation::Toolkit::Left};
+    qt::Translation translation;
     QtStringTable strings;
     QtPlatform platform;
     Zarvil_Preferences controller;
