@@ -18,8 +18,9 @@ void economizeMemory() {
     // The library raises its own limit as it goes, and keeps what the start had need of for good.
     constexpr int keptFree = 128 * 1024; // bytes, where the library begins
     mallopt(M_TRIM_THRESHOLD, keptFree);
-    // The few threads beside the main one allocate little and seldom, so one heap serves them all.
-    mallopt(M_ARENA_MAX, 1);
+    // One heap for the main thread and one for those beside it, of which at the start that with the
+    // fonts allocates as much as the main one.
+    mallopt(M_ARENA_MAX, 2);
 #endif
 }
 
