@@ -10,6 +10,7 @@
 #include "qt/adapters/QtPlatform.h"
 #include "qt/adapters/QtRunLoop.h"
 #include "qt/binding/AlertBox.h"
+#include "qt/binding/FirstPicture.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
@@ -71,7 +72,8 @@ struct ZarvilPane::Loaded {
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
-          scriptWindow(controller.scriptProgress, *view) {
+          scriptWindow(controller.scriptProgress, *view),
+          firstPicture(*view, controller.guidance.statusIndicator.animatingProperty()) {
         qt::HelpWindow::offer(*view, strings);
         qt::bindGuidance(controller, *view, bindings);
         bindPart(*view);
@@ -95,6 +97,7 @@ struct ZarvilPane::Loaded {
     std::unique_ptr<qt::PaneView> view;
     qt::AlertBox alerts;
     qt::ScriptWindow scriptWindow;
+    qt::FirstPicture firstPicture;
     qt::Subscriptions bindings;
 };
 
@@ -131,7 +134,10 @@ QWidget* ZarvilPane::mainView() {
 
 void ZarvilPane::mainViewDidLoad() { loaded_->controller.mainViewDidLoad(); }
 
-void ZarvilPane::willSelect() { loaded_->controller.willSelect(); }
+void ZarvilPane::willSelect() {
+    loaded_->controller.willSelect();
+    loaded_->firstPicture.putOff();
+}
 
 int ZarvilPane::shouldUnselect() { return static_cast<int>(loaded_->controller.shouldUnselect()); }
 
