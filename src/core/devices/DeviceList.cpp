@@ -3,51 +3,44 @@
 #include "protocol/Messages.h"
 
 #include <algorithm>
-#include <array>
 
 namespace zarvil {
 
-namespace {
+DeviceIdentity::DeviceIdentity(const Dictionary& device) : texts_(textsOf(device)), hash_(0) {
+    for (const std::string* text : texts_) {
+        if (!text) {
+            hash_ = contentHash(device);
+            return;
+        }
+        constexpr std::size_t multiplier = 0x9e3779b97f4a7c15U; // 2^64 divided by the golden ratio
+        hash_ = hash_ * multiplier + std::hash<std::string>{}(*text);
+    }
+}
 
-/// Name, vendor and serial of a device; null where one is missing or is no string.
-using Identity = std::array<const std::string*, 3>;
+bool DeviceIdentity::isOf(const Record& record) const {
+    return std::ranges::equal(textsOf(record->contents()), texts_,
+                              [](const std::string* left, const std::string* right) {
+                                  return left && right && *left == *right;
+                              });
+}
 
-Identity identityOf(const Dictionary& device) {
+DeviceIdentity::Texts DeviceIdentity::textsOf(const Dictionary& device) {
     return {device.stringForKey(payload::deviceName), device.stringForKey(payload::deviceVendor),
             device.stringForKey(payload::deviceSerial)};
 }
 
-bool isComplete(const Identity& identity) {
-    return std::ranges::none_of(identity, [](const std::string* text) { return text == nullptr; });
-}
-
-std::size_t identityHash(const Dictionary& device, const Identity& identity) {
-    if (!isComplete(identity))
-        return contentHash(device);
-    std::size_t hash = 0;
-    for (const std::string* text : identity) {
-        constexpr std::size_t multiplier = 0x9e3779b97f4a7c15U; // 2^64 divided by the golden ratio
-        hash = hash * multiplier + std::hash<std::string>{}(*text);
-    }
-    return hash;
-}
-
-} // namespace
-
 std::size_t deviceHash(const MutableRecord& device) {
-    return identityHash(device.contents(), identityOf(device.contents()));
+    return DeviceIdentity(device.contents()).hash();
 }
 
-Record firstSameDevice(const ArrayController& list, const Dictionary& device) {
-    const Identity identity = identityOf(device);
-    if (list.empty() || !isComplete(identity))
-        return nullptr;
-    return list.firstOfHash(identityHash(device, identity), [&identity](const Record& record) {
-        return std::ranges::equal(identityOf(record->contents()), identity,
-                                  [](const std::string* left, const std::string* right) {
-                                      return left && *left == *right;
-                                  });
-    });
+Record firstSameDevice(const ArrayController& list, const DeviceIdentity& device) {
+    return list.firstOfHash(device.hash(),
+                            [&device](const Record& record) { return device.isOf(record); });
+}
+
+void removeFirstSameDevice(ArrayController& list, const DeviceIdentity& device) {
+    list.removeFirstOfHash(device.hash(),
+                           [&device](const Record& record) { return device.isOf(record); });
 }
 
 void DeviceList::add(const Record& record) {
@@ -55,12 +48,9 @@ void DeviceList::add(const Record& record) {
     list_.addObject(record);
 }
 
-void DeviceList::removeSameDevice(const Dictionary& device) {
-    const Record same = firstSameDevice(list_, device);
-    if (!same)
-        return;
+void DeviceList::removeSameDevice(const DeviceIdentity& device) {
     serials_.reset();
-    list_.removeObject(same);
+    removeFirstSameDevice(list_, device);
 }
 
 void DeviceList::clear() {

@@ -73,7 +73,8 @@ void Zarvil_Preferences::newSavedDevice(const Message* message) {
 
 void Zarvil_Preferences::addDevice(const Record& record) {
     allConnectedDevices_.add(record);
-    if (firstSameDevice(savedArrayController, record->contents()))
+    if (!savedArrayController.empty() &&
+        firstSameDevice(savedArrayController, DeviceIdentity(record->contents())))
         return;
     arrayController.addObject(record);
     arrayController.rearrangeObjects();
@@ -81,11 +82,10 @@ void Zarvil_Preferences::addDevice(const Record& record) {
 
 // A watched device stays in its list, ticked, while it is unplugged.
 void Zarvil_Preferences::removeDevice(const Dictionary& device) {
-    allConnectedDevices_.removeSameDevice(device);
-    if (const Record shown = firstSameDevice(arrayController, device)) {
-        arrayController.removeObject(shown);
-        arrayController.rearrangeObjects();
-    }
+    const DeviceIdentity identity(device);
+    allConnectedDevices_.removeSameDevice(identity);
+    removeFirstSameDevice(arrayController, identity);
+    arrayController.rearrangeObjects();
 }
 
 void Zarvil_Preferences::addSavedDevice(const Record& record) {

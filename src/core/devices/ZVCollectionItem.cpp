@@ -43,6 +43,12 @@ void ZVCollectionItem::setState(unsigned long state) {
     appearanceDidChange();
 }
 
+View& ZVCollectionItem::note() {
+    if (!note_)
+        note_ = std::make_unique<View>();
+    return *note_;
+}
+
 std::string ZVCollectionItem::name() const { return name(longestShownLine); }
 
 std::string ZVCollectionItem::detail() const {

@@ -43,8 +43,8 @@ public:
     /// What an assistive program calls the row.
     [[nodiscard]] std::string spokenName() const;
 
-    /// The card that the item stands on.
-    [[nodiscard]] View& note() { return note_; }
+    /// The card that the item stands on; made when first asked for, as thousands of items have one.
+    [[nodiscard]] View& note();
 
 private:
     [[nodiscard]] std::string text(std::string_view key, std::size_t limit) const;
@@ -54,7 +54,7 @@ private:
 
     const StringTable& strings_;
     unsigned long state_ = 0;
-    View note_;
+    std::unique_ptr<View> note_;
 };
 
 /// A device's place in a list that is sorted by name.

@@ -1,95 +1,154 @@
 #include "interface/ArrayController.h"
 
+#include <algorithm>
+#include <bit>
+#include <stdexcept>
+
 namespace zarvil {
 
-ArrayController::Entry::Entry(ArrayController& list, RecordSerial ownSerial, Record listed)
-    : owner(list), serial(ownSerial), hash(list.hash_(*listed)), record(std::move(listed)) {
-    record->addWatcher(*this);
+const Record& ArrayController::ArrangedObjects::at(std::size_t index) const {
+    if (index >= size())
+        throw std::out_of_range("ArrangedObjects::at");
+    return (*this)[index];
 }
 
 void ArrayController::addObject(Record record) {
-    auto added = std::make_unique<Entry>(*this, nextSerial_++, std::move(record));
-    Entry& entry = *added;
-    list(entry);
-    entries_.insert(entries_.size(), std::move(added));
-    observers_.notify({ListChange::Kind::Inserted, entry.serial, entry.record});
+    if (entries_.size() == lastOfHash_.size() / 2)
+        tidy();
+    const RecordSerial serial = nextSerial_++;
+    entries_.push_back({record, serial, static_cast<std::uint32_t>(hash_(*record))});
+    link(static_cast<Position>(entries_.size() - 1));
+    ++count_;
+    if (edits_ == Edits::Watched)
+        record->addWatcher(*this);
+    observers_.notify({ListChange::Kind::Inserted, serial, record});
 }
 
 void ArrayController::removeObject(const Record& record) {
-    Entry* listed =
-        firstEntry(hash_(*record), [&](const Record& candidate) { return candidate == record; });
-    if (!listed)
-        listed = firstEqual(record);
-    if (!listed)
-        return;
-    unlist(*listed);
-    const auto removed = entries_.take(*listed);
-    observers_.notify({ListChange::Kind::Removed, removed->serial, removed->record});
+    const Position listed =
+        firstPosition(hash_(*record), [&](const Record& candidate) { return candidate == record; });
+    remove(listed != none ? listed : firstEqual(record));
 }
 
 void ArrayController::removeAllArrangedObjects() {
-    if (entries_.empty())
+    if (empty())
         return;
-    firstOfHash_.clear();
+    stopWatching();
     entries_.clear();
+    lastOfHash_.clear();
+    count_ = 0;
     observers_.notify({ListChange::Kind::Cleared, 0, nullptr});
 }
 
 std::optional<RecordSerial> ArrayController::serialOfObject(const Record& record) const {
-    const Entry* equal = firstEqual(record);
-    return equal ? std::optional(equal->serial) : std::nullopt;
+    const Position equal = firstEqual(record);
+    return equal == none ? std::nullopt : std::optional(entries_[equal].serial);
 }
 
 std::optional<std::size_t> ArrayController::indexOfObject(const Record& record) const {
-    const Entry* equal = firstEqual(record);
-    return equal ? std::optional(entries_.indexOf(*equal)) : std::nullopt;
+    const Position equal = firstEqual(record);
+    if (equal == none || count_ == entries_.size())
+        return equal == none ? std::nullopt : std::optional<std::size_t>(equal);
+    return std::count_if(entries_.begin(), entries_.begin() + equal,
+                         [](const Entry& entry) { return entry.record != nullptr; });
 }
 
 Subscription ArrayController::observe(Observer observer) const {
-    for (const auto& entry : entries_)
-        observer({ListChange::Kind::Inserted, entry.serial, entry.record});
+    for (const Entry& entry : entries_)
+        if (entry.record)
+            observer({ListChange::Kind::Inserted, entry.serial, entry.record});
     return observers_.add(std::move(observer));
 }
 
-ArrayController::Entry* ArrayController::firstEqual(const Record& record) const {
-    return firstEntry(hash_(*record), [&](const Record& candidate) {
+ArrayController::Position ArrayController::firstEqual(const Record& record) const {
+    return firstPosition(hash_(*record), [&](const Record& candidate) {
         return candidate == record || candidate->contents() == record->contents();
     });
 }
 
-void ArrayController::recordWasEdited(Entry& entry) {
-    unlist(entry);
-    entry.hash = hash_(*entry.record);
-    list(entry);
-    observers_.notify({ListChange::Kind::Edited, entry.serial, entry.record});
+const ArrayController::Entry& ArrayController::entryAt(std::size_t index) const {
+    if (count_ == entries_.size())
+        return entries_[index];
+    auto entry = entries_.begin();
+    while (!entry->record || index-- > 0)
+        ++entry;
+    return *entry;
 }
 
-void ArrayController::list(Entry& entry) {
-    entry.before = entry.after = &entry;
-    Entry* const first = firstOfHash_.find(entry.hash);
-    if (!first) {
-        firstOfHash_.insert(entry);
+void ArrayController::recordWasEdited(const MutableRecord& record) {
+    const auto hash = static_cast<std::uint32_t>(hash_(record));
+    std::vector<RecordSerial> edited;
+    bool hasNewHash = false;
+    for (Entry& entry : entries_)
+        if (entry.record.get() == &record) {
+            edited.push_back(entry.serial);
+            hasNewHash |= std::exchange(entry.hash, hash) != hash;
+        }
+    if (hasNewHash)
+        tidy();
+    // An observer may remove the next.
+    for (const RecordSerial serial : edited) {
+        const auto entry = std::ranges::lower_bound(entries_, serial, {}, &Entry::serial);
+        if (entry != entries_.end() && entry->serial == serial && entry->record) {
+            const Record kept = entry->record;
+            observers_.notify({ListChange::Kind::Edited, serial, kept});
+        }
+    }
+}
+
+void ArrayController::stopWatching() {
+    if (edits_ == Edits::Watched)
+        for (const Record& record : arrangedObjects())
+            record->removeWatcher(*this);
+}
+
+void ArrayController::remove(Position position) {
+    if (position == none)
         return;
-    }
-    Entry* smaller = first->before; // a new one follows the last
-    while (smaller != first && smaller->serial > entry.serial)
-        smaller = smaller->before;
-    if (smaller->serial > entry.serial) {
-        smaller = first->before;
-        firstOfHash_.replace(*first, entry);
-    }
-    entry.before = smaller;
-    entry.after = smaller->after;
-    entry.before->after = entry.after->before = &entry;
+    unlink(position);
+    const RecordSerial serial = entries_[position].serial;
+    const Record removed = std::move(entries_[position].record);
+    --count_;
+    if (edits_ == Edits::Watched)
+        removed->removeWatcher(*this);
+    observers_.notify({ListChange::Kind::Removed, serial, removed});
 }
 
-void ArrayController::unlist(Entry& entry) {
-    if (entry.after == &entry)
-        firstOfHash_.erase(entry);
-    else if (firstOfHash_.find(entry.hash) == &entry)
-        firstOfHash_.replace(entry, *entry.after);
-    entry.before->after = entry.after;
-    entry.after->before = entry.before;
+std::size_t ArrayController::slotOf(std::size_t hash) const {
+    const std::size_t mask = lastOfHash_.size() - 1;
+    std::size_t slot = hash & mask;
+    while (lastOfHash_[slot] != none &&
+           entries_[lastOfHash_[slot]].hash != static_cast<std::uint32_t>(hash))
+        slot = (slot + 1) & mask;
+    return slot;
+}
+
+void ArrayController::link(Position position) {
+    Position& last = lastOfHash_[slotOf(entries_[position].hash)];
+    const bool isFirst = last == none || !entries_[last].record;
+    entries_[position].next = isFirst ? position : std::exchange(entries_[last].next, position);
+    last = position;
+}
+
+void ArrayController::unlink(Position position) {
+    const Position next = entries_[position].next;
+    if (next == position)
+        return;
+    Position& last = lastOfHash_[slotOf(entries_[position].hash)];
+    Position before = last;
+    while (entries_[before].next != position)
+        before = entries_[before].next;
+    entries_[before].next = next;
+    if (last == position)
+        last = before;
+}
+
+void ArrayController::tidy() {
+    constexpr std::size_t fewest = 16; // a power of two, as every later size
+    lastOfHash_.assign(std::max(fewest, std::bit_ceil(4 * count_)), none);
+    std::erase_if(entries_, [](const Entry& entry) { return !entry.record; });
+    for (Position position = 0; position < entries_.size(); ++position)
+        link(position);
 }
 
 } // namespace zarvil

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "interface/ChunkedList.h"
-#include "interface/HashIndex.h"
 #include "interface/Record.h"
 #include "protocol/NonCopyable.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <vector>
 
@@ -20,29 +19,26 @@ using RecordSerial = std::uint64_t;
 struct ListChange {
     enum class Kind : std::uint8_t { Inserted, Removed, Edited, Cleared };
     Kind kind;
-    RecordSerial serial; ///< 0 when all went
-    Record record;       ///< null when all went
+    RecordSerial serial;  ///< 0 when all went
+    const Record& record; ///< null when all went
 };
 
 /// The records of a list in the order of their addition. Looking a record up answers as a walk in
-/// order would, in constant time.
-class ArrayController : NonCopyable {
-    /// Watches its record.
-    struct Entry final : Chunked, Hashed<Entry>, RecordWatcher {
-        Entry(ArrayController& list, RecordSerial ownSerial, Record listed);
-        ~Entry() { record->removeWatcher(*this); }
-        void recordWasEdited() override { owner.recordWasEdited(*this); }
-        [[nodiscard]] std::size_t hashKey() const { return hash; }
+/// order would, in constant time; an index costs a walk where records were removed before.
+class ArrayController : RecordWatcher {
+    /// Of an entry; `none` for no entry.
+    using Position = std::uint32_t;
+    static constexpr Position none = ~Position{0};
 
-        ArrayController& owner;
+    /// They stand side by side, each within one line of memory, for a long list is mostly looked at
+    /// in places that no near cache holds. Positions change only when removed ones are dropped.
+    struct alignas(32) Entry {
+        Record record; ///< null where it was removed
         RecordSerial serial;
-        std::size_t hash; ///< kept current by watching
-        Record record;
-        /// The ring of the entries of this hash, by serial.
-        Entry* before = this;
-        Entry* after = this;
+        std::uint32_t hash;   ///< the low bits; kept current by watching
+        Position next = none; ///< of this hash; the first one's behind the last
     };
-    using Entries = ChunkedList<Entry>;
+    using Entries = std::deque<Entry>;
 
 public:
     using Observer = std::function<void(const ListChange&)>;
@@ -58,40 +54,61 @@ public:
             using difference_type = std::ptrdiff_t;
 
             Iterator() = default;
-            explicit Iterator(Entries::Iterator entry) : entry_(entry) {}
+            Iterator(Entries::const_iterator entry, Entries::const_iterator end)
+                : entry_(entry), end_(end) {
+                skipRemoved();
+            }
             const Record& operator*() const { return (*entry_).record; }
             Iterator& operator++() {
                 ++entry_;
+                skipRemoved();
                 return *this;
             }
-            Iterator operator++(int) { return Iterator(entry_++); }
+            Iterator operator++(int) {
+                Iterator former = *this;
+                ++*this;
+                return former;
+            }
             friend bool operator==(const Iterator&, const Iterator&) = default;
 
         private:
-            Entries::Iterator entry_;
+            void skipRemoved() {
+                while (entry_ != end_ && !(*entry_).record)
+                    ++entry_;
+            }
+
+            Entries::const_iterator entry_;
+            Entries::const_iterator end_;
         };
 
-        explicit ArrangedObjects(const Entries& entries) : entries_(&entries) {}
-        [[nodiscard]] Iterator begin() const { return Iterator(entries_->begin()); }
-        [[nodiscard]] Iterator end() const { return Iterator(entries_->end()); }
-        [[nodiscard]] std::size_t size() const { return entries_->size(); }
+        explicit ArrangedObjects(const ArrayController& list) : list_(&list) {}
+        [[nodiscard]] Iterator begin() const {
+            return {list_->entries_.begin(), list_->entries_.end()};
+        }
+        [[nodiscard]] Iterator end() const {
+            return {list_->entries_.end(), list_->entries_.end()};
+        }
+        [[nodiscard]] std::size_t size() const { return list_->count_; }
         [[nodiscard]] const Record& operator[](std::size_t index) const {
-            return (*entries_)[index].record;
+            return list_->entryAt(index).record;
         }
         /// Throws behind the end.
-        [[nodiscard]] const Record& at(std::size_t index) const {
-            return entries_->at(index).record;
-        }
+        [[nodiscard]] const Record& at(std::size_t index) const;
 
     private:
-        const Entries* entries_;
+        const ArrayController* list_;
     };
 
-    /// A hash of what records are most often looked up by serves `firstOfHash` as well.
-    explicit ArrayController(Hash hash = &hashOfContents) : hash_(hash) {}
+    /// Whether the records may be edited while they are listed.
+    enum class Edits : std::uint8_t { Watched, Never };
 
-    [[nodiscard]] ArrangedObjects arrangedObjects() const { return ArrangedObjects(entries_); }
-    [[nodiscard]] bool empty() const { return entries_.empty(); }
+    /// A hash of what records are most often looked up by serves `firstOfHash` as well.
+    explicit ArrayController(Hash hash = &hashOfContents, Edits edits = Edits::Watched)
+        : hash_(hash), edits_(edits) {}
+    ~ArrayController() { stopWatching(); }
+
+    [[nodiscard]] ArrangedObjects arrangedObjects() const { return ArrangedObjects(*this); }
+    [[nodiscard]] bool empty() const { return count_ == 0; }
 
     /// Shares the record; equal ones may stand side by side.
     void addObject(Record record);
@@ -106,13 +123,18 @@ public:
     /// Its serial, for whoever need not know where it stands.
     [[nodiscard]] std::optional<RecordSerial> serialOfObject(const Record& record) const;
     [[nodiscard]] RecordSerial serialAtIndex(std::size_t index) const {
-        return entries_[index].serial;
+        return entryAt(index).serial;
     }
     /// The first record that a walk over those of one hash finds, or null.
     template <typename Predicate>
     [[nodiscard]] Record firstOfHash(std::size_t hash, Predicate&& matches) const {
-        const Entry* entry = firstEntry(hash, matches);
-        return entry ? entry->record : nullptr;
+        const Position found = firstPosition(hash, matches);
+        return found == none ? nullptr : entries_[found].record;
+    }
+    /// Removes it, if there is one.
+    template <typename Predicate>
+    void removeFirstOfHash(std::size_t hash, Predicate&& matches) {
+        remove(firstPosition(hash, matches));
     }
 
     /// The new observer is first told of every record that is listed.
@@ -124,23 +146,35 @@ public:
 
 private:
     template <typename Predicate>
-    [[nodiscard]] Entry* firstEntry(std::size_t hash, Predicate&& matches) const {
-        Entry* const first = firstOfHash_.find(hash);
-        for (Entry* entry = first; entry;) {
-            if (matches(entry->record))
-                return entry;
-            entry = entry->after == first ? nullptr : entry->after;
-        }
-        return nullptr;
+    [[nodiscard]] Position firstPosition(std::size_t hash, Predicate&& matches) const {
+        const Position last = empty() ? none : lastOfHash_[slotOf(hash)];
+        // A hash's last entry keeps its place when it is removed and no other is left.
+        if (last == none || !entries_[last].record)
+            return none;
+        Position position = last;
+        do {
+            position = entries_[position].next;
+            if (matches(entries_[position].record))
+                return position;
+        } while (position != last);
+        return none;
     }
-    [[nodiscard]] Entry* firstEqual(const Record& record) const;
-    void recordWasEdited(Entry& entry);
-    void list(Entry& entry);
-    void unlist(Entry& entry);
+    [[nodiscard]] Position firstEqual(const Record& record) const;
+    [[nodiscard]] const Entry& entryAt(std::size_t index) const;
+    [[nodiscard]] std::size_t slotOf(std::size_t hash) const;
+    void recordWasEdited(const MutableRecord& record) override;
+    void stopWatching();
+    void remove(Position position);
+    void link(Position position);
+    void unlink(Position position);
+    void tidy();
 
     Hash hash_;
-    Entries entries_;              ///< with ascending serials
-    HashIndex<Entry> firstOfHash_; ///< by serial, so that the first match is the walk's answer
+    Edits edits_;
+    Entries entries_; ///< with ascending serials
+    std::size_t count_ = 0;
+    /// The last entry of a hash is found from the hash's own place on, before the next free one.
+    std::vector<Position> lastOfHash_;
     RecordSerial nextSerial_ = 1;
     mutable ObserverList<const ListChange&> observers_;
 };

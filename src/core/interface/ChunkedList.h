@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <numeric>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -20,11 +22,18 @@ class Chunked : NonCopyable {
 };
 
 /// A sequence that owns its elements, and takes and gives them anywhere without moving everything
-/// behind them: they stand in chunks of a bounded size. An index is found by counting chunks, which
-/// is cheap up to some hundred thousand elements.
+/// behind them: they stand in chunks of a bounded size. An index is found by adding up the sizes of
+/// the chunks before, which is cheap up to some hundred thousand elements.
 template <typename Element>
 class ChunkedList {
-    using Chunk = std::vector<std::unique_ptr<Element>>;
+    struct Chunk : NonCopyable {
+        ~Chunk() {
+            for (Element* element : elements)
+                delete element;
+        }
+        std::vector<Element*> elements; ///< owned; plain, so that they are moved in one go
+        std::size_t number = 0;         ///< of the chunk
+    };
     using Chunks = std::vector<std::unique_ptr<Chunk>>;
 
 public:
@@ -34,9 +43,9 @@ public:
         using difference_type = std::ptrdiff_t;
 
         Iterator() = default;
-        const Element& operator*() const { return *(*(*chunks_)[chunk_])[offset_]; }
+        const Element& operator*() const { return *(*chunks_)[chunk_]->elements[offset_]; }
         Iterator& operator++() {
-            if (++offset_ == (*chunks_)[chunk_]->size()) {
+            if (++offset_ == (*chunks_)[chunk_]->elements.size()) {
                 ++chunk_;
                 offset_ = 0;
             }
@@ -58,6 +67,13 @@ public:
         std::size_t offset_ = 0;
     };
 
+    /// Where an element stands or would stand; holds until the list changes.
+    struct Place {
+        std::size_t index;
+        std::size_t chunk;
+        std::size_t offset; ///< in the chunk
+    };
+
     [[nodiscard]] std::size_t size() const { return size_; }
     [[nodiscard]] bool empty() const { return size_ == 0; }
     [[nodiscard]] Iterator begin() const { return Iterator(chunks_, 0); }
@@ -65,7 +81,7 @@ public:
 
     [[nodiscard]] Element& operator[](std::size_t index) const {
         const Place place = placeOf(index);
-        return *(*chunks_[place.chunk])[place.offset];
+        return *chunks_[place.chunk]->elements[place.offset];
     }
     [[nodiscard]] Element& at(std::size_t index) const {
         if (index >= size_)
@@ -74,104 +90,120 @@ public:
     }
     /// Of an element of this list.
     [[nodiscard]] std::size_t indexOf(const Element& element) const {
-        std::size_t index = 0;
-        for (const auto& chunk : chunks_) {
-            if (chunk.get() == element.chunk_)
-                return index + offsetOf(element, *chunk);
-            index += chunk->size();
-        }
-        throw std::logic_error("ChunkedList::indexOf");
+        const Chunk& chunk = *static_cast<const Chunk*>(element.chunk_);
+        return countBefore(chunk.number) + offsetOf(element, chunk);
     }
 
     void insert(std::size_t index, std::unique_ptr<Element> element) {
-        Place place = placeForInsertion(index);
-        if (chunks_[place.chunk]->size() == capacity)
+        insert(index < size_ ? placeOf(index) : lastPlace(), std::move(element));
+    }
+    void insert(Place place, std::unique_ptr<Element> element) {
+        if (place.chunk == chunks_.size())
+            addChunk(place.chunk);
+        else if (sizes_[place.chunk] == capacity)
             place = split(place);
         Chunk& chunk = *chunks_[place.chunk];
         element->chunk_ = &chunk;
-        chunk.insert(chunk.begin() + static_cast<std::ptrdiff_t>(place.offset), std::move(element));
+        chunk.elements.insert(chunk.elements.begin() + static_cast<std::ptrdiff_t>(place.offset),
+                              element.get());
+        static_cast<void>(element.release());
+        ++sizes_[place.chunk];
         ++size_;
     }
     /// Of an element of this list, whose index need not be known.
     std::unique_ptr<Element> take(const Element& element) {
         Chunk& chunk = *static_cast<Chunk*>(element.chunk_);
-        const auto place = chunk.begin() + static_cast<std::ptrdiff_t>(offsetOf(element, chunk));
-        std::unique_ptr<Element> taken = std::move(*place);
-        chunk.erase(place);
-        if (chunk.empty())
-            std::erase_if(chunks_, [&](const auto& each) { return each.get() == &chunk; });
+        const auto place =
+            chunk.elements.begin() + static_cast<std::ptrdiff_t>(offsetOf(element, chunk));
+        std::unique_ptr<Element> taken(*place);
+        chunk.elements.erase(place);
+        if (--sizes_[chunk.number] == 0)
+            dropChunk(chunk.number);
         --size_;
         return taken;
     }
     void clear() {
         chunks_.clear();
+        sizes_.clear();
         size_ = 0;
     }
 
-    /// Index of the first element that is not `before`; those that are must stand in front.
+    /// Of the first element that is not `before`; those that are must stand in front.
     template <typename Predicate>
-    [[nodiscard]] std::size_t partitionPoint(Predicate&& before) const {
-        const auto chunk = std::ranges::partition_point(
-            chunks_, [&](const auto& candidate) { return before(*candidate->back()); });
-        std::size_t index = 0;
-        for (auto passed = chunks_.begin(); passed != chunk; ++passed)
-            index += (*passed)->size();
-        if (chunk == chunks_.end())
-            return index;
+    [[nodiscard]] Place partitionPoint(Predicate&& before) const {
         const auto found = std::ranges::partition_point(
-            **chunk, [&](const auto& candidate) { return before(*candidate); });
-        return index + static_cast<std::size_t>(found - (*chunk)->begin());
+            chunks_, [&](const auto& candidate) { return before(*candidate->elements.back()); });
+        if (found == chunks_.end())
+            return lastPlace();
+        const auto chunk = static_cast<std::size_t>(found - chunks_.begin());
+        const auto& elements = (*found)->elements;
+        const auto place = std::ranges::partition_point(
+            elements, [&](const Element* candidate) { return before(*candidate); });
+        const auto offset = static_cast<std::size_t>(place - elements.begin());
+        return {countBefore(chunk) + offset, chunk, offset};
     }
 
 private:
-    struct Place {
-        std::size_t chunk;
-        std::size_t offset;
-    };
-    /// Moving half of so many pointers costs about as much as counting the chunks of 10,000.
-    static constexpr std::size_t capacity = 256;
+    /// Looking through half of so many pointers costs about as much as adding up the sizes of the
+    /// chunks of 10,000.
+    static constexpr std::size_t capacity = 128;
 
+    [[nodiscard]] std::size_t countBefore(std::size_t chunk) const {
+        return std::accumulate(sizes_.begin(), sizes_.begin() + static_cast<std::ptrdiff_t>(chunk),
+                               std::uint32_t{0});
+    }
     [[nodiscard]] static std::size_t offsetOf(const Element& element, const Chunk& chunk) {
-        const std::unique_ptr<Element>* found = chunk.data();
-        while (found->get() != &element)
-            ++found;
-        return static_cast<std::size_t>(found - chunk.data());
+        const auto found = std::ranges::find(chunk.elements, &element);
+        return static_cast<std::size_t>(found - chunk.elements.begin());
     }
     [[nodiscard]] Place placeOf(std::size_t index) const {
         std::size_t chunk = 0;
-        while (index >= chunks_[chunk]->size())
-            index -= chunks_[chunk++]->size();
-        return {chunk, index};
+        std::size_t offset = index;
+        while (offset >= sizes_[chunk])
+            offset -= sizes_[chunk++];
+        return {index, chunk, offset};
     }
-    Place placeForInsertion(std::size_t index) {
-        if (index < size_)
-            return placeOf(index);
-        if (chunks_.empty() || chunks_.back()->size() == capacity)
-            chunks_.push_back(newChunk());
-        return {chunks_.size() - 1, chunks_.back()->size()};
-    }
-    [[nodiscard]] static std::unique_ptr<Chunk> newChunk() {
-        auto chunk = std::make_unique<Chunk>();
-        chunk->reserve(capacity);
-        return chunk;
+    /// Behind all, in a chunk that may have yet to be made.
+    [[nodiscard]] Place lastPlace() const {
+        if (chunks_.empty() || sizes_.back() == capacity)
+            return {size_, chunks_.size(), 0};
+        return {size_, chunks_.size() - 1, sizes_.back()};
     }
     Place split(Place place) {
-        auto upper = newChunk();
-        Chunk& lower = *chunks_[place.chunk];
-        const auto middle = lower.begin() + static_cast<std::ptrdiff_t>(capacity / 2);
-        for (auto moved = middle; moved != lower.end(); ++moved) {
-            (*moved)->chunk_ = upper.get();
-            upper->push_back(std::move(*moved));
-        }
-        lower.erase(middle, lower.end());
-        chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place.chunk + 1),
-                       std::move(upper));
+        addChunk(place.chunk + 1);
+        Chunk& upper = *chunks_[place.chunk + 1];
+        auto& elements = chunks_[place.chunk]->elements;
+        const auto middle = elements.begin() + static_cast<std::ptrdiff_t>(capacity / 2);
+        upper.elements.assign(middle, elements.end());
+        for (Element* moved : upper.elements)
+            moved->chunk_ = &upper;
+        elements.erase(middle, elements.end());
+        sizes_[place.chunk] = sizes_[place.chunk + 1] = capacity / 2;
         if (place.offset <= capacity / 2)
             return place;
-        return {place.chunk + 1, place.offset - capacity / 2};
+        return {place.index, place.chunk + 1, place.offset - capacity / 2};
+    }
+    void addChunk(std::size_t number) {
+        const auto place = static_cast<std::ptrdiff_t>(number);
+        auto chunk = std::make_unique<Chunk>();
+        chunk->elements.reserve(capacity);
+        chunks_.insert(chunks_.begin() + place, std::move(chunk));
+        sizes_.insert(sizes_.begin() + place, 0);
+        numberFrom(number);
+    }
+    void dropChunk(std::size_t number) {
+        const auto place = static_cast<std::ptrdiff_t>(number);
+        chunks_.erase(chunks_.begin() + place);
+        sizes_.erase(sizes_.begin() + place);
+        numberFrom(number);
+    }
+    void numberFrom(std::size_t number) {
+        for (; number < chunks_.size(); ++number)
+            chunks_[number]->number = number;
     }
 
-    Chunks chunks_; ///< none is empty
+    Chunks chunks_;                    ///< none is empty
+    std::vector<std::uint32_t> sizes_; ///< of the chunks
     std::size_t size_ = 0;
 };
 

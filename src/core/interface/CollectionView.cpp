@@ -1,6 +1,7 @@
 #include "interface/CollectionView.h"
 
-#include <tuple>
+#include <algorithm>
+#include <new>
 
 namespace zarvil {
 
@@ -12,6 +13,14 @@ void CollectionViewItem::appearanceDidChange() {
         return;
     if (const auto row = collectionView_->rowOfSerial(serial_))
         collectionView_->notify(Kind::Changed, Phase::After, *row);
+}
+
+std::unique_ptr<CollectionView::Row> CollectionView::Row::make(std::string_view key,
+                                                               RecordSerial serial, Record record) {
+    void* const memory = ::operator new(sizeof(Row) + key.size());
+    std::unique_ptr<Row> row(new (memory) Row(key.size(), serial, std::move(record)));
+    std::ranges::copy(key, reinterpret_cast<char*>(row.get() + 1));
+    return row;
 }
 
 CollectionView::CollectionView(ArrayController& content, Prototype prototype, SortKey sortKey)
@@ -76,14 +85,14 @@ void CollectionView::contentDidChange(const ListChange& change) {
 }
 
 void CollectionView::insert(const ListChange& change) {
-    auto added = std::make_unique<Row>(sortKey_ ? sortKey_(*change.record) : std::string(),
-                                       change.serial, change.record);
+    const std::string key = sortKey_ ? sortKey_(*change.record) : std::string();
+    auto added = Row::make(key, change.serial, change.record);
     Row& row = *added;
-    const std::size_t place = placeOf(row.key, row.serial);
-    notify(Kind::Inserted, Phase::Before, place);
+    const Rows::Place place = placeOf(key, row.serial);
+    notify(Kind::Inserted, Phase::Before, place.index);
     rows_.insert(place, std::move(added));
     rowsBySerial_.insert(row);
-    notify(Kind::Inserted, Phase::After, place);
+    notify(Kind::Inserted, Phase::After, place.index);
 }
 
 void CollectionView::remove(RecordSerial serial) {
@@ -100,19 +109,20 @@ void CollectionView::moveToItsPlace(RecordSerial serial) {
     if (!sortKey_)
         return;
     Row& row = *rowsBySerial_.find(serial);
-    std::string key = sortKey_(*row.record);
+    const std::string key = sortKey_(*row.record);
     const std::size_t from = rows_.indexOf(row);
-    const std::size_t behind = placeOf(key, serial);
+    const std::size_t behind = placeOf(key, serial).index;
     const std::size_t to = behind > from ? behind - 1 : behind;
-    if (to == from) {
-        row.key = std::move(key);
-        return;
-    }
-    notify(Kind::Moved, Phase::Before, from, to);
-    auto moved = rows_.take(row);
-    row.key = std::move(key);
+    if (to != from)
+        notify(Kind::Moved, Phase::Before, from, to);
+    auto moved = Row::make(key, serial, row.record);
+    moved->item = std::move(row.item);
+    rowsBySerial_.erase(row);
+    rowsBySerial_.insert(*moved);
+    static_cast<void>(rows_.take(row));
     rows_.insert(to, std::move(moved));
-    notify(Kind::Moved, Phase::After, from, to);
+    if (to != from)
+        notify(Kind::Moved, Phase::After, from, to);
 }
 
 void CollectionView::clear() {
@@ -124,9 +134,11 @@ void CollectionView::clear() {
     notify(Kind::Cleared, Phase::After, 0);
 }
 
-std::size_t CollectionView::placeOf(const std::string& key, RecordSerial serial) const {
+CollectionView::Rows::Place CollectionView::placeOf(std::string_view key,
+                                                    RecordSerial serial) const {
     return rows_.partitionPoint([&](const Row& other) {
-        return std::tie(other.key, other.serial) < std::tie(key, serial);
+        const int order = other.key().compare(key);
+        return order != 0 ? order < 0 : other.serial < serial;
     });
 }
 

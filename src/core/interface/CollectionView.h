@@ -1,12 +1,15 @@
 #pragma once
 
 #include "interface/ArrayController.h"
+#include "interface/ChunkedList.h"
+#include "interface/HashIndex.h"
 #include "interface/View.h"
 #include "protocol/NonCopyable.h"
 
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace zarvil {
 
@@ -115,23 +118,33 @@ public:
 
 private:
     friend class CollectionViewItem;
+    /// Its sort key stands behind it in the same memory, for which reason it is made by `make`
+    /// alone.
     struct Row final : Chunked, Hashed<Row> {
-        Row(std::string sortedBy, RecordSerial ownSerial, Record shown)
-            : key(std::move(sortedBy)), serial(ownSerial), record(std::move(shown)) {}
+        static std::unique_ptr<Row> make(std::string_view key, RecordSerial serial, Record record);
+        static void operator delete(void* memory) { ::operator delete(memory); }
         [[nodiscard]] std::size_t hashKey() const { return serial; }
+        [[nodiscard]] std::string_view key() const {
+            return {reinterpret_cast<const char*>(this + 1), keyLength};
+        }
 
-        std::string key;
         RecordSerial serial;
         Record record;
         std::shared_ptr<CollectionViewItem> item; ///< null where not yet asked for
+        std::size_t keyLength;
+
+    private:
+        Row(std::size_t length, RecordSerial ownSerial, Record shown)
+            : serial(ownSerial), record(std::move(shown)), keyLength(length) {}
     };
+    using Rows = ChunkedList<Row>;
 
     void contentDidChange(const ListChange& change);
     void insert(const ListChange& change);
     void remove(RecordSerial serial);
     void moveToItsPlace(RecordSerial serial);
     void clear();
-    [[nodiscard]] std::size_t placeOf(const std::string& key, RecordSerial serial) const;
+    [[nodiscard]] Rows::Place placeOf(std::string_view key, RecordSerial serial) const;
     std::shared_ptr<CollectionViewItem> itemOf(Row& row);
     void notify(RowChange::Kind kind, RowChange::Phase phase, std::size_t row, std::size_t to = 0);
     static void release(const Row& row);
@@ -141,7 +154,7 @@ private:
     SortKey sortKey_;
     ItemObserver itemWasMade_;
     CollectionViewDelegate* delegate_ = nullptr;
-    ChunkedList<Row> rows_; ///< by key, then serial
+    Rows rows_; ///< by key, then serial
     HashIndex<Row> rowsBySerial_;
     Property<std::size_t> rowCount_;
     mutable ObserverList<const RowChange&> observers_;

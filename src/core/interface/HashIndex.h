@@ -39,14 +39,15 @@ public:
         --count_;
         *linkTo(element.hashKey()) = element.next_;
     }
-    /// In place of one of the same key.
-    void replace(const Element& former, Element& element) {
-        element.next_ = former.next_;
-        *linkTo(former.hashKey()) = &element;
-    }
     void clear() {
         buckets_.clear();
         count_ = 0;
+    }
+    template <typename Callback>
+    void forEach(Callback&& callback) const {
+        for (const Element* element : buckets_)
+            for (; element; element = element->next_)
+                callback(*element);
     }
 
 private:

@@ -9,88 +9,69 @@
 
 namespace zarvil {
 
+class MutableRecord;
+
 /// Is told of a record's edits for as long as it watches it. It must not end before.
 class RecordWatcher : NonCopyable {
 public:
-    virtual void recordWasEdited() = 0;
+    virtual void recordWasEdited(const MutableRecord& record) = 0;
 
 protected:
     ~RecordWatcher() = default;
+};
 
-private:
-    friend class MutableRecord;
-    RecordWatcher* nextWatcher_ = nullptr;
+/// An entry of a record that is fetched when it is first asked for.
+class LateEntry : NonCopyable {
+public:
+    virtual ~LateEntry() = default;
+
+    [[nodiscard]] virtual std::string_view key() const = 0;
+    [[nodiscard]] virtual Value fetch() const = 0;
 };
 
 /// A dictionary that a list and the item that shows it share by reference, and that tells when it
-/// was edited. Has identity; copying its contents makes an independent record.
+/// was edited. Has identity; copying its contents makes an independent record. There are thousands,
+/// so what only few have stands apart.
 class MutableRecord : NonCopyable {
 public:
-    using Fetch = std::function<Value()>;
-
     explicit MutableRecord(Dictionary contents) : contents_(std::move(contents)) {}
-    /// One more entry is fetched when it is first asked for; nobody can tell it from the others.
-    MutableRecord(Dictionary contents, std::string lateKey, Fetch fetch)
-        : contents_(std::move(contents)), lateKey_(std::move(lateKey)), fetch_(std::move(fetch)) {
-        // Its place is kept, so that fetching moves none of the others.
-        contents_.setObject(lateKey_, Value(""));
-    }
+    /// The contents have the late entry's key already, so that fetching moves none of the others.
+    /// Nobody can tell it from them.
+    MutableRecord(Dictionary contents, std::unique_ptr<LateEntry> late)
+        : contents_(std::move(contents)), late_(std::move(late)) {}
 
     /// Complete.
     [[nodiscard]] const Dictionary& contents() const {
-        fetchLateEntry();
+        if (late_)
+            fetchLateEntry();
         return contents_;
     }
     /// One entry of the contents, without a need for the others; null unless it is a string. Valid
     /// until the record is edited.
-    [[nodiscard]] const std::string* stringForKey(std::string_view key) const {
-        if (key == lateKey_)
-            fetchLateEntry();
-        return contents_.stringForKey(key);
-    }
-    void fetchLateEntry() const {
-        if (const auto fetch = std::exchange(fetch_, nullptr))
-            contents_.setObject(lateKey_, fetch());
-    }
-    void setObject(std::string_view key, Value value) {
-        if (key == lateKey_)
-            fetch_ = nullptr;
-        contents_.setObject(key, std::move(value));
-        tellOfEdit();
-    }
+    [[nodiscard]] const std::string* stringForKey(std::string_view key) const;
+    void fetchLateEntry() const;
+    void setObject(std::string_view key, Value value);
+
     /// Called after each edit; not replayed.
-    Subscription observeEdits(std::function<void()> observer) {
-        return edited_.add(std::move(observer));
-    }
-    /// The same for whoever watches thousands of records: before the observers, and at no cost.
-    void addWatcher(RecordWatcher& watcher) { *placeOf(nullptr) = &watcher; }
-    void removeWatcher(RecordWatcher& watcher) { *placeOf(&watcher) = watcher.nextWatcher_; }
+    Subscription observeEdits(std::function<void()> observer);
+    /// The same for whoever watches thousands of records: before the observers, and at next to no
+    /// cost for the first. Who watches twice is told once, until both have ended.
+    void addWatcher(RecordWatcher& watcher);
+    void removeWatcher(const RecordWatcher& watcher);
 
 private:
-    /// The link that leads to the watcher; for none, the last one.
-    RecordWatcher** placeOf(const RecordWatcher* watcher) {
-        RecordWatcher** place = &firstWatcher_;
-        while (*place && *place != watcher)
-            place = &(*place)->nextWatcher_;
-        return place;
-    }
-    void tellOfEdit() {
-        std::vector<RecordWatcher*> told;
-        for (RecordWatcher* watcher = firstWatcher_; watcher; watcher = watcher->nextWatcher_)
-            told.push_back(watcher);
-        // One may end another in the course of this.
-        for (RecordWatcher* watcher : told)
-            if (*placeOf(watcher))
-                watcher->recordWasEdited();
-        edited_.notify();
-    }
+    struct Audience {
+        std::vector<RecordWatcher*> watchers; ///< behind the first
+        ObserverList<> observers;
+    };
+    [[nodiscard]] Audience& audience();
+    [[nodiscard]] std::vector<RecordWatcher*> watchers() const;
 
     /// Fetching changes nothing that a reader of the record can see.
     mutable Dictionary contents_;
-    std::string lateKey_;
-    mutable Fetch fetch_;
+    mutable std::unique_ptr<LateEntry> late_;
     RecordWatcher* firstWatcher_ = nullptr;
-    ObserverList<> edited_;
+    std::unique_ptr<Audience> audience_;
 };
 
 using Record = std::shared_ptr<MutableRecord>;

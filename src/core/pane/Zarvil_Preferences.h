@@ -217,8 +217,8 @@ private:
     std::unique_ptr<Timer> appTimer;
     std::unique_ptr<Timer> appOfflineTimer;
     std::optional<std::string> newScriptTitleVal_;
-    /// Listed scripts whose items get them when they are made.
-    std::unordered_set<const MutableRecord*> unhandedScripts_;
+    /// Listed scripts whose own items do not get them when they are made.
+    std::unordered_set<const MutableRecord*> sameTitledScripts_;
     /// While no scripts are listed.
     std::vector<ScriptDraft> scriptDrafts_;
     std::optional<double> lastRemoval_; ///< by a press, as the clock tells

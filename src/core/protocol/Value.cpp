@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <memory>
+#include <new>
 
 namespace zarvil {
 
@@ -80,17 +82,25 @@ Dictionary Dictionary::ofEntries(Entries entries) {
     Dictionary dictionary;
     if (entries.empty())
         return dictionary;
-    dictionary.count_ = entries.size();
-    dictionary.entries_ = std::make_shared<Entry[]>(entries.size());
-    std::ranges::move(entries, dictionary.entries_.get());
+    static_assert(alignof(Entry) <= alignof(Block));
+    dictionary.block_ = new (::operator new(sizeof(Block) + entries.size() * sizeof(Entry))) Block;
+    dictionary.block_->count = entries.size();
+    std::uninitialized_move(entries.begin(), entries.end(), dictionary.block_->entries());
     return dictionary;
+}
+
+Dictionary::~Dictionary() {
+    if (!block_ || block_->owners.fetch_sub(1, std::memory_order_acq_rel) > 1)
+        return;
+    std::destroy_n(block_->entries(), block_->count);
+    ::operator delete(block_);
 }
 
 const Value* Dictionary::objectForKey(std::string_view key) const {
     const auto all = entries();
     // Most differ in length already, so that a short walk needs fewer comparisons of text.
     constexpr std::size_t fewEntries = 8;
-    if (count_ <= fewEntries) {
+    if (all.size() <= fewEntries) {
         const auto found = std::ranges::find(all, key, &Entry::key);
         return found == all.end() ? nullptr : &found->value;
     }
@@ -99,16 +109,16 @@ const Value* Dictionary::objectForKey(std::string_view key) const {
 }
 
 void Dictionary::setObject(std::string_view key, Value value) {
-    const std::span<Entry> own(entries_.get(), count_);
+    const std::span<Entry> own = ownEntries();
     const auto place = std::ranges::lower_bound(own, key, {}, &Entry::key);
     const bool isThere = place != own.end() && place->key == key;
-    const bool isShared = entries_.use_count() > 1;
+    const bool isShared = block_ && block_->owners.load(std::memory_order_acquire) > 1;
     if (isThere && !isShared) {
         place->value = std::move(value);
         return;
     }
     Entries changed;
-    changed.reserve(count_ + 1);
+    changed.reserve(count() + 1);
     for (Entry& entry : own)
         changed.push_back(isShared ? entry : std::move(entry));
     const auto changedPlace = changed.begin() + (place - own.begin());

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -28,6 +28,13 @@ public:
     using Entries = std::vector<Entry>;
 
     Dictionary() = default;
+    Dictionary(const Dictionary& other) noexcept;
+    Dictionary(Dictionary&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
+    Dictionary& operator=(Dictionary other) noexcept {
+        std::swap(block_, other.block_);
+        return *this;
+    }
+    ~Dictionary();
     Dictionary(std::initializer_list<std::pair<const std::string, Value>> entries);
     /// From entries in any order; of equal keys the last counts. Unlike setting them one by one,
     /// the time is in proportion to their number.
@@ -47,16 +54,19 @@ public:
     /// Null unless the value is a dictionary.
     [[nodiscard]] const Dictionary* dictionaryForKey(std::string_view key) const;
 
-    [[nodiscard]] std::size_t count() const { return count_; }
+    [[nodiscard]] std::size_t count() const;
     /// Sorted by key.
     [[nodiscard]] std::span<const Entry> entries() const;
 
     friend bool operator==(const Dictionary& left, const Dictionary& right);
 
 private:
-    /// A record has a few, which side by side cost less than the nodes of a tree.
-    std::shared_ptr<Entry[]> entries_; // NOLINT: the standard's arrays have a fixed length
-    std::size_t count_ = 0;
+    /// The entries, in one piece of memory with their number and that of the dictionaries that
+    /// share them: a record has a few, and there are thousands of records.
+    struct Block;
+    [[nodiscard]] std::span<Entry> ownEntries() const;
+
+    Block* block_ = nullptr; ///< null for none
 };
 
 /// One property-list value, the only kind of thing that travels between pane and agent.
@@ -99,9 +109,22 @@ struct Dictionary::Entry {
     Value value = false;
     friend bool operator==(const Entry&, const Entry&) = default;
 };
-inline std::span<const Dictionary::Entry> Dictionary::entries() const {
-    return {entries_.get(), count_};
+
+struct Dictionary::Block {
+    [[nodiscard]] Entry* entries() { return reinterpret_cast<Entry*>(this + 1); }
+
+    std::atomic<std::size_t> owners = 1;
+    std::size_t count = 0;
+};
+inline Dictionary::Dictionary(const Dictionary& other) noexcept : block_(other.block_) {
+    if (block_)
+        block_->owners.fetch_add(1, std::memory_order_relaxed);
 }
+inline std::size_t Dictionary::count() const { return block_ ? block_->count : 0; }
+inline std::span<Dictionary::Entry> Dictionary::ownEntries() const {
+    return {block_ ? block_->entries() : nullptr, count()};
+}
+inline std::span<const Dictionary::Entry> Dictionary::entries() const { return ownEntries(); }
 
 /// Equal contents have equal hashes, numbers of different kinds included.
 [[nodiscard]] std::size_t contentHash(const Value& value);

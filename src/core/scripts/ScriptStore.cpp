@@ -26,17 +26,19 @@ bool Zarvil_Preferences::scriptExists(std::string_view title) const {
 /// Items of thousands of scripts are made, and handed their records, when they are first seen.
 /// Those that share a title are compared at once, with the contents that they have now.
 void Zarvil_Preferences::listScript(const Record& record) {
-    scriptsArrayController.addObject(record);
     const std::string* title = record->stringForKey(script::title);
-    if (title && onlyScriptOfTitle(scriptsArrayController, *title) == record)
-        unhandedScripts_.insert(record.get());
-    else
-        handToItem(record);
+    if (title && !scriptExists(*title)) {
+        scriptsArrayController.addObject(record);
+        return;
+    }
+    sameTitledScripts_.insert(record.get());
+    scriptsArrayController.addObject(record);
+    handToItem(record);
 }
 
 void Zarvil_Preferences::scriptItemWasMade(CollectionViewItem& item) {
     auto* script = dynamic_cast<ZVScriptCollectionItem*>(&item);
-    if (!script || unhandedScripts_.erase(item.representedObject().get()) == 0)
+    if (!script || sameTitledScripts_.contains(item.representedObject().get()))
         return;
     script->setData(item.representedObject());
     script->setOwner(this);
@@ -58,11 +60,8 @@ void Zarvil_Preferences::loadScripts() {
     if (platform_.files.kindOfItem(folder) == FileKind::Directory) {
         // Every visible entry is a script, whatever its extension, sub-folders included, on
         // purpose.
-        for (const std::string& name : platform_.files.visibleContentsOfDirectory(folder)) {
-            std::string path = folder;
-            path.append("/").append(name);
-            listScript(scriptTexts_.makeScript(script::titleOfFile(name), std::move(path)));
-        }
+        for (std::string& name : platform_.files.visibleContentsOfDirectory(folder))
+            listScript(scriptTexts_.makeScript(folder, std::move(name)));
     } else if (const auto error = platform_.files.createDirectory(folder)) {
         platform_.errors.presentError(*error);
     }
@@ -95,7 +94,6 @@ void Zarvil_Preferences::resumeDrafts() {
         if (makeScript(draft.title, draft.text)->contents() == draft.saved)
             continue; // nothing was typed
         const Record record = makeRecord(draft.saved);
-        unhandedScripts_.insert(record.get());
         scriptsArrayController.addObject(record);
         const std::size_t last = scriptsArrayController.arrangedObjects().size() - 1;
         if (resumeDraft(draft, last))
@@ -115,7 +113,7 @@ bool Zarvil_Preferences::resumeDraft(const ScriptDraft& draft, std::optional<std
 
 void Zarvil_Preferences::unloadScripts() {
     keepDrafts();
-    unhandedScripts_.clear();
+    sameTitledScripts_.clear();
     scriptsArrayController.removeAllArrangedObjects();
     scriptsArrayController.rearrangeObjects();
 }
@@ -141,7 +139,7 @@ void Zarvil_Preferences::create(Control* /*sender*/) {
 
 void Zarvil_Preferences::removeScript(const Record& record) {
     if (record) {
-        unhandedScripts_.erase(record.get());
+        sameTitledScripts_.erase(record.get());
         scriptsArrayController.removeObject(record);
     }
     scriptsArrayController.rearrangeObjects();

@@ -7,9 +7,10 @@
 #include <deque>
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace zarvil {
+
+struct ScriptFolder;
 
 /// Reads the texts of listed scripts: each when it is first needed, the others soon after the
 /// listing, a few at a time, so that a folder of thousands does not stop the window.
@@ -20,8 +21,8 @@ public:
     ScriptTexts(const ScriptTexts&) = delete;
     ScriptTexts& operator=(const ScriptTexts&) = delete;
 
-    /// A script's record; its text is "" where the file cannot be read.
-    [[nodiscard]] Record makeScript(std::string_view title, std::string path);
+    /// The record of a file's script; its text is "" where the file cannot be read.
+    [[nodiscard]] Record makeScript(const std::string& folder, std::string fileName);
     /// Reads what is left at once: files are about to change.
     void readAll();
 
@@ -31,6 +32,7 @@ private:
 
     Timers& timers_;
     const FileManager& files_;
+    std::shared_ptr<const ScriptFolder> folder_; ///< of the last script
     std::deque<std::weak_ptr<MutableRecord>> unread_;
     std::unique_ptr<Timer> next_;
 };

@@ -3,18 +3,24 @@
 #include "qt/devices/DeviceListModel.h"
 #include "qt/devices/DeviceListView.h"
 
-#include <utility>
+#include <vector>
 
 namespace zarvil::qt {
 
-namespace {
-
-class AccessibleDeviceRow final : public QAccessibleInterface, public QAccessibleActionInterface {
+/// Belongs to the toolkit's cache.
+class AccessibleDeviceRow final : public QAccessibleInterface,
+                                  public QAccessibleActionInterface,
+                                  public Hashed<AccessibleDeviceRow> {
 public:
     AccessibleDeviceRow(const AccessibleDeviceList& list, RecordSerial serial)
-        : list_(list), serial_(serial) {}
+        : list_(list), serial_(serial), id_(QAccessible::registerAccessibleInterface(this)) {
+        list_.rows_.insert(*this);
+    }
+    ~AccessibleDeviceRow() override { list_.rows_.erase(*this); }
 
     [[nodiscard]] RecordSerial serial() const { return serial_; }
+    [[nodiscard]] QAccessible::Id id() const { return id_; }
+    [[nodiscard]] std::size_t hashKey() const { return serial_; }
 
     [[nodiscard]] bool isValid() const override { return index().isValid(); }
     [[nodiscard]] QObject* object() const override { return nullptr; }
@@ -69,6 +75,7 @@ private:
 
     const AccessibleDeviceList& list_;
     RecordSerial serial_;
+    QAccessible::Id id_;
 };
 
 QAccessible::State AccessibleDeviceRow::state() const {
@@ -101,8 +108,6 @@ void AccessibleDeviceRow::doAction(const QString& action) {
     }
 }
 
-} // namespace
-
 AccessibleDeviceList::AccessibleDeviceList(DeviceListView* view)
     : QAccessibleWidget(view, QAccessible::List) {}
 
@@ -122,11 +127,8 @@ QAccessibleInterface* AccessibleDeviceList::child(int row) const {
         return nullptr;
     const RecordSerial serial =
         view()->devices()->view().serialAtRow(static_cast<std::size_t>(row));
-    auto [known, isNew] = rows_.try_emplace(serial, 0);
-    if (isNew)
-        known->second =
-            QAccessible::registerAccessibleInterface(new AccessibleDeviceRow(*this, serial));
-    return QAccessible::accessibleInterface(known->second);
+    AccessibleDeviceRow* const known = rows_.find(serial);
+    return known ? known : new AccessibleDeviceRow(*this, serial);
 }
 
 int AccessibleDeviceList::indexOfChild(const QAccessibleInterface* child) const {
@@ -147,12 +149,14 @@ QAccessibleInterface* AccessibleDeviceList::focusChild() const {
 }
 
 void AccessibleDeviceList::forget(RecordSerial serial) {
-    if (const auto gone = rows_.extract(serial))
-        QAccessible::deleteAccessibleInterface(gone.mapped());
+    if (const AccessibleDeviceRow* row = rows_.find(serial))
+        QAccessible::deleteAccessibleInterface(row->id());
 }
 
 void AccessibleDeviceList::forgetAll() {
-    for (const auto& [serial, id] : std::exchange(rows_, {}))
+    std::vector<QAccessible::Id> all;
+    rows_.forEach([&all](const AccessibleDeviceRow& row) { all.push_back(row.id()); });
+    for (const QAccessible::Id id : all)
         QAccessible::deleteAccessibleInterface(id);
 }
 

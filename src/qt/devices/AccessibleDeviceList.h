@@ -1,14 +1,14 @@
 #pragma once
 
 #include "interface/ArrayController.h"
+#include "interface/HashIndex.h"
 #include "protocol/NonCopyable.h"
 
 #include <QAccessibleWidget>
 
-#include <unordered_map>
-
 namespace zarvil::qt {
 
+class AccessibleDeviceRow;
 class DeviceListView;
 
 /// What assistive programs see of a list of devices: its rows, as children that can be ticked. A
@@ -35,8 +35,9 @@ protected:
     ~AccessibleDeviceList() override;
 
 private:
-    /// Making a row's interface changes nothing that its reader can see.
-    mutable std::unordered_map<RecordSerial, QAccessible::Id> rows_;
+    friend class AccessibleDeviceRow;
+    /// Those that were read, until they end. Making one changes nothing that its reader can see.
+    mutable HashIndex<AccessibleDeviceRow> rows_;
 };
 
 } // namespace zarvil::qt
