@@ -103,7 +103,13 @@ std::optional<BundleFailure> HostWindow::open() {
         return failure;
     showPane(current_);
     restorePlace();
-    show();
+    // What the pane has asked for is answered while it is laid out. Once the window is shown, each
+    // answer would be laid out and painted by itself.
+    ensurePolished();
+    layout()->activate();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    if (!finished_)
+        show();
     return std::nullopt;
 }
 

@@ -10,7 +10,6 @@
 #include "qt/adapters/QtPlatform.h"
 #include "qt/adapters/QtRunLoop.h"
 #include "qt/binding/AlertBox.h"
-#include "qt/binding/FirstPicture.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
@@ -72,8 +71,7 @@ struct ZarvilPane::Loaded {
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
-          scriptWindow(controller.scriptProgress, *view),
-          firstPicture(*view, controller.guidance.statusIndicator.animatingProperty()) {
+          scriptWindow(controller.scriptProgress, *view) {
         qt::HelpWindow::offer(*view, strings);
         qt::bindGuidance(controller, *view, bindings);
         bindPart(*view);
@@ -97,7 +95,6 @@ struct ZarvilPane::Loaded {
     std::unique_ptr<qt::PaneView> view;
     qt::AlertBox alerts;
     qt::ScriptWindow scriptWindow;
-    qt::FirstPicture firstPicture;
     qt::Subscriptions bindings;
 };
 
@@ -134,10 +131,7 @@ QWidget* ZarvilPane::mainView() {
 
 void ZarvilPane::mainViewDidLoad() { loaded_->controller.mainViewDidLoad(); }
 
-void ZarvilPane::willSelect() {
-    loaded_->controller.willSelect();
-    loaded_->firstPicture.putOff();
-}
+void ZarvilPane::willSelect() { loaded_->controller.willSelect(); }
 
 int ZarvilPane::shouldUnselect() { return static_cast<int>(loaded_->controller.shouldUnselect()); }
 
