@@ -14,7 +14,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <future>
 #include <optional>
 
 namespace zarvil::host {
@@ -53,6 +52,19 @@ private:
     QByteArray address_ = qgetenv(variable);
 };
 
+/// Qt lists the fonts beside the main thread while it lives. Needs the application object.
+class FontListing : NonCopyable {
+public:
+    explicit FontListing(FontThread& thread) : thread_(thread) {
+        thread_.await();
+        thread_.begin([] { QFontDatabase::families(); });
+    }
+    ~FontListing() { thread_.await(); }
+
+private:
+    FontThread& thread_;
+};
+
 /// For the last value before the program's end.
 int endDespiteHangs(int code) {
     if (BusConnection::anyHangs()) {
@@ -62,7 +74,7 @@ int endDespiteHangs(int code) {
     return code;
 }
 
-int runOnDisplay(const CommandLine& commandLine, char** argv, void (*awaitFonts)()) {
+int runOnDisplay(const CommandLine& commandLine, char** argv, FontThread& fonts) {
     if (const auto fault = displayFault()) {
         logFailure(*fault);
         return exitCode::unavailable;
@@ -73,16 +85,17 @@ int runOnDisplay(const CommandLine& commandLine, char** argv, void (*awaitFonts)
     constexpr std::chrono::milliseconds limit{500};
     std::optional<HungBusHidden> hidden;
     if (!busAnswers(sessionBusAddress(), limit)) {
-        awaitFonts(); // who reads the environment, which changes now
+        fonts.await(); // which reads the environment, which changes now
         hidden.emplace();
     }
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
     hidden.reset();
-    const qt::Translation translation(qt::Translation::Toolkit::Adopted);
-    awaitFonts();
-    const auto listing = std::async(std::launch::async, [] { QFontDatabase::families(); });
+    const qt::Translation translation(QCoreApplication::applicationDirPath() +
+                                          QStringLiteral("/" ZARVIL_TEXTS_FROM_PROGRAM),
+                                      qt::Translation::Toolkit::Adopted);
+    const FontListing listing(fonts);
     QApplication::setApplicationVersion(ZARVIL_VERSION);
     QApplication::setApplicationName("zarvil-preferences");
     QGuiApplication::setDesktopFileName(bus::hostName);
@@ -90,7 +103,7 @@ int runOnDisplay(const CommandLine& commandLine, char** argv, void (*awaitFonts)
     return endDespiteHangs(Host(commandLine).run());
 }
 
-int run(int argc, char** argv, void (*awaitFonts)()) {
+int run(int argc, char** argv, FontThread& fonts) {
     const auto parsed =
         parseCommandLine(argumentsOf(argc, argv), qEnvironmentVariable("ZARVIL_APPEARANCE"));
     if (const auto* error = std::get_if<UsageError>(&parsed))
@@ -106,13 +119,13 @@ int run(int argc, char** argv, void (*awaitFonts)()) {
         QCoreApplication application(argc, argv);
         return endDespiteHangs(diagnose(commandLine));
     }
-    return runOnDisplay(commandLine, argv, awaitFonts);
+    return runOnDisplay(commandLine, argv, fonts);
 }
 
 } // namespace
 
 } // namespace zarvil::host
 
-int zarvilRunProgram(int argc, char** argv, void (*awaitFonts)()) {
-    return zarvil::host::run(argc, argv, awaitFonts);
+int zarvilRunProgram(int argc, char** argv, zarvil::FontThread& fonts) {
+    return zarvil::host::run(argc, argv, fonts);
 }

@@ -3,13 +3,18 @@
 #include <dlfcn.h>
 #include <fontconfig/fontconfig.h>
 
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <thread>
+#include <utility>
 
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
+
+namespace zarvil {
 
 namespace {
 
@@ -18,8 +23,9 @@ void economizeMemory() {
     // The library raises its own limit as it goes, and keeps what the start had need of for good.
     constexpr int keptFree = 128 * 1024; // bytes, where the library begins
     mallopt(M_TRIM_THRESHOLD, keptFree);
-    // The few threads beside the main one allocate little and seldom, so one heap serves them all.
-    mallopt(M_ARENA_MAX, 1);
+    // One heap for the main thread and one for those beside it, of which at the start that with the
+    // fonts allocates as much as the main one.
+    mallopt(M_ARENA_MAX, 2);
 #endif
 }
 
@@ -35,43 +41,83 @@ bool isSet(const char* variable) {
     return value && *value;
 }
 
+class Worker final : public FontThread {
+public:
+    ~Worker() {
+        await();
+        if (!thread_.joinable())
+            return;
+        {
+            const std::lock_guard lock(mutex_);
+            ended_ = true;
+        }
+        changed_.notify_all();
+        thread_.join();
+    }
+
+    void begin(std::function<void()> task) override {
+        {
+            const std::lock_guard lock(mutex_);
+            task_ = std::move(task);
+        }
+        changed_.notify_all();
+        if (!thread_.joinable())
+            thread_ = std::thread(&Worker::work, this);
+    }
+    void await() override {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return !task_; });
+    }
+
+private:
+    void work() {
+        std::unique_lock lock(mutex_);
+        for (;;) {
+            changed_.wait(lock, [this] { return task_ || ended_; });
+            if (ended_)
+                return;
+            lock.unlock();
+            task_(); // nobody else touches it before it is done
+            lock.lock();
+            task_ = nullptr;
+            changed_.notify_all();
+        }
+    }
+
+    std::thread thread_;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::function<void()> task_;
+    bool ended_ = false;
+};
+
 // Not linked: their library would be searched for every symbol of Qt's.
 constexpr const char* fontLibrary = "libfontconfig.so.1";
-std::thread configuringFonts;
 
-void beginWithFonts() {
-    if (!isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY"))
-        return;
-    if (auto* configure = find<decltype(FcInit)>(fontLibrary, "FcInit"))
-        configuringFonts = std::thread(configure);
-}
-
-void awaitFonts() {
-    if (configuringFonts.joinable())
-        configuringFonts.join();
-}
-
-/// Qt has given up what it took over, but takes nothing over where there is no display.
-void endWithFonts() {
-    awaitFonts();
-    if (auto* giveUp = find<decltype(FcFini)>(fontLibrary, "FcFini"))
-        giveUp();
+int run(int argc, char** argv) {
+    Worker fonts;
+    if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY"))
+        if (auto* configure = find<decltype(FcInit)>(fontLibrary, "FcInit"))
+            fonts.begin(configure);
+    // The loader itself knows where the program is.
+    if (auto* program =
+            find<decltype(zarvilRunProgram)>("$ORIGIN/" ZARVIL_PROGRAM_LIBRARY, "zarvilRunProgram"))
+        return program(argc, argv, fonts);
+    std::fprintf(stderr, "zarvil-preferences: %s\n", dlerror());
+    return host::exitCode::unavailable;
 }
 
 } // namespace
 
+} // namespace zarvil
+
 /// Reading the fonts' configuration is a fifth of the work of a start, and loading Qt an eighth:
 /// they are done side by side, and so all that needs Qt stands in a library of its own.
 int main(int argc, char** argv) {
-    economizeMemory();
-    beginWithFonts();
-    int code = zarvil::host::exitCode::unavailable;
-    // The loader itself knows where the program is.
-    if (auto* run =
-            find<decltype(zarvilRunProgram)>("$ORIGIN/" ZARVIL_PROGRAM_LIBRARY, "zarvilRunProgram"))
-        code = run(argc, argv, awaitFonts);
-    else
-        std::fprintf(stderr, "zarvil-preferences: %s\n", dlerror());
-    endWithFonts();
+    zarvil::economizeMemory();
+    const int code = zarvil::run(argc, argv);
+    // Qt has given up what it took over, but takes nothing over where there is no display.
+    if (auto* giveUp = zarvil::find<decltype(FcFini)>(zarvil::fontLibrary, "FcFini"))
+        giveUp();
     return code;
 }

@@ -10,6 +10,7 @@
 #include "qt/adapters/QtPlatform.h"
 #include "qt/adapters/QtRunLoop.h"
 #include "qt/binding/AlertBox.h"
+#include "qt/binding/FirstPicture.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
 #include "qt/canvas/Convert.h"
@@ -65,12 +66,14 @@ QtPlatform::Parts partsOfThePlatform(MessageBus& session, const StringTable& str
 /// In the order of construction: what is below uses what is above.
 struct ZarvilPane::Loaded {
     explicit Loaded(const PaneOptions& options)
-        : platform(partsOfThePlatform(*options.session, strings), *options.session,
+        : translation(options.bundlePath + "/Contents/Resources", qt::Translation::Toolkit::Left),
+          platform(partsOfThePlatform(*options.session, strings), *options.session,
                    options.root.toStdString()),
           controller(platform.platform()),
           view(std::make_unique<qt::PaneView>()),
           alerts(platform.alerts(), *view),
-          scriptWindow(controller.scriptProgress, *view) {
+          scriptWindow(controller.scriptProgress, *view),
+          firstPicture(*view, controller.guidance.statusIndicator.animatingProperty()) {
         qt::HelpWindow::offer(*view, strings);
         qt::bindGuidance(controller, *view, bindings);
         bindPart(*view);
@@ -87,13 +90,14 @@ struct ZarvilPane::Loaded {
         qt::HelpWindow::explainControls(part, strings);
     }
 
-    qt::Translation translation{qt::Translation::Toolkit::Left};
+    qt::Translation translation;
     QtStringTable strings;
     QtPlatform platform;
     Zarvil_Preferences controller;
     std::unique_ptr<qt::PaneView> view;
     qt::AlertBox alerts;
     qt::ScriptWindow scriptWindow;
+    qt::FirstPicture firstPicture;
     qt::Subscriptions bindings;
 };
 
@@ -130,7 +134,10 @@ QWidget* ZarvilPane::mainView() {
 
 void ZarvilPane::mainViewDidLoad() { loaded_->controller.mainViewDidLoad(); }
 
-void ZarvilPane::willSelect() { loaded_->controller.willSelect(); }
+void ZarvilPane::willSelect() {
+    loaded_->controller.willSelect();
+    loaded_->firstPicture.putOff();
+}
 
 int ZarvilPane::shouldUnselect() { return static_cast<int>(loaded_->controller.shouldUnselect()); }
 

@@ -8,14 +8,10 @@
 [[maybe_unused]] static const char* const direction =
     QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION");
 
-// Names a function outside of every namespace.
-static void registerTexts() { Q_INIT_RESOURCE(zarvil_texts); }
-
 namespace zarvil::qt {
 
-Translation::Translation(Toolkit toolkit) {
-    registerTexts();
-    if (!texts_.load(QLocale::system(), "zarvil", "_", ":/zarvil/translations"))
+Translation::Translation(const QString& folder, Toolkit toolkit) {
+    if (!texts_.load(QLocale::system(), "zarvil", "_", folder))
         return;
     QCoreApplication::installTranslator(&texts_);
     if (toolkit == Toolkit::Adopted &&

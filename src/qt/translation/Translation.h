@@ -13,7 +13,8 @@ public:
         Adopted ///< Qt's own texts too, in the same language, where they are installed
     };
 
-    explicit Translation(Toolkit toolkit);
+    /// The folder holds a file for each language, such as "zarvil_de.qm".
+    Translation(const QString& folder, Toolkit toolkit);
 
     /// As a code such as "de"; empty where the texts stay English for want of a translation.
     [[nodiscard]] QString language() const;

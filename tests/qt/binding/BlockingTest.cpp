@@ -2,6 +2,7 @@
 #include "PaneHarness.h"
 #include "platform/AlertQueue.h"
 #include "qt/binding/AlertBox.h"
+#include "qt/binding/FirstPicture.h"
 #include "qt/binding/OutletBinder.h"
 #include "qt/binding/ScriptWindow.h"
 #include "qt/pane/PaneView.h"
@@ -43,6 +44,20 @@ protected:
     std::unique_ptr<AlertBox> alertBox = std::make_unique<AlertBox>(alerts, view);
     ScriptWindow scriptWindow{pane.scriptProgress, view};
 };
+
+TEST_F(Blocking, theFirstPictureWaitsForTheAgentButNotLong) {
+    FirstPicture picture(view, pane.guidance.statusIndicator.animatingProperty());
+    load();
+    picture.putOff();
+    EXPECT_FALSE(view.updatesEnabled());
+    EXPECT_TRUE(waitFor([this] { return view.updatesEnabled(); })) << "the agent is silent";
+    picture.putOff();
+    EXPECT_FALSE(view.updatesEnabled());
+    agentSends(Message(message::stateChanged, Dictionary{{"state", true}}));
+    EXPECT_TRUE(view.updatesEnabled());
+    picture.putOff();
+    EXPECT_TRUE(view.updatesEnabled()) << "nothing is awaited";
+}
 
 TEST_F(Blocking, oneAlertIsOpenAtATimeWhileTheAgentsMessagesGoOn) {
     files.files["/home/user/Library/Zarvil Scripts"] = ""; // so the folder cannot be made

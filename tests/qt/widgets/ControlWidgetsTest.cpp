@@ -3,11 +3,13 @@
 #include "qt/widgets/MessageButtonWidget.h"
 #include "qt/widgets/MessagePanelWidget.h"
 #include "qt/widgets/NoteCard.h"
+#include "qt/widgets/Tabs.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QPainter>
+#include <QTabBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -43,6 +45,18 @@ protected:
     Target target;
     QDialog window;
 };
+
+TEST_F(ControlWidgets, tabsAreMeasuredWhenTheirSizeIsAskedFor) {
+    Tabs tabs(&window);
+    tabs.setDocumentMode(true);
+    for (const char* title : {"One", "Quite another"})
+        tabs.addTab(new QWidget, title);
+    const QTabBar& bar = *tabs.tabBar();
+    EXPECT_EQ(bar.tabRect(0).width(), bar.tabRect(1).width()) << "no font was needed";
+    show();
+    EXPECT_GT(bar.tabRect(1).width(), bar.tabRect(0).width());
+    EXPECT_GT(bar.tabRect(0).width(), bar.fontMetrics().horizontalAdvance("One"));
+}
 
 TEST_F(ControlWidgets, aLinkShowsItsTitleAndAHandWhileTheWindowIsActive) {
     LinkButtonWidget link(&window);
