@@ -14,7 +14,7 @@ const Record& ArrayController::ArrangedObjects::at(std::size_t index) const {
 
 void ArrayController::addObject(Record record) {
     if (entries_.size() == lastOfHash_.size() / 2)
-        tidy();
+        tidy(2 * count_);
     const RecordSerial serial = nextSerial_++;
     entries_.push_back({record, serial, static_cast<std::uint32_t>(hash_(*record))});
     link(static_cast<Position>(entries_.size() - 1));
@@ -85,7 +85,7 @@ void ArrayController::recordWasEdited(const MutableRecord& record) {
             hasNewHash |= std::exchange(entry.hash, hash) != hash;
         }
     if (hasNewHash)
-        tidy();
+        tidy(count_);
     // An observer may remove the next.
     for (const RecordSerial serial : edited) {
         const auto entry = std::ranges::lower_bound(entries_, serial, {}, &Entry::serial);
@@ -143,10 +143,11 @@ void ArrayController::unlink(Position position) {
         last = before;
 }
 
-void ArrayController::tidy() {
+void ArrayController::tidy(std::size_t room) {
     constexpr std::size_t fewest = 16; // a power of two, as every later size
-    lastOfHash_.assign(std::max(fewest, std::bit_ceil(4 * count_)), none);
-    std::erase_if(entries_, [](const Entry& entry) { return !entry.record; });
+    lastOfHash_.assign(std::max(fewest, std::bit_ceil(2 * std::max(room, count_))), none);
+    if (count_ < entries_.size())
+        std::erase_if(entries_, [](const Entry& entry) { return !entry.record; });
     for (Position position = 0; position < entries_.size(); ++position)
         link(position);
 }

@@ -110,6 +110,8 @@ public:
     [[nodiscard]] ArrangedObjects arrangedObjects() const { return ArrangedObjects(*this); }
     [[nodiscard]] bool empty() const { return count_ == 0; }
 
+    /// Makes room for so many records at once, which many single additions come to anyway.
+    void reserve(std::size_t count) { tidy(count); }
     /// Shares the record; equal ones may stand side by side.
     void addObject(Record record);
     /// Removes one record: this very object if it is listed, else the first of equal contents.
@@ -167,7 +169,7 @@ private:
     void remove(Position position);
     void link(Position position);
     void unlink(Position position);
-    void tidy();
+    void tidy(std::size_t room);
 
     Hash hash_;
     Edits edits_;

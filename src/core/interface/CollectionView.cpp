@@ -52,6 +52,18 @@ std::shared_ptr<CollectionViewItem> CollectionView::itemAtRow(std::size_t row) {
     return row < rows_.size() ? itemOf(rows_[row]) : nullptr;
 }
 
+const CollectionViewItem* CollectionView::itemToReadAtRow(std::size_t row) const {
+    if (row >= rows_.size())
+        return nullptr;
+    const Row& shown = rows_[row];
+    if (shown.item)
+        return shown.item.get();
+    if (!shared_)
+        shared_ = prototype_();
+    shared_->representedObject_ = shown.record;
+    return shared_.get();
+}
+
 RecordSerial CollectionView::serialAtRow(std::size_t row) const {
     return row < rows_.size() ? rows_[row].serial : 0;
 }
@@ -161,6 +173,8 @@ void CollectionView::notify(Kind kind, Phase phase, std::size_t row, std::size_t
 void CollectionView::release(const Row& row) {
     if (row.item)
         row.item->collectionView_ = nullptr;
+    if (shared_ && shared_->representedObject_ == row.record)
+        shared_->representedObject_ = nullptr;
 }
 
 } // namespace zarvil

@@ -108,6 +108,9 @@ public:
     std::shared_ptr<Item> itemAtRowAs(std::size_t row) {
         return std::dynamic_pointer_cast<Item>(itemAtRow(row));
     }
+    /// An item that shows the row, to be read at once: the row's own if it was asked for before,
+    /// else one that all others share, for whoever reads thousands. Null behind the end.
+    [[nodiscard]] const CollectionViewItem* itemToReadAtRow(std::size_t row) const;
     /// Tells a row apart while its number shifts; 0 behind the end.
     [[nodiscard]] RecordSerial serialAtRow(std::size_t row) const;
     [[nodiscard]] std::optional<std::size_t> rowOfSerial(RecordSerial serial) const;
@@ -147,12 +150,13 @@ private:
     [[nodiscard]] Rows::Place placeOf(std::string_view key, RecordSerial serial) const;
     std::shared_ptr<CollectionViewItem> itemOf(Row& row);
     void notify(RowChange::Kind kind, RowChange::Phase phase, std::size_t row, std::size_t to = 0);
-    static void release(const Row& row);
+    void release(const Row& row);
 
     ArrayController& content_;
     Prototype prototype_;
     SortKey sortKey_;
     ItemObserver itemWasMade_;
+    mutable std::shared_ptr<CollectionViewItem> shared_; ///< null where not yet asked for
     CollectionViewDelegate* delegate_ = nullptr;
     Rows rows_; ///< by key, then serial
     HashIndex<Row> rowsBySerial_;

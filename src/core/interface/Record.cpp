@@ -12,7 +12,7 @@ const std::string* MutableRecord::stringForKey(std::string_view key) const {
 
 void MutableRecord::fetchLateEntry() const {
     if (const auto late = std::exchange(late_, nullptr))
-        contents_.setObject(late->key(), late->fetch());
+        contents_.setObject(late->key(), late->fetch(*contents_.stringForKey(late->key())));
 }
 
 void MutableRecord::setObject(std::string_view key, Value value) {

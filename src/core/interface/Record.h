@@ -20,13 +20,14 @@ protected:
     ~RecordWatcher() = default;
 };
 
-/// An entry of a record that is fetched when it is first asked for.
+/// Where records have an entry from that is fetched when it is first asked for; many share one.
 class LateEntry : NonCopyable {
 public:
     virtual ~LateEntry() = default;
 
     [[nodiscard]] virtual std::string_view key() const = 0;
-    [[nodiscard]] virtual Value fetch() const = 0;
+    /// Of the record that has this note in the entry's place.
+    [[nodiscard]] virtual Value fetch(const std::string& note) const = 0;
 };
 
 /// A dictionary that a list and the item that shows it share by reference, and that tells when it
@@ -35,9 +36,9 @@ public:
 class MutableRecord : NonCopyable {
 public:
     explicit MutableRecord(Dictionary contents) : contents_(std::move(contents)) {}
-    /// The contents have the late entry's key already, so that fetching moves none of the others.
-    /// Nobody can tell it from them.
-    MutableRecord(Dictionary contents, std::unique_ptr<LateEntry> late)
+    /// The contents have a note, a string, in the late entry's place. Nobody can tell that entry
+    /// from the others.
+    MutableRecord(Dictionary contents, std::shared_ptr<const LateEntry> late)
         : contents_(std::move(contents)), late_(std::move(late)) {}
 
     /// Complete.
@@ -69,7 +70,7 @@ private:
 
     /// Fetching changes nothing that a reader of the record can see.
     mutable Dictionary contents_;
-    mutable std::unique_ptr<LateEntry> late_;
+    mutable std::shared_ptr<const LateEntry> late_;
     RecordWatcher* firstWatcher_ = nullptr;
     std::unique_ptr<Audience> audience_;
 };

@@ -60,7 +60,9 @@ void Zarvil_Preferences::loadScripts() {
     if (platform_.files.kindOfItem(folder) == FileKind::Directory) {
         // Every visible entry is a script, whatever its extension, sub-folders included, on
         // purpose.
-        for (std::string& name : platform_.files.visibleContentsOfDirectory(folder))
+        auto names = platform_.files.visibleContentsOfDirectory(folder);
+        scriptsArrayController.reserve(names.size());
+        for (std::string& name : names)
             listScript(scriptTexts_.makeScript(folder, std::move(name)));
     } else if (const auto error = platform_.files.createDirectory(folder)) {
         platform_.errors.presentError(*error);

@@ -4,46 +4,34 @@
 
 namespace zarvil {
 
-/// Shared by its scripts, of which there may be thousands.
-struct ScriptFolder {
-    const FileManager& files;
-    std::string path;
-};
-
-namespace {
-
-class TextInFile final : public LateEntry {
+/// The texts of a folder's scripts, whose records note the names of their files.
+class ScriptFolder final : public LateEntry {
 public:
-    TextInFile(std::shared_ptr<const ScriptFolder> folder, std::string fileName)
-        : folder_(std::move(folder)), fileName_(std::move(fileName)) {}
+    ScriptFolder(const FileManager& files, std::string path)
+        : files_(files), path_(std::move(path)) {}
 
+    [[nodiscard]] const std::string& path() const { return path_; }
     [[nodiscard]] std::string_view key() const override { return script::text; }
-    [[nodiscard]] Value fetch() const override {
-        const std::string path = folder_->path + "/" + fileName_;
-        return script::withoutByteOrderMark(folder_->files.readText(path).value_or(""));
+    [[nodiscard]] Value fetch(const std::string& fileName) const override {
+        const std::string path = path_ + "/" + fileName;
+        return script::withoutByteOrderMark(files_.readText(path).value_or(""));
     }
 
 private:
-    std::shared_ptr<const ScriptFolder> folder_;
-    std::string fileName_;
+    const FileManager& files_;
+    std::string path_;
 };
 
-Dictionary contentsOfScript(std::string title) {
+Record ScriptTexts::makeScript(const std::string& folder, std::string fileName) {
+    if (!folder_ || folder_->path() != folder)
+        folder_ = std::make_shared<ScriptFolder>(files_, folder);
+    std::string title = script::titleOfFile(fileName);
     Dictionary::Entries entries;
     entries.reserve(2);
-    entries.push_back({std::string(script::text), ""});
+    entries.push_back({std::string(script::text), std::move(fileName)});
     entries.push_back({std::string(script::title), std::move(title)});
-    return Dictionary::ofEntries(std::move(entries));
-}
-
-} // namespace
-
-Record ScriptTexts::makeScript(const std::string& folder, std::string fileName) {
-    if (!folder_ || folder_->path != folder)
-        folder_ = std::make_shared<ScriptFolder>(ScriptFolder{files_, folder});
-    Dictionary contents = contentsOfScript(script::titleOfFile(fileName));
-    auto record = std::make_shared<MutableRecord>(
-        std::move(contents), std::make_unique<TextInFile>(folder_, std::move(fileName)));
+    auto record =
+        std::make_shared<MutableRecord>(Dictionary::ofEntries(std::move(entries)), folder_);
     unread_.push_back(record);
     if (!next_)
         next_ = timers_.schedule(0, Repetition::Once, [this] { readSome(); });

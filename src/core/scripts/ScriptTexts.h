@@ -10,7 +10,7 @@
 
 namespace zarvil {
 
-struct ScriptFolder;
+class ScriptFolder;
 
 /// Reads the texts of listed scripts: each when it is first needed, the others soon after the
 /// listing, a few at a time, so that a folder of thousands does not stop the window.

@@ -16,7 +16,7 @@ int DeviceListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant DeviceListModel::data(const QModelIndex& index, int role) const {
-    const auto item = itemAt(index);
+    const ZVCollectionItem* item = itemToReadAt(index);
     if (!item)
         return {};
     switch (role) {
@@ -102,6 +102,13 @@ void DeviceListModel::rowsDidChange(const RowChange& change) {
         break;
     }
     }
+}
+
+const ZVCollectionItem* DeviceListModel::itemToReadAt(const QModelIndex& index) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return nullptr;
+    return dynamic_cast<const ZVCollectionItem*>(
+        view_.itemToReadAtRow(static_cast<std::size_t>(index.row())));
 }
 
 std::shared_ptr<ZVCollectionItem> DeviceListModel::itemAt(const QModelIndex& index) const {

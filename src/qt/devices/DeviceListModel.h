@@ -35,6 +35,8 @@ private:
     void rowsChange(const RowChange& change);
     void rowsWillChange(const RowChange& change);
     void rowsDidChange(const RowChange& change);
+    /// To be read at once.
+    [[nodiscard]] const ZVCollectionItem* itemToReadAt(const QModelIndex& index) const;
     [[nodiscard]] std::shared_ptr<ZVCollectionItem> itemAt(const QModelIndex& index) const;
 
     CollectionView& view_;

@@ -174,7 +174,7 @@ TEST_F(Lists, rowsAreSortedForDisplayAndToldOfOneByOne) {
     CollectionView view(
         list, [] { return std::make_shared<CollectionViewItem>(); }, key);
     const auto nameAt = [&](std::size_t row) {
-        return key(*view.itemAtRow(row)->representedObject());
+        return key(*view.itemToReadAtRow(row)->representedObject());
     };
     std::vector<std::string> told;
     std::size_t countBefore = 0;
@@ -222,7 +222,13 @@ TEST_F(Lists, rowsAreSortedForDisplayAndToldOfOneByOne) {
         EXPECT_EQ(nameAt(row), sorted[row]);
         EXPECT_EQ(view.rowOfSerial(view.serialAtRow(row)), row);
     }
+    EXPECT_EQ(view.itemToReadAtRow(sorted.size()), nullptr);
+    const std::weak_ptr<MutableRecord> last = view.itemToReadAtRow(0)->representedObject();
+    list.removeObject(last.lock());
+    std::erase(arranged, last.lock());
+    EXPECT_TRUE(last.expired()) << "what was read is not kept";
     const auto kept = view.itemAtRow(0);
+    EXPECT_EQ(view.itemToReadAtRow(0), kept.get());
     EXPECT_EQ(kept->collectionView(), &view);
     list.removeAllArrangedObjects();
     EXPECT_EQ(kept->collectionView(), nullptr);
