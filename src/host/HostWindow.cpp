@@ -24,6 +24,9 @@ constexpr const char* geometryKey = "geometry";
 constexpr const char* tabsSection = "tabs";
 constexpr int listWidth = 180;
 
+/// Has what came in over the bus handled, but no event of the window's.
+void takeInAnswers() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
+
 /// Qt takes a plain widget for a part of a window, also where it is one.
 QAccessibleInterface* makeAccessibleWindow(const QString& /*className*/, QObject* object) {
     auto* window = qobject_cast<HostWindow*>(object);
@@ -101,13 +104,14 @@ std::optional<BundleFailure> HostWindow::prepare() {
 std::optional<BundleFailure> HostWindow::open() {
     if (auto failure = prepare())
         return failure;
+    takeInAnswers(); // some of which the pane waits for before it asks more
     showPane(current_);
     restorePlace();
     // What the pane has asked for is answered while it is laid out. Once the window is shown, each
     // answer would be laid out and painted by itself.
     ensurePolished();
     layout()->activate();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    takeInAnswers();
     if (!finished_)
         show();
     return std::nullopt;
