@@ -316,9 +316,11 @@ class Pane:
 
     def page_shows(self, index):
         application = self.session.application(self.pid)
-        pages = next(node for node in descendants(application)
-                     if node.get_role_name() == "layered pane")
-        return pages.get_child_at_index(index).get_state_set().contains(Atspi.StateType.SHOWING)
+        pages = [node for node in descendants(application)
+                 if node.get_role_name() == "layered pane"]
+        # A window that is just coming up has none yet.
+        return bool(pages) and (pages[0].get_child_at_index(index).get_state_set()
+                                .contains(Atspi.StateType.SHOWING))
 
 
 class SystemTest(unittest.TestCase):
