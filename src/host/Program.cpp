@@ -56,7 +56,6 @@ private:
 class FontListing : NonCopyable {
 public:
     explicit FontListing(FontThread& thread) : thread_(thread) {
-        thread_.await();
         thread_.begin([] { QFontDatabase::families(); });
     }
     ~FontListing() { thread_.await(); }

@@ -29,7 +29,7 @@ public:
     FontThread(const FontThread&) = delete;
     FontThread& operator=(const FontThread&) = delete;
 
-    /// The task before has been awaited.
+    /// Awaits the task before.
     virtual void begin(std::function<void()> task) = 0;
     /// Returns when the task is done. The first one, which begins with the program, reads the
     /// fonts' configuration; until it is done the environment must not change.

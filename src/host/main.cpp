@@ -56,6 +56,7 @@ public:
     }
 
     void begin(std::function<void()> task) override {
+        await();
         {
             const std::lock_guard lock(mutex_);
             task_ = std::move(task);
