@@ -18,6 +18,7 @@
 #include <QTabBar>
 
 #include <type_traits>
+#include <utility>
 
 namespace zarvil::qt {
 
@@ -224,11 +225,9 @@ void PaneView::adaptToFont() {
 
 /// Most desktops' palettes have a disabled text that is faint on the pane's grounds.
 void PaneView::adaptToPalette() {
-    const QPalette missing = theme::disabledTextFor(QGuiApplication::palette());
-    if (missing == completed_)
-        return;
-    completed_ = missing;
-    setPalette(missing);
+    const QPalette desktops = QGuiApplication::palette();
+    if (std::exchange(followed_, desktops.cacheKey()) != desktops.cacheKey())
+        setPalette(theme::disabledTextFor(desktops));
 }
 
 bool PaneView::event(QEvent* event) {

@@ -70,7 +70,7 @@ private:
     TextLabel* agentHint_;
     Gap* gap_;
     ConfirmationPanel* uninstallPanel_ = nullptr;
-    QPalette completed_; ///< what the pane adds to the desktop's palette
+    qint64 followed_ = 0; ///< cache key of the desktop's palette that the pane's own completes
 };
 
 } // namespace zarvil::qt
