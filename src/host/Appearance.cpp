@@ -3,14 +3,13 @@
 #include "host/ContrastStyle.h"
 
 #include <QApplication>
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <QStyle>
 #include <QToolTip>
 
-#include <cstring>
+#include <algorithm>
 #include <string>
 
 namespace zarvil::host {
@@ -22,9 +21,8 @@ constexpr const char* path = "/org/freedesktop/portal/desktop";
 constexpr const char* interface = "org.freedesktop.portal.Settings";
 constexpr const char* everyDesktops = "org.freedesktop.appearance";
 constexpr const char* gnomes = "org.gnome.desktop.interface";
-constexpr const char* readOne = "ReadOne";
-/// The older method, which wraps the value once more.
-constexpr const char* read = "Read";
+/// Groups of keys with their values, as D-Bus types.
+constexpr const char* groupsType = "a{sa{sv}}";
 
 // Values of the portal's "color-scheme"; anything else is no preference.
 constexpr uint preferDark = 1;
@@ -82,51 +80,50 @@ void Appearance::follow(MessageBus& session) {
         // is. So the signal is only a hint, and the portal itself is asked for the value.
         changes_.emplace(*bus_, SignalHook::Signal{path, interface, "SettingChanged"},
                          [this](const QDBusMessage& signal) { settingChanged(signal); });
-        for (Preference* preference : preferences_)
-            ask(*preference, readOne);
+        ask();
     });
 }
 
-void Appearance::ask(Preference& preference, const char* method) {
-    if (!bus_)
-        return;
-    auto call = QDBusMessage::createMethodCall(service, path, interface, method);
-    call << preference.group << preference.key;
+void Appearance::ask() {
+    auto call = QDBusMessage::createMethodCall(service, path, interface, "ReadAll");
+    call << QStringList{everyDesktops, gnomes};
     auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, watcher, &preference, method] {
-                watcher->deleteLater();
-                const QDBusPendingReply<QDBusVariant> reply(*watcher);
-                if (!bus_)
-                    return; // the bus went: what it said last holds
-                if (reply.isValid())
-                    accept(preference, reply.value().variant());
-                else if (std::strcmp(method, readOne) == 0)
-                    ask(preference, read);
-                else
-                    accept(preference, preference.unanswered);
-            });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        if (bus_) // otherwise what it said last holds
+            accept(watcher->reply());
+    });
 }
 
 void Appearance::settingChanged(const QDBusMessage& signal) {
     const QVariantList arguments = signal.arguments();
     const QString group = arguments.value(0).toString();
     const QString key = arguments.value(1).toString();
-    for (Preference* preference : preferences_)
-        if (group == QLatin1String(preference->group) && key == QLatin1String(preference->key))
-            ask(*preference, readOne);
+    const bool concerns = std::ranges::any_of(preferences_, [&](const Preference* preference) {
+        return group == QLatin1String(preference->group) && key == QLatin1String(preference->key);
+    });
+    if (concerns && bus_)
+        ask();
 }
 
-void Appearance::accept(Preference& preference, const QVariant& value) {
-    QVariant plain = value;
-    while (plain.metaType() == QMetaType::fromType<QDBusVariant>())
-        plain = plain.value<QDBusVariant>().variant();
-    const uint wanted = plain.toUInt();
-    if (wanted == preference.value)
-        return;
-    preference.value = wanted;
-    settings_.setValue(section, preference.stored, std::to_string(wanted));
-    apply();
+/// A portal that is missing, or that answers anything else, has no values.
+void Appearance::accept(const QDBusMessage& reply) {
+    QMap<QString, QVariantMap> groups;
+    if (reply.type() == QDBusMessage::ReplyMessage &&
+        reply.signature() == QLatin1String(groupsType))
+        reply.arguments().constFirst().value<QDBusArgument>() >> groups;
+    bool changed = false;
+    for (Preference* preference : preferences_) {
+        const QVariant value = groups.value(preference->group).value(preference->key);
+        const uint wanted = value.isValid() ? value.toUInt() : preference->unanswered;
+        if (wanted == preference->value)
+            continue;
+        preference->value = wanted;
+        settings_.setValue(section, preference->stored, std::to_string(wanted));
+        changed = true;
+    }
+    if (changed)
+        apply();
 }
 
 /// The desktop's own palette and style stay where they already look as wanted.

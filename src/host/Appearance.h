@@ -35,13 +35,13 @@ private:
         const char* group;
         const char* key;
         const char* stored; ///< key of the settings
-        uint unanswered;    ///< holds without a portal that knows the key
+        uint unanswered;    ///< holds where no portal knows the key
         uint value = unanswered;
     };
 
-    void ask(Preference& preference, const char* method);
+    void ask();
     void settingChanged(const QDBusMessage& signal);
-    void accept(Preference& preference, const QVariant& value);
+    void accept(const QDBusMessage& reply);
     void apply();
 
     AppearanceChoice choice_;

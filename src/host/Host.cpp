@@ -148,12 +148,8 @@ void Host::serveOthers() {
 }
 
 std::optional<BundleFailure> Host::showAtStart() {
-    if (!commandLine_.isService) {
-        auto failure = show();
-        if (!failure && !commandLine_.tab.isEmpty())
-            turnToTab(*window_, commandLine_.tab);
-        return failure;
-    }
+    if (!commandLine_.isService)
+        return show();
     // Whoever had it started says at once what for.
     constexpr std::chrono::seconds patience{20};
     QTimer::singleShot(patience, window_.get(), [this] {
@@ -166,10 +162,11 @@ std::optional<BundleFailure> Host::showAtStart() {
 /// Opens the window, or brings it before the user.
 std::optional<BundleFailure> Host::show() {
     if (std::exchange(shown_, true)) {
-        bringToUser(*window_);
+        if (window_->isVisible()) // otherwise it is just coming up
+            bringToUser(*window_);
         return std::nullopt;
     }
-    auto failure = window_->open();
+    auto failure = window_->open(commandLine_.tab);
     if (!failure)
         appearance_.follow(session_);
     return failure;

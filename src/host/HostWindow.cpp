@@ -1,5 +1,6 @@
 #include "host/HostWindow.h"
 
+#include "host/Tabs.h"
 #include "qt/text/ToolTip.h"
 
 #include <QAccessibleWidget>
@@ -101,10 +102,17 @@ std::optional<BundleFailure> HostWindow::prepare() {
     return first;
 }
 
-std::optional<BundleFailure> HostWindow::open() {
+std::optional<BundleFailure> HostWindow::open(const QString& tab) {
     if (auto failure = prepare())
         return failure;
-    takeInAnswers(); // some of which the pane waits for before it asks more
+    view_ = entries_[current_].driver->view();
+    if (!turnToTab(*this, tab))
+        restoreTab();
+    // The pane waits for some before it asks more. Another start may ask for a tab as well, or
+    // turn out to have been the first.
+    takeInAnswers();
+    if (finished_)
+        return std::nullopt;
     showPane(current_);
     restorePlace();
     // What the pane has asked for is answered while it is laid out. Once the window is shown, each
@@ -153,7 +161,8 @@ void HostWindow::closeRegardless() {
         return;
     if (auto& driver = entries_[current_].driver)
         driver->leaveRegardless();
-    rememberTab();
+    if (isVisible())
+        rememberTab();
     finish();
 }
 
@@ -182,9 +191,14 @@ void HostWindow::proceed(bool left) {
     if (!left)
         markCurrent();
     else if (wished_)
-        showPane(*wished_);
+        turnTo(*wished_);
     else
         finish();
+}
+
+void HostWindow::turnTo(std::size_t row) {
+    showPane(row);
+    restoreTab();
 }
 
 void HostWindow::showPane(std::size_t row) {
@@ -208,7 +222,6 @@ void HostWindow::showPane(std::size_t row) {
     setWindowTitle(entry.driver->title());
     if (const QIcon icon = entry.driver->icon(); !icon.isNull())
         setWindowIcon(icon);
-    restoreTab();
 }
 
 void HostWindow::showFault(const QString& fault) {

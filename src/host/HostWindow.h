@@ -31,8 +31,9 @@ public:
     /// Makes the view of the first pane that can be loaded; what failed if there is none. The
     /// pane's life does not begin yet.
     [[nodiscard]] std::optional<BundleFailure> prepare();
-    /// Prepares what is not, and shows it.
-    [[nodiscard]] std::optional<BundleFailure> open();
+    /// Prepares what is not, and shows it, at the tab of this name if there is one. Takes in what
+    /// came in over the bus meanwhile, which may close it.
+    [[nodiscard]] std::optional<BundleFailure> open(const QString& tab = {});
     /// Leaves the pane, whatever it answers, and closes.
     void closeRegardless();
 
@@ -55,6 +56,7 @@ private:
     void makeEntry(const BundleOutcome& bundle, const PaneOptions& options);
     void wish(Target target);
     void proceed(bool left);
+    void turnTo(std::size_t row);
     void showPane(std::size_t row);
     void showFault(const QString& fault);
     void finish();

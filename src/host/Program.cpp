@@ -64,6 +64,28 @@ private:
     FontThread& thread_;
 };
 
+/// Where its display goes, Qt ends the process by `exit`, in the midst of whatever it does. The
+/// libraries' ends would then take a pane apart that lacks Qt already.
+class DisplayLoss : NonCopyable {
+public:
+    /// Needs the application object: what was begun before it ends after this.
+    DisplayLoss() {
+        isHeeded_ = true;
+        std::atexit(endAtOnce);
+    }
+    ~DisplayLoss() { isHeeded_ = false; }
+
+private:
+    static void endAtOnce() {
+        if (!isHeeded_)
+            return;
+        std::fflush(nullptr);
+        std::_Exit(exitCode::unavailable);
+    }
+
+    static inline bool isHeeded_ = false;
+};
+
 /// For the last value before the program's end.
 int endDespiteHangs(int code) {
     if (BusConnection::anyHangs()) {
@@ -90,6 +112,7 @@ int runOnDisplay(const CommandLine& commandLine, char** argv, FontThread& fonts)
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
+    const DisplayLoss loss;
     hidden.reset();
     const qt::Translation translation(QCoreApplication::applicationDirPath() +
                                           QStringLiteral("/" ZARVIL_TEXTS_FROM_PROGRAM),

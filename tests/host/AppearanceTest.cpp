@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <optional>
 #include <tuple>
 
 namespace zarvil::host {
@@ -30,27 +31,23 @@ protected:
 };
 
 TEST_F(AppearanceTest, followsThePortalAndRemembersItForTheNextStart) {
-    for (const bool old : {false, true}) {
-        QFile::remove(path("host.ini"));
-        posix::SettingsFile fresh(path("host.ini").toStdString(), [] {});
-        PrivateBus bus;
-        fake::Portal portal(bus.connect("portal"), old);
-        portal.values = {{"color-scheme", 1U}, {"contrast", 1U}};
-        BusConnection session(bus.options());
-        Appearance appearance(AppearanceChoice::Auto, fresh);
-        EXPECT_FALSE(isDark(QApplication::palette()));
-        appearance.follow(session);
-        ASSERT_TRUE(becomes(appearance, {true, true})) << old;
-        EXPECT_EQ(QApplication::palette(), paletteFor({true, true}));
-        EXPECT_EQ(Appearance(AppearanceChoice::Auto, fresh).look(), (Look{true, true}));
-        portal.announce("org.gnome.desktop", "color-scheme", 2);
-        portal.change("accent-color", 2);
-        portal.change("contrast", 0);
-        ASSERT_TRUE(becomes(appearance, {true, false}));
-        portal.change("color-scheme", 2);
-        ASSERT_TRUE(becomes(appearance, {false, false}));
-        EXPECT_FALSE(isDark(QApplication::palette()));
-    }
+    PrivateBus bus;
+    fake::Portal portal(bus.connect("portal"));
+    portal.values = {{"color-scheme", 1U}, {"contrast", 1U}};
+    BusConnection session(bus.options());
+    Appearance appearance(AppearanceChoice::Auto, settings);
+    EXPECT_FALSE(isDark(QApplication::palette()));
+    appearance.follow(session);
+    ASSERT_TRUE(becomes(appearance, {true, true}));
+    EXPECT_EQ(QApplication::palette(), paletteFor({true, true}));
+    EXPECT_EQ(Appearance(AppearanceChoice::Auto, settings).look(), (Look{true, true}));
+    portal.announce("org.gnome.desktop", "color-scheme", 2);
+    portal.change("accent-color", 2);
+    portal.change("contrast", 0);
+    ASSERT_TRUE(becomes(appearance, {true, false}));
+    portal.change("color-scheme", 2);
+    ASSERT_TRUE(becomes(appearance, {false, false}));
+    EXPECT_FALSE(isDark(QApplication::palette()));
 }
 
 TEST_F(AppearanceTest, nothingMovesWhereTheUserWantsLessMotionByEitherKey) {
@@ -75,17 +72,23 @@ TEST_F(AppearanceTest, nothingMovesWhereTheUserWantsLessMotionByEitherKey) {
     }
 }
 
-TEST_F(AppearanceTest, withoutAPortalTheDesktopsPaletteDecides) {
-    settings.setValue("appearance", "scheme", "1"); // of a start with a portal, gone since
-    QApplication::setPalette(paletteFor({false, false}));
-    PrivateBus bus;
-    BusConnection session(bus.options());
-    Appearance appearance(AppearanceChoice::Auto, settings);
-    EXPECT_TRUE(appearance.look().dark);
-    appearance.follow(session);
-    ASSERT_TRUE(becomes(appearance, {false, false}));
-    QApplication::setPalette(paletteFor({true, false}));
-    EXPECT_TRUE(Appearance(AppearanceChoice::Auto, settings).look().dark);
+TEST_F(AppearanceTest, withoutAPortalsValuesTheDesktopsPaletteDecides) {
+    for (const bool strange : {false, true}) {
+        // Of a start with a portal that knew them.
+        settings.setValue("appearance", "scheme", "1");
+        QApplication::setPalette(paletteFor({false, false}));
+        PrivateBus bus;
+        std::optional<fake::Portal> portal;
+        if (strange)
+            portal.emplace(bus.connect("portal")).strange = true;
+        BusConnection session(bus.options());
+        Appearance appearance(AppearanceChoice::Auto, settings);
+        EXPECT_TRUE(appearance.look().dark);
+        appearance.follow(session);
+        ASSERT_TRUE(becomes(appearance, {false, false})) << strange;
+        QApplication::setPalette(paletteFor({true, false}));
+        EXPECT_TRUE(Appearance(AppearanceChoice::Auto, settings).look().dark);
+    }
 }
 
 TEST_F(AppearanceTest, aForcedSchemeStaysWhateverThePortalSays) {

@@ -107,6 +107,21 @@ TEST_F(HostProcessTest, runsWithoutABusAndEndsCleanlyOnASignal) {
     }
 }
 
+TEST_F(HostProcessTest, endsWithoutACrashWhereItsDisplayGoes) {
+    QProcess display;
+    display.start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-noreset"});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return display.canReadLine(); }, limit));
+    environment.insert("DISPLAY", ':' + display.readLine().trimmed());
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    const auto process = start({makeBundle("A")});
+    ASSERT_TRUE(isCalled("A: willSelect"));
+    display.kill();
+    ASSERT_TRUE(process->waitForFinished(limit));
+    EXPECT_EQ(process->exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process->exitCode(), 69);
+    EXPECT_TRUE(display.waitForFinished(limit));
+}
+
 TEST_F(HostProcessTest, aSecondStartRaisesTheFirstOrSaysOnceThatItHangs) {
     PrivateBus bus;
     environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
@@ -174,8 +189,8 @@ TEST_F(HostProcessTest, aTabIsReachedByNameFromTheCommandLineAndFromTheDesktop) 
     first->terminate();
     EXPECT_TRUE(first->waitForFinished(limit));
     // The tab that the command line names wins over the one shown last.
-    const auto again = start({"--tab", "first", pane});
-    EXPECT_TRUE(isCalled("Tabbed: FirstTab"));
+    const auto again = start({"--tab", "second", pane});
+    EXPECT_TRUE(isCalled("Tabbed: SecondTab, hidden"));
     again->terminate();
     EXPECT_TRUE(again->waitForFinished(limit));
 }

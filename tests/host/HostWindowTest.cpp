@@ -1,11 +1,13 @@
 #include "host/HostWindow.h"
 #include "Bundles.h"
 #include "host/Activation.h"
+#include "host/Tabs.h"
 
 #include <QLabel>
 #include <QListWidget>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QTabWidget>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -15,12 +17,16 @@ namespace {
 
 class HostWindowTest : public Bundles {
 protected:
-    void openWindow(const QString& root = {}) {
+    /// The call comes as one over the bus does, before the window is there.
+    void openWindow(const QString& root = {}, const QString& tab = {},
+                    const std::function<void()>& call = {}) {
         PaneOptions options;
         options.root = root;
         window = std::make_unique<HostWindow>(findBundles({path("panes")}), options, settings);
         closed = std::make_unique<QSignalSpy>(window.get(), &HostWindow::closed);
-        failure = window->open();
+        if (call)
+            QMetaObject::invokeMethod(window.get(), call, Qt::QueuedConnection);
+        failure = window->open(tab);
     }
     QWidget* view(const QString& name) const { return window->findChild<QWidget*>(name); }
     void choose(int row) const { window->findChild<QListWidget*>()->setCurrentRow(row); }
@@ -157,6 +163,28 @@ TEST_F(HostWindowTest, thePlaceOfTheWindowIsKept) {
         EXPECT_EQ(window->geometry(), place);
         window->close();
     }
+}
+
+TEST_F(HostWindowTest, whatIsAskedForWhileItComesUpHolds) {
+    makeBundle("Tabbed");
+    const struct {
+        const char *tab, *asked;
+        int shown;
+    } cases[] = {
+        {"SECOND", "", 1}, {"", "", 1}, {"first", "", 0}, {"second", "third", 2}, {"", "first", 0}};
+    for (const auto& row : cases) {
+        openWindow({}, row.tab, [&] { turnToTab(*window, row.asked); });
+        EXPECT_EQ(window->findChild<QTabWidget*>()->currentIndex(), row.shown) << row.asked;
+        window->close();
+        calls();
+    }
+    // A second instance that learns of the first leaves no trace.
+    openWindow({}, "third", [&] { window->closeRegardless(); });
+    EXPECT_EQ(closed->count(), 1);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(calls().filter("Select"), QStringList());
+    openWindow();
+    EXPECT_EQ(window->findChild<QTabWidget*>()->currentIndex(), 0);
 }
 
 TEST_F(HostWindowTest, aFullDiskTakesNothingOfWhatWasRemembered) {

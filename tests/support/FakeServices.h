@@ -14,7 +14,7 @@ namespace zarvil::fake {
 /// The settings portal with two settings; an old one knows `Read` alone.
 class Portal final : public QDBusVirtualObject {
 public:
-    explicit Portal(QDBusConnection bus, bool old = false) : bus_(std::move(bus)), old_(old) {
+    explicit Portal(QDBusConnection bus) : bus_(std::move(bus)) {
         bus_.registerVirtualObject(path, this);
         EXPECT_TRUE(bus_.registerService("org.freedesktop.portal.Desktop"));
     }
@@ -23,14 +23,14 @@ public:
     QString introspect(const QString&) const override { return {}; }
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
-        const bool nested = call.member() == QLatin1String("Read");
-        if (!nested && (old_ || call.member() != QLatin1String("ReadOne")))
+        if (call.member() != QLatin1String("ReadAll"))
             return false;
-        QVariant reply =
-            QVariant::fromValue(QDBusVariant(values.value(call.arguments().at(1).toString(), 0U)));
-        if (nested)
-            reply = QVariant::fromValue(QDBusVariant(reply));
-        return connection.send(call.createReply(reply));
+        QMap<QString, QVariantMap> groups;
+        for (const QString& group : call.arguments().at(0).toStringList())
+            groups.insert(group, values);
+        QDBusArgument all;
+        all << groups;
+        return connection.send(call.createReply(strange ? QVariant(1) : QVariant::fromValue(all)));
     }
 
     void change(const QString& key, uint value) {
@@ -45,11 +45,11 @@ public:
     }
 
     QVariantMap values;
+    bool strange = false; ///< answers with what is no groups of values
 
 private:
     static constexpr const char* path = "/org/freedesktop/portal/desktop";
     QDBusConnection bus_;
-    bool old_;
 };
 
 /// The authority, polkit. Answers as told, and remembers the last question.

@@ -100,6 +100,8 @@ class Assistive(SystemTest):
 
     def test_every_control_has_its_name_and_role_and_is_pressed_by_name(self):
         self.start()
+        # What comes before the settings leaves the icon's color disabled.
+        wait_until(lambda: self.pane.enabled("Power protection"), "the settings are there")
         self.tell("push 0")
         self.tell("state on")
         wait_until(lambda: self.pane.checked("Power protection"), "the protection is on")

@@ -30,8 +30,11 @@ namespace {
 /// Called by `visitOutlets` with each outlet as what it is.
 class Binder {
 public:
-    Binder(Zarvil_Preferences& pane, const QWidget& part, Subscriptions& kept, Faults& faults)
-        : pane_(pane), widgets_(part.findChildren<QWidget*>()), kept_(kept), faults_(faults) {
+    Binder(Zarvil_Preferences& pane, QWidget& part, Subscriptions& kept, Faults& faults)
+        : pane_(pane),
+          widgets_(QList{&part} + part.findChildren<QWidget*>()),
+          kept_(kept),
+          faults_(faults) {
         for (QWidget* widget : widgets_)
             if (claimsOutlet(*widget))
                 claimed_.emplace(widget->objectName().toStdString(), widget);
@@ -72,8 +75,14 @@ public:
     }
 
     void operator()(std::string_view name, Panel& model) {
-        if (auto* dialog = findAs<QDialog>(name))
-            bindPanel(model, *dialog, kept_);
+        auto* dialog = findAs<QDialog>(name);
+        if (!dialog)
+            return;
+        bindPanel(model, *dialog, kept_);
+        // Closing it in any other way than by its buttons cancels.
+        QObject::connect(dialog, &QDialog::rejected, dialog, [pane = &pane_] {
+            pane->performAction("uninstallSheetFinished:", nullptr);
+        });
     }
 
     void operator()(std::string_view name, CollectionView& model) {

@@ -57,7 +57,15 @@ bool isInput(QEvent::Type type) {
 } // namespace
 
 ScriptWindow::ScriptWindow(ScriptProgress& progress, QWidget& pane)
-    : progress_(progress), window_(new LastingDialog(&pane)) {
+    : progress_(progress), pane_(pane) {
+    running_ =
+        progress.runningProperty().observe([this](bool running, Transition) { block(running); });
+    shown_ =
+        progress.windowShownProperty().observe([this](bool shown, Transition) { show(shown); });
+}
+
+void ScriptWindow::make() {
+    window_ = new LastingDialog(&pane_);
     window_->setObjectName("ScriptWindow");
     window_->setWindowModality(Qt::ApplicationModal);
     text_ = new QLabel(window_);
@@ -67,7 +75,7 @@ ScriptWindow::ScriptWindow(ScriptProgress& progress, QWidget& pane)
     auto* bar = new QProgressBar(window_);
     bar->setRange(0, 0); // without an end in sight
     bar->setTextVisible(false);
-    stop_ = new QPushButton(QString::fromUtf8(progress.stopTitle()), window_);
+    stop_ = new QPushButton(QString::fromUtf8(progress_.stopTitle()), window_);
     stop_->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->addWidget(bar, 1);
@@ -77,11 +85,7 @@ ScriptWindow::ScriptWindow(ScriptProgress& progress, QWidget& pane)
     column->addLayout(row);
     column->setSizeConstraint(QLayout::SetFixedSize);
     connect(stop_, &QPushButton::clicked, this, [this] { progress_.stop(); });
-    running_ =
-        progress.runningProperty().observe([this](bool running, Transition) { block(running); });
-    shown_ =
-        progress.windowShownProperty().observe([this](bool shown, Transition) { show(shown); });
-    stopping_ = progress.stoppingProperty().observe(
+    stopping_ = progress_.stoppingProperty().observe(
         [this](bool stopping, Transition) { stop_->setEnabled(!stopping); });
 }
 
@@ -96,10 +100,13 @@ void ScriptWindow::block(bool running) {
 
 void ScriptWindow::show(bool shown) {
     if (!shown) {
-        window_->hide();
+        if (window_)
+            window_->hide();
         return;
     }
-    window_->setWindowTitle(window_->parentWidget()->window()->windowTitle());
+    if (!window_)
+        make();
+    window_->setWindowTitle(pane_.window()->windowTitle());
     text_->setText(QString::fromUtf8(progress_.textProperty().get()));
     stop_->setVisible(progress_.canStop());
     window_->show();
@@ -108,6 +115,8 @@ void ScriptWindow::show(bool shown) {
 }
 
 bool ScriptWindow::isOwn(const QObject& receiver) const {
+    if (!window_)
+        return false;
     if (const auto* widget = qobject_cast<const QWidget*>(&receiver))
         return widget->window() == window_;
     return &receiver == window_->windowHandle();

@@ -25,14 +25,16 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void make();
     void block(bool running);
     void show(bool shown);
     [[nodiscard]] bool isOwn(const QObject& receiver) const;
 
     ScriptProgress& progress_;
-    QPointer<QDialog> window_;
-    QLabel* text_;
-    QPushButton* stop_;
+    QWidget& pane_;
+    QPointer<QDialog> window_; ///< made when it is first shown
+    QLabel* text_ = nullptr;
+    QPushButton* stop_ = nullptr;
     Subscription running_;
     Subscription shown_;
     Subscription stopping_;

@@ -18,6 +18,7 @@
 #include <QTabBar>
 
 #include <type_traits>
+#include <utility>
 
 namespace zarvil::qt {
 
@@ -42,22 +43,15 @@ void keepRoomWhileHidden(QWidget& widget) {
 /// the keyboard at the harmless button, wherever it was left.
 class PaneView::ConfirmationPanel final : public QDialog {
 public:
-    explicit ConfirmationPanel(PaneView* view) : QDialog(view), view_(*view) {
+    explicit ConfirmationPanel(PaneView* view) : QDialog(view) {
         setObjectName("uninstallModal");
         setWindowFlag(Qt::FramelessWindowHint);
         setWindowModality(Qt::ApplicationModal);
-    }
-
-    void make() {
-        if (layout())
-            return;
         layout_.setupUi(this);
-        view_.finishPart(*this);
     }
 
     void setVisible(bool visible) override {
         if (visible && !isVisible()) {
-            make();
             fit();
             layout_.CancelUninstall->setFocus();
         }
@@ -104,7 +98,6 @@ private:
         layout_.UninstallHeading->setFont(font);
     }
 
-    PaneView& view_;
     Ui::UninstallPanel layout_;
 };
 
@@ -128,8 +121,7 @@ private:
     int width_ = theme::sideMargin;
 };
 
-PaneView::PaneView(QWidget* parent)
-    : QWidget(parent), uninstallPanel_(new ConfirmationPanel(this)) {
+PaneView::PaneView(QWidget* parent) : QWidget(parent) {
     Ui::PaneView frame;
     frame.setupUi(this);
     putOff<Ui::DevicesTab>(*frame.DevicesTab);
@@ -165,8 +157,6 @@ PaneView::PaneView(QWidget* parent)
 
 PaneView::~PaneView() { QAccessible::removeActivationObserver(this); }
 
-QDialog* PaneView::uninstallPanel() const { return uninstallPanel_; }
-
 template <typename Layout>
 void PaneView::putOff(Page& page) {
     page.setFilling([this](Column& column) {
@@ -194,10 +184,17 @@ void PaneView::followNewestPage() {
 
 void PaneView::finishPart(QWidget& part) { Q_EMIT partMade(&part); }
 
+void PaneView::makeUninstallPanel() {
+    if (uninstallPanel_)
+        return;
+    uninstallPanel_ = new ConfirmationPanel(this);
+    finishPart(*uninstallPanel_);
+}
+
 void PaneView::makeAllParts() {
     for (auto* page : findChildren<Page*>())
         page->fill();
-    uninstallPanel_->make();
+    makeUninstallPanel();
 }
 
 void PaneView::accessibilityActiveChanged(bool active) {
@@ -228,11 +225,9 @@ void PaneView::adaptToFont() {
 
 /// Most desktops' palettes have a disabled text that is faint on the pane's grounds.
 void PaneView::adaptToPalette() {
-    const QPalette missing = theme::disabledTextFor(QGuiApplication::palette());
-    if (missing == completed_)
-        return;
-    completed_ = missing;
-    setPalette(missing);
+    const QPalette desktops = QGuiApplication::palette();
+    if (std::exchange(followed_, desktops.cacheKey()) != desktops.cacheKey())
+        setPalette(theme::disabledTextFor(desktops));
 }
 
 bool PaneView::event(QEvent* event) {

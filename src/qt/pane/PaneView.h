@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QWidget>
 
-class QDialog;
 class QPushButton;
 class QTabWidget;
 
@@ -18,9 +17,9 @@ class Page;
 /// The pane's layout: the protection and the agent's presence above the tabs, the lock below.
 /// The confirmation panel is a window of its own that belongs to the view.
 ///
-/// A page of the tabs, and the panel, get their controls when they are first shown, which for most
-/// of them is never: the window comes up sooner. An assistive program looks at all of them, so
-/// while there is one nothing is put off.
+/// A page of the tabs gets its controls when it is first shown, and the panel is made then, which
+/// for most of them is never: the window comes up sooner. An assistive program looks at all of
+/// them, so while there is one nothing is put off.
 class PaneView : public QWidget, private QAccessible::ActivationObserver {
     Q_OBJECT
 
@@ -30,7 +29,8 @@ public:
     PaneView(const PaneView&) = delete;
     PaneView& operator=(const PaneView&) = delete;
 
-    [[nodiscard]] QDialog* uninstallPanel() const;
+    /// Makes the confirmation panel, hidden, unless it is there.
+    void makeUninstallPanel();
     [[nodiscard]] QSize sizeHint() const override;
     /// Makes whatever has not been shown yet.
     void makeAllParts();
@@ -69,8 +69,8 @@ private:
     TextLabel* statusLine_;
     TextLabel* agentHint_;
     Gap* gap_;
-    ConfirmationPanel* uninstallPanel_;
-    QPalette completed_; ///< what the pane adds to the desktop's palette
+    ConfirmationPanel* uninstallPanel_ = nullptr;
+    qint64 followed_ = 0; ///< cache key of the desktop's palette that the pane's own completes
 };
 
 } // namespace zarvil::qt

@@ -18,7 +18,6 @@
 #include "qt/translation/Translation.h"
 #include "qt/widgets/SymbolWidget.h"
 
-#include <QDialog>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPainter>
@@ -77,9 +76,11 @@ struct ZarvilPane::Loaded {
         bindPart(*view);
         QObject::connect(view.get(), &qt::PaneView::partMade, view.get(),
                          [this](QWidget* part) { bindPart(*part); });
-        // Closing the confirmation panel in any other way than by its buttons cancels.
-        QObject::connect(view->uninstallPanel(), &QDialog::rejected, view.get(),
-                         [this] { controller.performAction("uninstallSheetFinished:", nullptr); });
+        bindings.push_back(
+            controller.uninstallModal.onScreenProperty().observe([this](bool onScreen, Transition) {
+                if (onScreen)
+                    view->makeUninstallPanel();
+            }));
     }
 
     void bindPart(QWidget& part) {

@@ -71,6 +71,7 @@ TEST_F(Layout, aPageThatIsOpenedLateShowsWhatAnEarlyOneDoes) {
                 break;
             }
     }
+    late.makeUninstallPanel();
     visitOutlets(pane, [&](std::string_view name, View&) {
         EXPECT_EQ(seen(late, name), seen(view, name)) << name;
     });
