@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <thread>
@@ -187,8 +188,8 @@ QVariantList longPayload() {
 TEST_F(Connection, aLongMessageLeavesOthersTheirTurnsAndComesWholeAndInOrder) {
     auto agent = peer(Owns::AgentName);
     PaneCenter pane(bus);
-    const Diary diary(pane.messages);
     ASSERT_TRUE(pane.waitUntilConnected());
+    const Diary diary(pane.messages);
     int turns = 0;
     QTimer everyTurn;
     QObject::connect(&everyTurn, &QTimer::timeout,
@@ -199,9 +200,8 @@ TEST_F(Connection, aLongMessageLeavesOthersTheirTurnsAndComesWholeAndInOrder) {
     ASSERT_TRUE(agent.send(signal(message::stateChanged)));
     ASSERT_TRUE(agent.unregisterService(bus::agentName));
     ASSERT_TRUE(peer(Owns::AgentName).send(signal(message::pingAnswer)));
-    const std::string inOrder = "uPAS+P";
-    ASSERT_TRUE(waitFor([&] { return diary.told.size() >= 6; }));
-    EXPECT_EQ(diary.told, inOrder);
+    ASSERT_TRUE(waitFor([&] { return std::ranges::count(diary.told, 'P') == 2; }));
+    EXPECT_EQ(diary.told.substr(diary.told.find('P')), "PAS+P");
     EXPECT_EQ(diary.listed, static_cast<std::size_t>(manyDevices));
     EXPECT_GE(turns, 2);
     EXPECT_FALSE(pane.messages.isBehind());
@@ -209,20 +209,24 @@ TEST_F(Connection, aLongMessageLeavesOthersTheirTurnsAndComesWholeAndInOrder) {
 
 TEST_F(Connection, aLongMessageEndsWithItsConnection) {
     PaneCenter pane(bus);
-    const Diary diary(pane.messages);
     ASSERT_TRUE(pane.waitUntilConnected());
+    const Diary diary(pane.messages);
     const auto agent = peer(Owns::AgentName);
     ASSERT_TRUE(agent.send(signal(message::allDevices, longPayload())) &&
                 agent.send(signal(message::stateChanged)));
     ASSERT_TRUE(waitFor([&] { return pane.messages.isBehind(); }));
     bus.stop();
+    // Nothing more is read before the bus library's thread has learnt of it.
+    for (const QDeadlineTimer limit(waitLimit);
+         pane.bus.connection()->isConnected() && !limit.hasExpired();)
+        std::this_thread::yield();
     ASSERT_TRUE(waitFor([&] { return diary.told.ends_with('d'); }));
     EXPECT_FALSE(pane.messages.isBehind());
     bus.start();
     ASSERT_TRUE(pane.waitUntilConnected());
     ASSERT_TRUE(peer(Owns::AgentName).send(signal(message::pingAnswer)));
     ASSERT_TRUE(waitFor([&] { return diary.told.ends_with('P'); }));
-    EXPECT_EQ(diary.told, "u+du+P");
+    EXPECT_EQ(diary.told.substr(diary.told.find('d')), "du+P");
 }
 
 TEST_F(Connection, aBusThatStopsAnsweringHoldsUpNothingButTheEnd) {

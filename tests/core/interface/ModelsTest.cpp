@@ -68,6 +68,24 @@ TEST(ObserverList, keepsWhatIsCalledUntilItReturnsThoughItsSubjectEnds) {
     EXPECT_TRUE(token.expired());
 }
 
+TEST(ObserverList, letsGoOfWhatAnObserverOwnsOnceItIsCancelled) {
+    ObserverList<> list;
+    for (const bool isCalled : {false, true}) {
+        auto owned = std::make_shared<Subscription>();
+        const std::weak_ptr<Subscription> token = owned;
+        *owned = list.add([&cancelled = *owned, isCalled, owned] {
+            if (isCalled)
+                cancelled.cancel();
+        });
+        Subscription& cancelled = *std::exchange(owned, nullptr);
+        if (isCalled)
+            list.notify();
+        else
+            cancelled.cancel();
+        EXPECT_TRUE(token.expired());
+    }
+}
+
 Record record(const char* name) { return makeRecord(Dictionary{{"name", name}}); }
 
 class Lists : public testing::Test {
@@ -92,6 +110,7 @@ TEST_F(Lists, findTheFirstOfEqualRecordsAlsoAfterRemovalsAndEdits) {
     EXPECT_EQ(names(), (std::vector<std::string>{"a", "b"}));
     list.removeObject(record("a"));
     EXPECT_EQ(list.indexOfObject(b), 0U);
+    EXPECT_FALSE(list.indexOfObject(a)) << "where another was removed";
     b->setObject("name", "c");
     EXPECT_EQ(list.indexOfObject(record("c")), 0U);
     EXPECT_FALSE(list.indexOfObject(record("b")));
@@ -143,6 +162,37 @@ TEST_F(Lists, findTheFirstOfEqualOnesAfterAnyAdditionsEditsAndRemovals) {
         }
         EXPECT_TRUE(std::ranges::equal(tested.arrangedObjects(), model));
     }
+}
+
+class Fetched final : public LateEntry {
+public:
+    std::string_view key() const override { return "text"; }
+    Value fetch(const std::string& note) const override { return "read from " + note; }
+};
+
+TEST(LateEntry, isFetchedUnlessAnEditTakesItsPlace) {
+    const auto late = std::make_shared<const Fetched>();
+    for (const auto& [edited, text] : {std::pair{"text", "new"}, {"name", "read from note"}}) {
+        MutableRecord tested(Dictionary{{"name", "old"}, {"text", "note"}}, late);
+        int edits = 0;
+        const Subscription counting = tested.observeEdits([&] { ++edits; });
+        tested.setObject(edited, "new");
+        EXPECT_EQ(*tested.contents().stringForKey("text"), text);
+        EXPECT_EQ(edits, 1);
+    }
+}
+
+TEST(RecordWatcher, isNotToldOnceAnotherHasEndedIt) {
+    MutableRecord watched(Dictionary{});
+    struct Watcher final : RecordWatcher {
+        void recordWasEdited(const MutableRecord&) override { onEdit(); }
+        std::function<void()> onEdit;
+    } first, second;
+    first.onEdit = [&] { watched.removeWatcher(second); };
+    second.onEdit = [] { FAIL(); };
+    for (Watcher* watcher : {&first, &second})
+        watched.addWatcher(*watcher);
+    watched.setObject("name", "new");
 }
 
 TEST_F(Lists, areToldOfAnEditOnceForEachTimeTheyListTheRecord) {
