@@ -239,7 +239,8 @@ void compare(bool isRead, int many) {
 } // namespace
 } // namespace zarvil
 
-/// Usage: zarvil-bench-device-list [COUNT]. With a display, an accessibility bus and
+/// Usage: zarvil-bench-device-list [COUNT]. With a display (QT_QPA_PLATFORM=xcb), an accessibility
+/// bus whose `org.a11y.Status` has `IsEnabled` and `ScreenReaderEnabled` set, and
 /// QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1, changes are announced on the way; else nobody listens.
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

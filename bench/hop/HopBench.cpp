@@ -5,6 +5,7 @@
 #include "protocol/BusNames.h"
 #include "protocol/Messages.h"
 #include "qt/binding/OutletBinder.h"
+#include "qt/devices/DeviceListView.h"
 #include "qt/pane/PaneView.h"
 
 #include <QAbstractButton>
@@ -18,12 +19,14 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <thread>
 #include <vector>
 
 /// What the pane adds to a message's way over the bus, out and in. The raw hop beside it takes the
 /// same message from connection to connection and paints the same box of the same layout, with
-/// nothing but Qt: no controller, models or bindings. To be run on a display and a session bus of
-/// its own.
+/// nothing but Qt: no controller, models or bindings. And how long the window stands still while
+/// thousands of devices come. To be run on a display and a session bus of its own.
 namespace {
 
 using namespace zarvil;
@@ -204,6 +207,66 @@ void messageToPaint(PaneOnBus& pane, BareLayout& bare, QDBusConnection agent,
         });
 }
 
+/// In microseconds, the longest time that the window stands still until then.
+template <typename Condition>
+double longestTurnUntil(Condition condition) {
+    constexpr std::chrono::microseconds wait(100);
+    double longest = 0;
+    while (!condition()) {
+        const auto start = BenchClock::now();
+        QCoreApplication::processEvents();
+        longest = std::max(longest, microsecondsSince(start));
+        // The others need the processor too.
+        std::this_thread::sleep_for(wait);
+    }
+    return longest;
+}
+
+QDBusMessage deviceList(std::string_view name, int first, int count) {
+    QVariantList devices;
+    for (int number = first; number < first + count; ++number) {
+        const QString text = QString::number(number);
+        devices.append(QVariantMap{{"DeviceName", "Power device " + text},
+                                   {"DeviceVendor", "Vendor"},
+                                   {"DeviceSerial", "SN-" + text}});
+    }
+    return signal(name, {{"devices", devices}});
+}
+
+/// Both lists in sight, filled by one message each; the agent sends from a thread of its own.
+void devicesToPaint(PaneOnBus& pane, const QDBusConnection& agent) {
+    constexpr int devices = 10'000;
+    constexpr int fillings = 3;
+    struct {
+        const char* list;
+        std::string_view message;
+        int first; ///< device; a saved one would not be listed as connected
+        ArrayController& content;
+    } const lists[] = {
+        {"connectedDevices", message::allConnectedDevices, 0, pane.real.arrayController},
+        {"selectedDevices", message::allSavedDevices, devices, pane.real.savedArrayController}};
+    pane.view.findChild<QTabWidget*>("tabView")->setCurrentIndex(0);
+    std::printf("Longest turn of the main loop while %d devices come:", devices);
+    for (int filling = 0; filling < fillings; ++filling) {
+        for (const auto& filled : lists) {
+            filled.content.removeAllArrangedObjects();
+            const QDBusMessage message = deviceList(filled.message, filled.first, devices);
+            auto* list = pane.view.findChild<qt::DeviceListView*>(filled.list);
+            longestTurnUntil([list] { return list->model()->rowCount() == 0; });
+            PaintWatch paint(*list->viewport());
+            std::thread sender([&agent, &message] { agent.send(message); });
+            const double turn = longestTurnUntil([&] {
+                if (list->model()->rowCount() < devices)
+                    paint.painted = false; // as an empty list
+                return paint.painted;
+            });
+            sender.join();
+            std::printf(" %.1f ms", turn / 1e3);
+        }
+    }
+    std::printf("\n");
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -222,6 +285,7 @@ int main(int argc, char* argv[]) {
     BareLayout bare;
     settingToSignal(pane, bare, connection("raw"), connection("listening"));
     messageToPaint(pane, bare, agent, connection("listening"));
+    devicesToPaint(pane, agent);
     return EXIT_SUCCESS;
 }
 

@@ -44,15 +44,19 @@ void Zarvil_Preferences::deviceDisconnected(const Message* message) {
 }
 
 void Zarvil_Preferences::allSavedDevices(const Message* message) {
-    savedArrayController.removeAllArrangedObjects();
-    forEachDevice(message,
-                  [this](const Dictionary& device) { addSavedDevice(makeRecord(device)); });
+    guidance.whileDevicesChange([this, message] {
+        savedArrayController.removeAllArrangedObjects();
+        forEachDevice(message,
+                      [this](const Dictionary& device) { addSavedDevice(makeRecord(device)); });
+    });
 }
 
 // Adds to the lists that stand; a reconnection is what empties them.
 void Zarvil_Preferences::allConnectedDevices(const Message* message) {
     devices.clear();
-    forEachDevice(message, [this](const Dictionary& device) { addDevice(makeRecord(device)); });
+    guidance.whileDevicesChange([this, message] {
+        forEachDevice(message, [this](const Dictionary& device) { addDevice(makeRecord(device)); });
+    });
 }
 
 // The displayed lists keep what they show, on purpose.

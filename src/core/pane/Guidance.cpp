@@ -43,8 +43,8 @@ Guidance::Guidance(Outlets& outlets, const StringTable& strings)
     chooseDevices.setAction("chooseDevices:");
     observeOutlets();
     showAgent();
-    showCount(connectedCount, outlets_.arrayController);
-    showCount(watchedCount, outlets_.savedArrayController);
+    showConnected();
+    showWatched();
     showWhatIsNotStored();
 }
 
@@ -55,14 +55,10 @@ void Guidance::observeOutlets() {
     };
     follow(outlets_.onDesc.hiddenProperty(), &Guidance::showStatus);
     follow(selectedTab_, &Guidance::showStatus);
-    subscriptions_.push_back(outlets_.arrayController.observe(
-        [this](const ListChange&) { showCount(connectedCount, outlets_.arrayController); }));
-    subscriptions_.push_back(outlets_.savedArrayController.observe([this](const ListChange&) {
-        showCount(watchedCount, outlets_.savedArrayController);
-        // It counts them only then.
-        if (isProtectionOn(outlets_))
-            showStatus();
-    }));
+    subscriptions_.push_back(
+        outlets_.arrayController.observe([this](const ListChange&) { showConnected(); }));
+    subscriptions_.push_back(
+        outlets_.savedArrayController.observe([this](const ListChange&) { showWatched(); }));
     follow(outlets_.toggleMinSec.enabledProperty(), &Guidance::showDelayHint);
     follow(outlets_.toggleMinSec.stateProperty(), &Guidance::showDelayHint);
     follow(outlets_.shutdownDelayText.enabledProperty(), &Guidance::showDelayHint);
@@ -108,6 +104,14 @@ void Guidance::deviceDidDisconnect(const Dictionary& device) {
 void Guidance::announceDevice(std::string_view words, const Dictionary& device) {
     if (!announcements_.empty())
         announce(strings_.localizedString(words, {deviceName(device, strings_)}));
+}
+
+void Guidance::whileDevicesChange(const std::function<void()>& change) {
+    manyDevicesChange_ = true;
+    change();
+    manyDevicesChange_ = false;
+    showConnected();
+    showWatched();
 }
 
 void Guidance::testDidChange(bool running) {
@@ -216,6 +220,20 @@ void Guidance::showAgent() {
         agentHint.setStringValue(text("Zarvil is not installed."));
     else
         agentHint.setStringValue(text("Launch it to see your devices and change the settings."));
+}
+
+void Guidance::showConnected() {
+    if (!manyDevicesChange_)
+        showCount(connectedCount, outlets_.arrayController);
+}
+
+void Guidance::showWatched() {
+    if (manyDevicesChange_)
+        return;
+    showCount(watchedCount, outlets_.savedArrayController);
+    // It counts them only then.
+    if (isProtectionOn(outlets_))
+        showStatus();
 }
 
 void Guidance::showCount(TextField& field, const ArrayController& list) {

@@ -34,6 +34,8 @@ public:
     void launchDidBegin(bool possible);
     void deviceDidConnect(const Dictionary& device);
     void deviceDidDisconnect(const Dictionary& device);
+    /// In the course of `change` many devices come and go: their number is told once, at the end.
+    void whileDevicesChange(const std::function<void()>& change);
     void testDidChange(bool running);
     /// The delay that the agent has, in seconds; nothing while it is not known.
     void delayDidChange(std::optional<std::int64_t> seconds);
@@ -94,6 +96,8 @@ private:
     void observeOutlets();
     void showStatus();
     void showAgent();
+    void showConnected();
+    void showWatched();
     void showCount(TextField& field, const ArrayController& list);
     void showDelayHint();
     void showTest();
@@ -107,6 +111,7 @@ private:
     bool busAnswers_ = true;
     bool launching_ = false;
     bool installed_ = true;
+    bool manyDevicesChange_ = false;
     bool testing_ = false;
     bool testEnded_ = false;
     bool lockClicked_ = false;
