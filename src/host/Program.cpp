@@ -109,6 +109,9 @@ int runOnDisplay(const CommandLine& commandLine, char** argv, FontThread& fonts)
         fonts.await(); // which reads the environment, which changes now
         hidden.emplace();
     }
+    // Qt takes it out of the environment, which they may be reading yet.
+    if (qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID"))
+        fonts.await();
     // Qt is shown the program's name alone: the options are ours.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);
