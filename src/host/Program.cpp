@@ -65,25 +65,29 @@ private:
 };
 
 /// Where its display goes, Qt ends the process by `exit`, in the midst of whatever it does. The
-/// libraries' ends would then take a pane apart that lacks Qt already.
+/// libraries' ends would then take a pane apart that lacks Qt already. Heeded on the thread that
+/// made it, while it lives.
 class DisplayLoss : NonCopyable {
 public:
-    /// Needs the application object: what was begun before it ends after this.
-    DisplayLoss() {
-        isHeeded_ = true;
-        std::atexit(endAtOnce);
-    }
-    ~DisplayLoss() { isHeeded_ = false; }
+    DisplayLoss() { exit().isHeeded = true; }
+    ~DisplayLoss() { exit().isHeeded = false; }
 
 private:
-    static void endAtOnce() {
-        if (!isHeeded_)
-            return;
-        std::fflush(nullptr);
-        std::_Exit(exitCode::unavailable);
-    }
+    /// What belongs to the thread that exits goes before anything else does.
+    struct Exit {
+        ~Exit() {
+            if (!isHeeded)
+                return;
+            std::fflush(nullptr);
+            std::_Exit(exitCode::unavailable);
+        }
+        bool isHeeded = false;
+    };
 
-    static inline bool isHeeded_ = false;
+    static Exit& exit() {
+        static thread_local Exit ofThisThread;
+        return ofThisThread;
+    }
 };
 
 /// For the last value before the program's end.
