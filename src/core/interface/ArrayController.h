@@ -54,7 +54,7 @@ public:
             using difference_type = std::ptrdiff_t;
 
             Iterator() = default;
-            Iterator(Entries::const_iterator entry, Entries::const_iterator end)
+            Iterator(const Entries::const_iterator& entry, const Entries::const_iterator& end)
                 : entry_(entry), end_(end) {
                 skipRemoved();
             }

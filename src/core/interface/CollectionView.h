@@ -125,6 +125,8 @@ private:
     /// alone.
     struct Row final : Chunked, Hashed<Row> {
         static std::unique_ptr<Row> make(std::string_view key, RecordSerial serial, Record record);
+        // What `make` asks for is more than a plain new would.
+        // NOLINTNEXTLINE(misc-new-delete-overloads)
         static void operator delete(void* memory) { ::operator delete(memory); }
         [[nodiscard]] std::size_t hashKey() const { return serial; }
         [[nodiscard]] std::string_view key() const {
